@@ -1053,34 +1053,6 @@
         <translation>المشكلات (%1)</translation>
     </message>
     <message>
-        <source>Can&apos;t read Tor&apos;s log</source>
-        <translation>لا يمكن قراءة سجل Tor</translation>
-    </message>
-    <message>
-        <source>No log yet</source>
-        <translation>لا سجل بعد</translation>
-    </message>
-    <message>
-        <source>No warnings or errors. Tor is happy.</source>
-        <translation>لا تحذيرات ولا أخطاء. لا يشكو Tor من شيء.</translation>
-    </message>
-    <message>
-        <source>Nothing matches</source>
-        <translation>لا نتائج مطابقة</translation>
-    </message>
-    <message>
-        <source>The log files in %1 aren&apos;t readable by your account. Reconnect once with this version of Veldmark to fix their permissions.</source>
-        <translation>لا يستطيع حسابك قراءة ملفات السجل في ⁨%1⁩. أعد الاتصال مرة واحدة بهذا الإصدار من Veldmark لإصلاح أذوناتها.</translation>
-    </message>
-    <message>
-        <source>Connect, and Tor&apos;s messages appear here as it starts. If Tor fails to start, the reason shows up here.</source>
-        <translation>اتصل، فتظهر رسائل Tor هنا أثناء بدئه. وإذا فشل Tor في البدء، يظهر السبب هنا.</translation>
-    </message>
-    <message>
-        <source>No lines contain “%1”</source>
-        <translation>لا سطر يحتوي «%1»</translation>
-    </message>
-    <message>
         <source>Show the log files in Finder</source>
         <translation>عرض ملفات السجل في Finder</translation>
     </message>

@@ -1053,34 +1053,6 @@
         <translation>Probleme (%1)</translation>
     </message>
     <message>
-        <source>Can&apos;t read Tor&apos;s log</source>
-        <translation>Tors Protokoll ist nicht lesbar</translation>
-    </message>
-    <message>
-        <source>No log yet</source>
-        <translation>Noch kein Protokoll</translation>
-    </message>
-    <message>
-        <source>No warnings or errors. Tor is happy.</source>
-        <translation>Keine Warnungen oder Fehler. Tor ist zufrieden.</translation>
-    </message>
-    <message>
-        <source>Nothing matches</source>
-        <translation>Nichts passt</translation>
-    </message>
-    <message>
-        <source>The log files in %1 aren&apos;t readable by your account. Reconnect once with this version of Veldmark to fix their permissions.</source>
-        <translation>Ihr Konto darf die Protokolldateien in %1 nicht lesen. Verbinden Sie sich mit dieser Version von Veldmark einmal neu, um ihre Rechte zu berichtigen.</translation>
-    </message>
-    <message>
-        <source>Connect, and Tor&apos;s messages appear here as it starts. If Tor fails to start, the reason shows up here.</source>
-        <translation>Verbinden Sie sich, dann erscheinen hier Tors Meldungen beim Start. Startet Tor nicht, steht hier der Grund.</translation>
-    </message>
-    <message>
-        <source>No lines contain “%1”</source>
-        <translation>Keine Zeile enthält „%1“</translation>
-    </message>
-    <message>
         <source>Show the log files in Finder</source>
         <translation>Zeigt die Protokolldateien im Finder</translation>
     </message>

@@ -1053,34 +1053,6 @@
         <translation>Problemas (%1)</translation>
     </message>
     <message>
-        <source>Can&apos;t read Tor&apos;s log</source>
-        <translation>No se puede leer el registro de Tor</translation>
-    </message>
-    <message>
-        <source>No log yet</source>
-        <translation>Aún no hay registro</translation>
-    </message>
-    <message>
-        <source>No warnings or errors. Tor is happy.</source>
-        <translation>Sin advertencias ni errores. Tor va bien.</translation>
-    </message>
-    <message>
-        <source>Nothing matches</source>
-        <translation>Sin coincidencias</translation>
-    </message>
-    <message>
-        <source>The log files in %1 aren&apos;t readable by your account. Reconnect once with this version of Veldmark to fix their permissions.</source>
-        <translation>Su cuenta no puede leer los archivos de registro en %1. Vuelva a conectarse una vez con esta versión de Veldmark para corregir sus permisos.</translation>
-    </message>
-    <message>
-        <source>Connect, and Tor&apos;s messages appear here as it starts. If Tor fails to start, the reason shows up here.</source>
-        <translation>Al conectarse, aquí aparecen los mensajes de Tor mientras arranca. Si Tor no consigue arrancar, aquí se ve el motivo.</translation>
-    </message>
-    <message>
-        <source>No lines contain “%1”</source>
-        <translation>Ninguna línea contiene «%1»</translation>
-    </message>
-    <message>
         <source>Show the log files in Finder</source>
         <translation>Mostrar los archivos de registro en el Finder</translation>
     </message>

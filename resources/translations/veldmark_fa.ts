@@ -1053,34 +1053,6 @@
         <translation>مشکل‌ها (%1)</translation>
     </message>
     <message>
-        <source>Can&apos;t read Tor&apos;s log</source>
-        <translation>نمی‌توان گزارش Tor را خواند</translation>
-    </message>
-    <message>
-        <source>No log yet</source>
-        <translation>هنوز گزارشی نیست</translation>
-    </message>
-    <message>
-        <source>No warnings or errors. Tor is happy.</source>
-        <translation>هشدار یا خطایی نیست. حال Tor خوب است.</translation>
-    </message>
-    <message>
-        <source>Nothing matches</source>
-        <translation>چیزی پیدا نشد</translation>
-    </message>
-    <message>
-        <source>The log files in %1 aren&apos;t readable by your account. Reconnect once with this version of Veldmark to fix their permissions.</source>
-        <translation>حساب شما نمی‌تواند پرونده‌های گزارش در ⁨%1⁩ را بخواند. یک بار با این نسخهٔ Veldmark دوباره وصل شوید تا مجوزهایشان درست شود.</translation>
-    </message>
-    <message>
-        <source>Connect, and Tor&apos;s messages appear here as it starts. If Tor fails to start, the reason shows up here.</source>
-        <translation>وصل شوید تا پیام‌های Tor هنگام شروع این‌جا نشان داده شوند. اگر Tor شروع نشود، علت آن این‌جا می‌آید.</translation>
-    </message>
-    <message>
-        <source>No lines contain “%1”</source>
-        <translation>هیچ خطی شامل «⁨%1⁩» نیست</translation>
-    </message>
-    <message>
         <source>Show the log files in Finder</source>
         <translation>نمایش پرونده‌های گزارش در Finder</translation>
     </message>

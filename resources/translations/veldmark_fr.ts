@@ -1053,34 +1053,6 @@
         <translation>Problèmes (%1)</translation>
     </message>
     <message>
-        <source>Can&apos;t read Tor&apos;s log</source>
-        <translation>Impossible de lire le journal de Tor</translation>
-    </message>
-    <message>
-        <source>No log yet</source>
-        <translation>Pas encore de journal</translation>
-    </message>
-    <message>
-        <source>No warnings or errors. Tor is happy.</source>
-        <translation>Ni avertissement ni erreur. Tor va bien.</translation>
-    </message>
-    <message>
-        <source>Nothing matches</source>
-        <translation>Aucun résultat</translation>
-    </message>
-    <message>
-        <source>The log files in %1 aren&apos;t readable by your account. Reconnect once with this version of Veldmark to fix their permissions.</source>
-        <translation>Votre compte ne peut pas lire les fichiers journaux dans %1. Reconnectez-vous une fois avec cette version de Veldmark pour corriger leurs permissions.</translation>
-    </message>
-    <message>
-        <source>Connect, and Tor&apos;s messages appear here as it starts. If Tor fails to start, the reason shows up here.</source>
-        <translation>Connectez-vous et les messages de Tor apparaissent ici dès son démarrage. Si Tor ne démarre pas, la raison s’affiche ici.</translation>
-    </message>
-    <message>
-        <source>No lines contain “%1”</source>
-        <translation>Aucune ligne ne contient « %1 »</translation>
-    </message>
-    <message>
         <source>Show the log files in Finder</source>
         <translation>Afficher les fichiers journaux dans le Finder</translation>
     </message>

@@ -1053,34 +1053,6 @@
         <translation>Problemas (%1)</translation>
     </message>
     <message>
-        <source>Can&apos;t read Tor&apos;s log</source>
-        <translation>Não é possível ler o registro do Tor</translation>
-    </message>
-    <message>
-        <source>No log yet</source>
-        <translation>Ainda não há registro</translation>
-    </message>
-    <message>
-        <source>No warnings or errors. Tor is happy.</source>
-        <translation>Sem avisos nem erros. O Tor vai bem.</translation>
-    </message>
-    <message>
-        <source>Nothing matches</source>
-        <translation>Nenhum resultado</translation>
-    </message>
-    <message>
-        <source>The log files in %1 aren&apos;t readable by your account. Reconnect once with this version of Veldmark to fix their permissions.</source>
-        <translation>Sua conta não tem permissão para ler os arquivos de registro em %1. Reconecte uma vez com esta versão do Veldmark para corrigir as permissões deles.</translation>
-    </message>
-    <message>
-        <source>Connect, and Tor&apos;s messages appear here as it starts. If Tor fails to start, the reason shows up here.</source>
-        <translation>Conecte, e as mensagens do Tor aparecem aqui enquanto ele inicia. Se o Tor não conseguir iniciar, o motivo aparece aqui.</translation>
-    </message>
-    <message>
-        <source>No lines contain “%1”</source>
-        <translation>Nenhuma linha contém “%1”</translation>
-    </message>
-    <message>
         <source>Show the log files in Finder</source>
         <translation>Mostra os arquivos de registro no Finder</translation>
     </message>

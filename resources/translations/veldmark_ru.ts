@@ -1053,34 +1053,6 @@
         <translation>Проблемы (%1)</translation>
     </message>
     <message>
-        <source>Can&apos;t read Tor&apos;s log</source>
-        <translation>Не удаётся прочитать журнал Tor</translation>
-    </message>
-    <message>
-        <source>No log yet</source>
-        <translation>Журнала пока нет</translation>
-    </message>
-    <message>
-        <source>No warnings or errors. Tor is happy.</source>
-        <translation>Ни предупреждений, ни ошибок. Tor всем доволен.</translation>
-    </message>
-    <message>
-        <source>Nothing matches</source>
-        <translation>Ничего не найдено</translation>
-    </message>
-    <message>
-        <source>The log files in %1 aren&apos;t readable by your account. Reconnect once with this version of Veldmark to fix their permissions.</source>
-        <translation>У вашей учётной записи нет доступа к файлам журнала в %1. Один раз переподключитесь с этой версией Veldmark, чтобы исправить права доступа.</translation>
-    </message>
-    <message>
-        <source>Connect, and Tor&apos;s messages appear here as it starts. If Tor fails to start, the reason shows up here.</source>
-        <translation>Подключитесь, и здесь появятся сообщения Tor о запуске. Если Tor не запустится, причина будет указана здесь.</translation>
-    </message>
-    <message>
-        <source>No lines contain “%1”</source>
-        <translation>Нет строк, содержащих «%1»</translation>
-    </message>
-    <message>
         <source>Show the log files in Finder</source>
         <translation>Показать файлы журнала в Finder</translation>
     </message>

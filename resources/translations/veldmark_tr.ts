@@ -1053,34 +1053,6 @@
         <translation>Sorunlar (%1)</translation>
     </message>
     <message>
-        <source>Can&apos;t read Tor&apos;s log</source>
-        <translation>Tor günlüğü okunamıyor</translation>
-    </message>
-    <message>
-        <source>No log yet</source>
-        <translation>Henüz günlük yok</translation>
-    </message>
-    <message>
-        <source>No warnings or errors. Tor is happy.</source>
-        <translation>Uyarı ya da hata yok. Tor&apos;un keyfi yerinde.</translation>
-    </message>
-    <message>
-        <source>Nothing matches</source>
-        <translation>Eşleşme yok</translation>
-    </message>
-    <message>
-        <source>The log files in %1 aren&apos;t readable by your account. Reconnect once with this version of Veldmark to fix their permissions.</source>
-        <translation>Hesabınız şu konumdaki günlük dosyalarını okuyamıyor: %1. İzinleri düzeltmek için Veldmark&apos;ın bu sürümüyle bir kez yeniden bağlanın.</translation>
-    </message>
-    <message>
-        <source>Connect, and Tor&apos;s messages appear here as it starts. If Tor fails to start, the reason shows up here.</source>
-        <translation>Bağlandığınızda Tor&apos;un iletileri, Tor başlarken burada görünür. Tor başlatılamazsa nedeni burada yazar.</translation>
-    </message>
-    <message>
-        <source>No lines contain “%1”</source>
-        <translation>“%1” içeren satır yok</translation>
-    </message>
-    <message>
         <source>Show the log files in Finder</source>
         <translation>Günlük dosyalarını Finder&apos;da gösterir</translation>
     </message>

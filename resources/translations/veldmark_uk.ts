@@ -1053,34 +1053,6 @@
         <translation>Проблеми (%1)</translation>
     </message>
     <message>
-        <source>Can&apos;t read Tor&apos;s log</source>
-        <translation>Не вдається прочитати журнал Tor</translation>
-    </message>
-    <message>
-        <source>No log yet</source>
-        <translation>Журналу ще немає</translation>
-    </message>
-    <message>
-        <source>No warnings or errors. Tor is happy.</source>
-        <translation>Жодних попереджень чи помилок. У Tor усе гаразд.</translation>
-    </message>
-    <message>
-        <source>Nothing matches</source>
-        <translation>Збігів немає</translation>
-    </message>
-    <message>
-        <source>The log files in %1 aren&apos;t readable by your account. Reconnect once with this version of Veldmark to fix their permissions.</source>
-        <translation>Ваш обліковий запис не може читати файли журналу в %1. Під’єднайтеся знову один раз із цією версією Veldmark, щоб виправити права доступу до них.</translation>
-    </message>
-    <message>
-        <source>Connect, and Tor&apos;s messages appear here as it starts. If Tor fails to start, the reason shows up here.</source>
-        <translation>Коли ви під’єднаєтеся, тут з’являться повідомлення Tor про запуск. Якщо Tor не запуститься, тут буде видно причину.</translation>
-    </message>
-    <message>
-        <source>No lines contain “%1”</source>
-        <translation>Немає рядків, що містять «%1»</translation>
-    </message>
-    <message>
         <source>Show the log files in Finder</source>
         <translation>Показати файли журналу у Finder</translation>
     </message>

@@ -1053,34 +1053,6 @@
         <translation>问题（%1）</translation>
     </message>
     <message>
-        <source>Can&apos;t read Tor&apos;s log</source>
-        <translation>无法读取 Tor 的日志</translation>
-    </message>
-    <message>
-        <source>No log yet</source>
-        <translation>尚无日志</translation>
-    </message>
-    <message>
-        <source>No warnings or errors. Tor is happy.</source>
-        <translation>没有警告或错误。Tor 运行正常。</translation>
-    </message>
-    <message>
-        <source>Nothing matches</source>
-        <translation>无匹配项</translation>
-    </message>
-    <message>
-        <source>The log files in %1 aren&apos;t readable by your account. Reconnect once with this version of Veldmark to fix their permissions.</source>
-        <translation>您的账户无法读取 %1 中的日志文件。请用此版本的 Veldmark 重新连接一次，以修复其权限。</translation>
-    </message>
-    <message>
-        <source>Connect, and Tor&apos;s messages appear here as it starts. If Tor fails to start, the reason shows up here.</source>
-        <translation>连接后，Tor 启动时的消息会显示在这里。如果 Tor 启动失败，原因也会显示在这里。</translation>
-    </message>
-    <message>
-        <source>No lines contain “%1”</source>
-        <translation>没有包含“%1”的行</translation>
-    </message>
-    <message>
         <source>Show the log files in Finder</source>
         <translation>在访达中显示日志文件</translation>
     </message>

@@ -156,29 +156,21 @@ QString LogModel::emptySymbol() const
         : QStringLiteral("line.3.horizontal.decrease.circle");
 }
 
+std::optional<TorLogFilter::Placeholder> LogModel::placeholder() const
+{
+    return m_filter.placeholder(m_feed.snapshot(), m_shown, m_profile.runDirectory);
+}
+
 QString LogModel::emptyTitle() const
 {
-    if (m_feed.snapshot().kind() == LogFeed::State::unreadable)
-        return tr("Can't read Tor's log");
-    if (m_feed.snapshot().kind() == LogFeed::State::empty)
-        return tr("No log yet");
-    return m_filter.search.trimmed().isEmpty() ? tr("No warnings or errors. Tor is happy.")
-                                               : tr("Nothing matches");
+    const auto words = placeholder();
+    return words ? words->title.translated() : QString();
 }
 
 QString LogModel::emptyText() const
 {
-    if (m_feed.snapshot().kind() == LogFeed::State::unreadable)
-        return tr("The log files in %1 aren't readable by your account. Reconnect once with this version "
-                  "of Veldmark to fix their permissions.")
-            .arg(m_profile.runDirectory);
-    if (m_feed.snapshot().kind() == LogFeed::State::empty)
-        return tr(
-            "Connect, and Tor's messages appear here as it starts. If Tor fails to start, the reason "
-            "shows up here.");
-    return m_filter.search.trimmed().isEmpty()
-        ? QString()
-        : tr("No lines contain “%1”").arg(m_filter.search.trimmed());
+    const auto words = placeholder();
+    return words ? words->text.translated() : QString();
 }
 
 QString LogModel::showHelp() const
@@ -189,11 +181,9 @@ QString LogModel::showHelp() const
 
 void LogModel::copy(int first, int last) const
 {
-    QStringList text;
     const int end = last < 0 ? rowCount() - 1 : std::min(last, rowCount() - 1);
-    for (int row = std::max(first, 0); row <= end; ++row)
-        text << m_shown.at(row).raw;
-    QGuiApplication::clipboard()->setText(text.join(u'\n'));
+    const int start = std::max(first, 0);
+    copyText(TorLogFilter::copyText(m_shown.mid(start, std::max(end - start + 1, 0))));
 }
 
 void LogModel::copyText(const QString &text) const

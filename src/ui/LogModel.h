@@ -67,6 +67,7 @@ Q_SIGNALS:
 
 private:
     void update();
+    std::optional<TorLogFilter::Placeholder> placeholder() const;
     void openFolder();
     void setRevealProblem(const QString &problem);
     QString noticesPath() const { return m_profile.runDirectory + QStringLiteral("/notices.log"); }

@@ -114,8 +114,8 @@ private:
             QTest::keyClick(window, isLast ? Qt::Key_Up : Qt::Key_Down);
         } else {
             for (QQuickItem *above = item->parentItem(); above; above = above->parentItem())
-                // its last rows may be scrolled out of view
-                if (above->inherits("QQuickListView")) {
+                // its lower part may be scrolled out of view
+                if (above->inherits("QQuickFlickable")) {
                     const double end = item->mapToItem(above, QPointF(0, item->height())).y()
                         - above->height();
                     if (end > 0)
@@ -184,9 +184,11 @@ private Q_SLOTS:
             }
             for (qsizetype place = 0; place < texts.size(); ++place) {
                 const QString text = texts.at(place);
-                if (pressed.contains(text))
+                // equal words in another pane of the settings are another button
+                const QString button = scene.name.section(u'/', 0, 0) + u' ' + text;
+                if (pressed.contains(button))
                     continue;
-                pressed << text;
+                pressed << button;
                 Stage stage;
                 QGuiApplication::clipboard()->clear();
                 QVERIFY(openTall(scene, stage));
@@ -224,6 +226,16 @@ private:
                      return stage.open(QStringLiteral("main/MainWindow.qml"),
                                        panelProperties(stage));
                  }});
+        const auto openPopup = [](Stage &stage) {
+            stage.session.show(Scenes::protectedSession());
+            return stage.open(QStringLiteral("main/PanelPopup.qml"), panelProperties(stage));
+        };
+        scenes.push_back({QStringLiteral("popup"), openPopup});
+        scenes.push_back({QStringLiteral("popup/applications"), [openPopup](Stage &stage) {
+                              QQuickWindow *window = openPopup(stage);
+                              openSheet(window, "applications");
+                              return window;
+                          }});
         for (const WindowScene &scene : windowScenes())
             scenes.push_back(scene);
         return scenes;

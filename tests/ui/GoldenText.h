@@ -21,6 +21,9 @@ inline QString described(QQuickItem *item)
             return {};
     QString text = item->property("text").toString();
     if (!isControl(item)) {
+        if (item->objectName() == QLatin1String("help sign")) // shows its text when it is pointed
+                                                              // at
+            return QStringLiteral("  ! %1\n").arg(text);
         const bool isText = item->inherits("QQuickText") || item->inherits("QQuickTextEdit");
         return isText && !text.isEmpty() ? QStringLiteral("  ") + text.replace(u'\n', u'/') + u'\n'
                                          : QString();

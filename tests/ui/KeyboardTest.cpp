@@ -1,6 +1,7 @@
 #include "Scenes.h"
 #include "Stage.h"
 
+#include <QDesktopServices>
 #include <QQuickItem>
 #include <QSignalSpy>
 #include <QTest>
@@ -46,6 +47,11 @@ class KeyboardTest : public QObject {
                 return found;
         return nullptr;
     }
+
+    QStringList m_opened; // web pages
+
+public Q_SLOTS:
+    void openPage(const QUrl &url) { m_opened << url.toString(); }
 
 private Q_SLOTS:
     void initTestCase()
@@ -193,22 +199,24 @@ private Q_SLOTS:
             QVERIFY2(window->isVisible(), name);
         }
 
-        QQuickItem *list = nullptr;
+        QList<QQuickItem *> lists;
         const std::function<void(QQuickItem *)> look = [&](QQuickItem *item) {
-            if (!list && item->inherits("QQuickComboBox"))
-                list = item;
+            if (item->inherits("QQuickComboBox"))
+                lists << item;
             for (QQuickItem *child : item->childItems())
                 look(child);
         };
         look(window->contentItem());
-        QVERIFY(list);
-        auto *popup = list->property("popup").value<QObject *>();
-        list->forceActiveFocus(Qt::TabFocusReason);
-        QTest::keyClick(window, Qt::Key_Space);
-        QVERIFY(QTest::qWaitFor([&] { return popup->property("opened").toBool(); }));
-        QTest::keyClick(window, Qt::Key_Escape);
-        QVERIFY(QTest::qWaitFor([&] { return !popup->property("visible").toBool(); }));
-        QVERIFY(window->isVisible());
+        QCOMPARE(lists.size(), 2); // the exit's country and the bridges
+        for (QQuickItem *list : lists) {
+            auto *popup = list->property("popup").value<QObject *>();
+            list->forceActiveFocus(Qt::TabFocusReason);
+            QTest::keyClick(window, Qt::Key_Space);
+            QVERIFY(QTest::qWaitFor([&] { return popup->property("opened").toBool(); }));
+            QTest::keyClick(window, Qt::Key_Escape);
+            QVERIFY(QTest::qWaitFor([&] { return !popup->property("visible").toBool(); }));
+            QVERIFY(window->isVisible());
+        }
         QTest::keyClick(window, Qt::Key_Escape);
         QVERIFY(QTest::qWaitFor([&] { return !window->isVisible(); }));
 
@@ -361,15 +369,21 @@ private Q_SLOTS:
         stage.session.show(Snapshot());
         QVariantMap about = with(&stage.settings);
         about.insert(QStringLiteral("pane"), 5);
-        const auto hasLink = [&] {
+        const auto link = [&] {
             QQuickWindow *window = stage.open(QStringLiteral("settings/SettingsWindow.qml"), about);
             stage.picture();
-            return named(window->contentItem(), QStringLiteral("Veldmark")) != nullptr;
+            return named(window->contentItem(), QStringLiteral("Veldmark"));
         };
         QVERIFY(stage.profile.homePage.isEmpty()); // so far
-        QVERIFY(!hasLink());
+        QVERIFY(!link());
         stage.profile.homePage = QStringLiteral("https://veldmark.example/");
-        QVERIFY(hasLink());
+        QQuickItem *shown = link();
+        QVERIFY(shown);
+        QDesktopServices::setUrlHandler(QStringLiteral("https"), this, "openPage");
+        shown->forceActiveFocus(Qt::TabFocusReason);
+        QTest::keyClick(stage.window(), Qt::Key_Space);
+        QDesktopServices::unsetUrlHandler(QStringLiteral("https"));
+        QCOMPARE(m_opened, QStringList(stage.profile.homePage));
     }
 
     void theLookUpsOfAnEndedSessionAreNotShown()

@@ -116,6 +116,8 @@ std::vector<Scene> panel()
     s.choices.exitCountry = QStringLiteral("de");
     s.choices.bridgeChoice = BridgeChoice::snowflake;
     add("disconnected-proxy-country-bridges-missing", s);
+    s.transportDownload = Text::tr("Starting…");
+    add("disconnected-proxy-downloading", s);
     s = idle;
     s.torPath.reset();
     add("disconnected-no-tor", s);
@@ -159,6 +161,9 @@ std::vector<Scene> panel()
     s.canCancel = true;
     s.statusDetail = QStringLiteral("Asking for relay descriptors");
     add("connecting-strict", s);
+    s.bootstrapProblem = Text::tr("Tor reports: %1.").arg(QStringLiteral("Connection refused"));
+    add("connecting-strict-waiting", s);
+    s.bootstrapProblem.reset();
     s.activeMode = RoutingMode::proxy;
     s.choices.strictMode = false;
     s.bootstrapProgress = 1;
@@ -173,6 +178,10 @@ std::vector<Scene> panel()
     add("connected-strict-verified", s);
     s.activeBridge = BridgeChoice::snowflake;
     add("connected-strict-bridge", s);
+    s = protectedSession();
+    s.isOptimizing = true;
+    s.optimizeStatus = Text::tr("Testing speed (%1 of %2)…").arg(1).arg(3);
+    add("connected-strict-optimizing", s);
     s = protectedSession();
     s.exitIP.reset();
     s.torVerified.reset();

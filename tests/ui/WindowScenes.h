@@ -51,6 +51,13 @@ inline void addCircuitScenes(std::vector<WindowScene> &scenes)
     Snapshot session = Scenes::protectedSession();
     circuits("circuits", session);
     circuits("circuits/followed", session, QStringLiteral("13"));
+    circuits("circuits/linked leg", session, QStringLiteral("12"));
+    session.circuits[2].onionService = QStringLiteral("hidden.onion");
+    circuits("circuits/onion service", session, QStringLiteral("13"));
+    session = Scenes::protectedSession();
+    session.circuitError = QStringLiteral("Tor closed the control connection.");
+    circuits("circuits/not read again", session);
+    session.circuitError.reset();
     session.isOptimizing = true;
     session.optimizeStatus = QStringLiteral("Testing speed (1 of 3)…");
     circuits("circuits/optimizing", session);
@@ -82,6 +89,13 @@ inline void addLogScenes(std::vector<WindowScene> &scenes)
         [](LogModel &model) { model.setProblemsOnly(true); });
     log("log/empty", LogFeed::State::empty, 0, [](LogModel &) {});
     log("log/unreadable", LogFeed::State::unreadable, 0, [](LogModel &) {});
+    scenes.push_back({QStringLiteral("log/no files"), [](Stage &stage) {
+                          stage.profile.runDirectory = QStringLiteral("/nowhere");
+                          QQuickWindow *window = stage.open(QStringLiteral("log/LogWindow.qml"),
+                                                            modelProperty(&stage.lines));
+                          stage.lines.reveal();
+                          return window;
+                      }});
 }
 
 inline void addSettingsScenes(std::vector<WindowScene> &scenes)
@@ -109,6 +123,20 @@ inline void addSettingsScenes(std::vector<WindowScene> &scenes)
     const std::array<std::pair<const char *, Snapshot>, 3> states{
         {{"bare", bare}, {"with errors", failed}, {"full", full}}};
     static constexpr std::array panes{"general", "tor", "bridges", "terminal", "recovery", "about"};
+    scenes.push_back({QStringLiteral("settings bridges/bundle, downloading"), [full](Stage &stage) {
+                          Snapshot session = full;
+                          session.transportDownload = Text::tr("Starting…");
+                          stage.session.show(session);
+                          QDir().mkpath(stage.profile.bundleDirectory);
+                          QFile version(stage.profile.bundleDirectory + QStringLiteral("/VERSION"));
+                          if (version.open(QIODevice::WriteOnly))
+                              version.write("14.0.4\n");
+                          version.close();
+                          QVariantMap properties = modelProperty(&stage.settings);
+                          properties.insert(QStringLiteral("pane"), 2);
+                          return stage.open(QStringLiteral("settings/SettingsWindow.qml"),
+                                            properties);
+                      }});
     for (int pane = 0; pane < static_cast<int>(panes.size()); ++pane) {
         for (const auto &[state, snapshot] : states) {
             scenes.push_back(

@@ -4,7 +4,9 @@
 #include "support/TestProgram.h"
 #include "support/Workbench.h"
 
+#include <QApplication>
 #include <QDir>
+#include <QFileDialog>
 #include <QGuiApplication>
 #include <QSignalSpy>
 #include <QTest>
@@ -151,15 +153,20 @@ private Q_SLOTS:
         QVERIFY2(main->height() > before, qPrintable(QString::number(before))); // the banner's
                                                                                 // height
         const int content = main->height();
-        main->resize(main->width(), before); // a late resize by the window manager is not the
-                                             // user's
+        main->resize(main->width(), before); // the window manager repeats an earlier height
         settle();
         small.errorMessage.reset();
         shown.session.show(small);
-        settle();
-        main->resize(main->width(), 512);
+        main->grabWindow();
         settle();
         small.errorMessage = u"Tor stopped running"_s;
+        shown.session.show(small);
+        main->grabWindow();
+        settle();
+        QCOMPARE(main->height(), content);
+        main->resize(main->width(), 512);
+        settle();
+        small.errorMessage.reset();
         shown.session.show(small);
         main->grabWindow();
         settle();
@@ -309,6 +316,59 @@ private Q_SLOTS:
         QVERIFY(shown.windows->open(u"circuits"_s));
         settle();
         QCOMPARE(read(), 1);
+        shown.windows->find(u"circuits"_s)->showMinimized();
+        settle();
+        shown.session.show(Snapshot());
+        shown.session.show(connected);
+        QCOMPARE(read(), 0);
+        shown.windows->find(u"circuits"_s)->showNormal();
+        settle();
+        QCOMPARE(read(), 1);
+    }
+
+    void thePanelAtTheTrayLeadsWhereTheWindowLeads()
+    {
+        Shown shown;
+        QSignalSpy quit(shown.windows.get(), &Windows::quitWanted);
+        shown.windows->togglePanel(QRect(0, 0, 10, 10));
+        QQuickWindow *panel = shown.windows->find(u"panel"_s);
+        QVERIFY(panel && panel->isVisible());
+        QCOMPARE(panel->width(), 380);
+        QVERIFY(QMetaObject::invokeMethod(panel, "windowWanted", Q_ARG(QString, u"log"_s)));
+        QVERIFY(shown.windows->find(u"log"_s)->isVisible());
+        QVERIFY(QMetaObject::invokeMethod(panel, "chooserWanted"));
+        QVERIFY(shown.windows->find(u"chooser"_s)->isVisible());
+        QVERIFY(QMetaObject::invokeMethod(panel, "quitWanted"));
+        QCOMPARE(quit.count(), 1);
+        shown.windows->find(u"log"_s)->requestActivate(); // another window is used
+        QVERIFY(until([&] { return !panel->isVisible(); }));
+    }
+
+    // Without a bus the questions are Qt's own dialogues.
+    void aFileIsChosenForTorAndEntriesForApplications()
+    {
+        Shown shown;
+        const auto answer = [](const QString &title, const QString &file) {
+            for (QWidget *widget : QApplication::topLevelWidgets()) {
+                auto *dialog = qobject_cast<QFileDialog *>(widget);
+                if (!dialog || !dialog->isVisible() || dialog->windowTitle() != title)
+                    continue;
+                Q_EMIT dialog->filesSelected({file});
+                dialog->close();
+                return true;
+            }
+            return false;
+        };
+        QVERIFY(shown.windows->open(u"settings"_s));
+        QVERIFY(QMetaObject::invokeMethod(shown.windows->find(u"settings"_s), "torChooserWanted"));
+        QVERIFY(until([&] { return answer(u"Select the tor executable"_s, u"/opt/tor"_s); }));
+        QCOMPARE(shown.session.now().choices.customTorPath, u"/opt/tor"_s);
+        QVERIFY(shown.windows->open(u"chooser"_s));
+        QVERIFY(QMetaObject::invokeMethod(shown.windows->find(u"chooser"_s), "fileWanted"));
+        const QString entry = u"/usr/share/applications/own.desktop"_s;
+        QVERIFY(until(
+            [&] { return answer(u"Choose apps that may skip Tor in strict mode"_s, entry); }));
+        QCOMPARE(shown.session.now().choices.bypassApps, QStringList(entry));
     }
 
     void theChooserStandsInForFilesWhereEntriesAreFiles()

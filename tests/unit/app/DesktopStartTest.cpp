@@ -9,6 +9,8 @@
 #include <QFileInfo>
 #include <QTest>
 
+#include <algorithm>
+
 #include <poll.h>
 #include <unistd.h>
 
@@ -195,6 +197,31 @@ private Q_SLOTS:
         QVERIFY(application.start(true, false));
         QTRY_VERIFY(application.tray());
         QVERIFY(!isMainShown(application));
+    }
+
+    void theTrayOpensThePanelAndAsksBeforeItQuits()
+    {
+        const StatusNotifierWatcher watcher(bus.connection());
+        const Computer computer;
+        write(computer.profile.sessionMarker, "strict\n");
+        Application application(computer.profile);
+        QVERIFY(application.start(true, false));
+        QTRY_VERIFY(application.tray());
+        auto *tray = const_cast<Tray *>(application.tray());
+        Q_EMIT tray->panelWanted();
+        const QQuickWindow *panel = application.windows().find(u"panel"_s);
+        QVERIFY(panel && panel->isVisible());
+        Q_EMIT tray->panelWanted();
+        QVERIFY(!panel->isVisible());
+        Q_EMIT tray->quitWanted();
+        const auto asks = [] {
+            const QWindowList windows = QGuiApplication::topLevelWindows();
+            return std::any_of(windows.begin(), windows.end(), [](const QWindow *window) {
+                return window->isVisible() && window->title() == u"Quit Veldmark"_s;
+            });
+        };
+        QTRY_VERIFY(asks());
+        QVERIFY(computer.verbs().isEmpty());
     }
 
     void aTrayThatWasFoundBeforeTheStartIsUsed()

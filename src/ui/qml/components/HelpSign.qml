@@ -5,6 +5,7 @@ import Veldmark
 // A symbol that shows its help when the pointer or the keyboard focus reaches it. It cannot be pressed.
 T.Control {
     id: sign
+    objectName: "help sign"
     required property string symbol
     required property string text
     property color color: Theme.quiet
