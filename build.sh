@@ -14,10 +14,10 @@ usage: ./build.sh VERB
            (./build.sh test controller lab) only theirs
   fresh-test
            demo, test and package as a stranger runs them: from a clone of the last commit on a clean Debian 12
-  asan     the unit tests under the address and undefined-behaviour sanitizers
-  tsan     the tests whose work crosses threads, under the thread sanitizer
+  asan     the unit tests under the address and undefined-behaviour sanitizers; with names of rooms only theirs
+  tsan     the tests whose work crosses threads, under the thread sanitizer (--quick: one room's)
   apple    what a Mac compiles, under clang and libc++: syntax and types only (./build.sh apple [PART OF A PATH...])
-  coverage which lines of src/ the unit tests run
+  coverage which lines of src/ the unit tests run; with names of rooms only theirs
   format   rewrites the sources that are not as clang-format and black write them
   mutate   small mistakes put into a clone of the last commit, one at a time, and which of them no test notices
            (./build.sh mutate [ROOM...] [--count N] [--seed S]; rooms are also qml, helper and helper_mac)
@@ -29,7 +29,7 @@ usage: ./build.sh VERB
            install, use, upgrade and remove that package on a clean Debian 12, in the private Tor network
   machine-test
            the package on a whole booted Debian 12 with its desktops, in the private Tor network
-  dist     make the source archive build/veldmark-VERSION.tar.gz, and build it once without a network
+  dist     make the source archive build/veldmark-VERSION.tar.gz, and build it once without a network (--quick: a part of it)
 TEXT
 }
 
@@ -123,6 +123,28 @@ test_targets() {
     done
 }
 
+# compile_rooms PRESET ROOM...: compiles the unit tests of these rooms; all without a name.
+compile_rooms() {
+    local preset=$1 room
+    local -a targets=()
+    shift
+    for room in "$@"; do
+        [[ -d tests/unit/$room ]] || die "there is no room '$room'; rooms: $(cd tests/unit && echo *)"
+        targets+=("test-$room")
+    done
+    compile "$preset" ${targets[@]+"${targets[@]}"}
+}
+
+# take_names WORD...: sets `names` to the words before the first option, and `rest` to the others.
+take_names() {
+    names=()
+    while [[ $# -gt 0 && $1 != -* ]]; do
+        names+=("$1")
+        shift
+    done
+    rest=("$@")
+}
+
 # Runs git, also in a checkout that belongs to another user.
 own_git() {
     git -c safe.directory="$PWD" "$@"
@@ -163,8 +185,17 @@ build_archive() {
     VELDMARK_PLAIN=1 "${@:2}" ./build.sh package
 }
 
-# Packs the sources of the last commit, and builds exactly these where there is no network.
+build_part_of_archive() {
+    cd "$1" || return
+    "${@:2}" cmake --preset release -DVELDMARK_PRECOMPILE=OFF -DVELDMARK_UNITY=OFF || return
+    "${@:2}" cmake --build build/release --target veldmark_base veldmark_helper
+}
+
+# dist [--quick]: packs the sources of the last commit, and builds exactly these where there is no network.
 dist() {
+    local building=build_archive
+    [[ $# -eq 0 || ($# -eq 1 && $1 == --quick) ]] || die "dist has one option, --quick"
+    [[ $# -eq 0 ]] || building=build_part_of_archive
     deps
     local version name folder
     version=$(sed -nE 's/^project\(Veldmark VERSION ([0-9.]+) .*/\1/p' CMakeLists.txt)
@@ -180,7 +211,7 @@ dist() {
     "${alone[@]}" true 2>/dev/null || alone=()
     [[ ${#alone[@]} -gt 0 ]] || printf 'build.sh: no network namespaces here, so it is built with the network.\n' >&2
     rm -f build/dist.log
-    busy "Building the archive's content" build/dist.log build_archive "$folder/$name" ${alone[@]+"${alone[@]}"} || die "the archive does not build; see build/dist.log and $folder/$name/build"
+    busy "Building the archive's content" build/dist.log "$building" "$folder/$name" ${alone[@]+"${alone[@]}"} || die "the archive does not build; see build/dist.log and $folder/$name/build"
     rm -rf "$folder"
     printf 'build/%s\n' "$name.tar.gz"
 }
@@ -225,11 +256,8 @@ test)
     # Most unit tests run as the calling user, and so do the tests that do not need root.
     [[ $EUID -ne 0 || ($# -gt 0 && $1 != -* && ! " $* " =~ \ (helper|helper_mac|lab|ui|package|mutate)\ ) ]] || needs_open_folder
     deps
-    names=()
-    while [[ $# -gt 0 && $1 != -* ]]; do
-        names+=("$1")
-        shift
-    done
+    take_names "$@"
+    set -- ${rest[@]+"${rest[@]}"}
     mkdir -p build/test
     if [[ ${#names[@]} -gt 0 ]]; then
         mapfile -t targets < <(test_targets "${names[@]}")
@@ -256,10 +284,12 @@ fresh-test)
     ;;
 asan)
     deps
-    compile asan
+    take_names "$@"
+    compile_rooms asan ${names[@]+"${names[@]}"}
+    [[ ${#names[@]} -eq 0 ]] || rest=(-R "^unit/($(IFS='|' && echo "${names[*]}"))/" ${rest[@]+"${rest[@]}"})
     # The programs would report the counts of an earlier build on standard error, which tests check.
     find build/asan -name '*.gcda' -delete
-    ctest --preset asan "$@"
+    ctest --preset asan ${rest[@]+"${rest[@]}"}
     ;;
 apple)
     deps
@@ -269,7 +299,12 @@ apple)
     ;;
 tsan)
     deps
-    compile tsan threads
+    if [[ ${1-} == --quick ]]; then
+        compile tsan DeliberateRace test-base
+        set -- -R '^threads/(race|no-race|resume)' "${@:2}"
+    else
+        compile tsan threads
+    fi
     ctest --preset tsan "$@"
     ;;
 package) package ;;
@@ -286,10 +321,11 @@ machine-test)
     unpack nspawn usr/bin/systemd-nspawn systemd-container libsystemd-shared
     exec /usr/bin/python3 tests/machine/machine_test.py build/veldmark_*.deb "$@"
     ;;
-dist) dist ;;
+dist) dist "$@" ;;
 coverage)
     deps
-    compile asan
+    take_names "$@"
+    compile_rooms asan ${names[@]+"${names[@]}"}
     exec /usr/bin/python3 tests/coverage.py "$@"
     ;;
 fuzz)

@@ -1,6 +1,10 @@
 #include "DownloadBench.h"
 #include "support/TestProgram.h"
 
+#include <csignal>
+
+#include <sys/resource.h>
+
 using namespace veldmark;
 using namespace std::chrono_literals;
 using Kind = DownloadError::Kind;
@@ -79,6 +83,35 @@ private Q_SLOTS:
         QCOMPARE(failure(), QStringLiteral("Download of the bridge programs failed (HTTP 302)."));
         redirect(QStringLiteral("file:///etc/passwd"));
         QCOMPARE(failure(), QStringLiteral("Download of the bridge programs failed (HTTP 302)."));
+    }
+
+    // The rest of the file must not be written after the part that failed.
+    void aDiskThatIsFullIsNamed()
+    {
+        putBundle();
+        struct LimitedFiles {
+            explicit LimitedFiles(rlim_t bytes) : former(std::signal(SIGXFSZ, SIG_IGN))
+            {
+                ::getrlimit(RLIMIT_FSIZE, &limit);
+                const rlimit less{bytes, limit.rlim_max};
+                ::setrlimit(RLIMIT_FSIZE, &less);
+            }
+            ~LimitedFiles()
+            {
+                ::setrlimit(RLIMIT_FSIZE, &limit);
+                std::signal(SIGXFSZ, former);
+            }
+            rlimit limit{};
+            void (*former)(int);
+        };
+        QString text;
+        {
+            const LimitedFiles full(rlim_t(100'000));
+            text = failure();
+        }
+        QVERIFY2(text.startsWith(QStringLiteral("Couldn't write ")), qPrintable(text));
+        QCOMPARE(mark(), QByteArray("former"));
+        QVERIFY(install());
     }
 
     void refusesACertificateThatNobodyVouchesFor()
