@@ -1888,10 +1888,6 @@
         <translation>برنامج Tor غير مثبت. ثبّته باستخدام Homebrew (brew install tor) أو حدد مكانه في الإعدادات.</translation>
     </message>
     <message>
-        <source>The helper script is missing from the app bundle. Rebuild the app with build.sh.</source>
-        <translation>سكربت البرنامج المساعد مفقود من حزمة التطبيق. أعد بناء التطبيق باستخدام build.sh.</translation>
-    </message>
-    <message>
         <source>Administrator access can&apos;t be asked for: polkit is not running on this system.</source>
         <translation>لا يمكن طلب صلاحيات مدير النظام: لا يعمل polkit على هذا النظام.</translation>
     </message>
@@ -2152,7 +2148,7 @@
         <translation>كل البرامج التي يستدعيها برنامج Veldmark المساعد مثبتة.</translation>
     </message>
     <message>
-        <source>Veldmark&apos;s helper script is missing. Install Veldmark again.</source>
+        <source>The helper is missing. Reinstall Veldmark.</source>
         <translation>سكربت برنامج Veldmark المساعد مفقود. ثبّت Veldmark من جديد.</translation>
     </message>
     <message>

@@ -1888,10 +1888,6 @@
         <translation>Tor ist nicht installiert. Installieren Sie es mit Homebrew (brew install tor), oder geben Sie in den Einstellungen seinen Ort an.</translation>
     </message>
     <message>
-        <source>The helper script is missing from the app bundle. Rebuild the app with build.sh.</source>
-        <translation>Im Programmpaket fehlt das Hilfsskript. Bauen Sie das Programm mit build.sh neu.</translation>
-    </message>
-    <message>
         <source>Administrator access can&apos;t be asked for: polkit is not running on this system.</source>
         <translation>Nach den Rechten eines Administrators kann nicht gefragt werden: polkit läuft auf diesem System nicht.</translation>
     </message>
@@ -2152,7 +2148,7 @@
         <translation>Alle Programme, die Veldmarks Helfer aufruft, sind installiert.</translation>
     </message>
     <message>
-        <source>Veldmark&apos;s helper script is missing. Install Veldmark again.</source>
+        <source>The helper is missing. Reinstall Veldmark.</source>
         <translation>Veldmarks Helferskript fehlt. Installieren Sie Veldmark neu.</translation>
     </message>
     <message>

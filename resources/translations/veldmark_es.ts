@@ -1888,10 +1888,6 @@
         <translation>Tor no está instalado. Instálelo con Homebrew (brew install tor) o indique su ubicación en Configuración.</translation>
     </message>
     <message>
-        <source>The helper script is missing from the app bundle. Rebuild the app with build.sh.</source>
-        <translation>Falta el script auxiliar en el paquete de la aplicación. Vuelva a compilar la aplicación con build.sh.</translation>
-    </message>
-    <message>
         <source>Administrator access can&apos;t be asked for: polkit is not running on this system.</source>
         <translation>No se puede solicitar acceso de administrador: polkit no está en ejecución en este sistema.</translation>
     </message>
@@ -2152,7 +2148,7 @@
         <translation>Están instalados todos los programas que usa el programa auxiliar de Veldmark.</translation>
     </message>
     <message>
-        <source>Veldmark&apos;s helper script is missing. Install Veldmark again.</source>
+        <source>The helper is missing. Reinstall Veldmark.</source>
         <translation>Falta el script auxiliar de Veldmark. Vuelva a instalar Veldmark.</translation>
     </message>
     <message>

@@ -1888,10 +1888,6 @@
         <translation>برنامهٔ Tor نصب نیست. آن را با Homebrew (brew install tor) نصب کنید یا محل آن را در «تنظیمات» مشخص کنید.</translation>
     </message>
     <message>
-        <source>The helper script is missing from the app bundle. Rebuild the app with build.sh.</source>
-        <translation>اسکریپت کمکی در بستهٔ برنامه وجود ندارد. برنامه را با build.sh از نو بسازید.</translation>
-    </message>
-    <message>
         <source>Administrator access can&apos;t be asked for: polkit is not running on this system.</source>
         <translation>نمی‌توان دسترسی مدیر خواست: polkit روی این سیستم در حال اجرا نیست.</translation>
     </message>
@@ -2152,7 +2148,7 @@
         <translation>همهٔ برنامه‌هایی که برنامهٔ کمکی Veldmark فرامی‌خواند نصب‌اند.</translation>
     </message>
     <message>
-        <source>Veldmark&apos;s helper script is missing. Install Veldmark again.</source>
+        <source>The helper is missing. Reinstall Veldmark.</source>
         <translation>اسکریپت کمکی Veldmark وجود ندارد. Veldmark را دوباره نصب کنید.</translation>
     </message>
     <message>

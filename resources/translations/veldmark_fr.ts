@@ -1888,10 +1888,6 @@
         <translation>Tor n’est pas installé. Installez-le avec Homebrew (brew install tor) ou indiquez son emplacement dans les paramètres.</translation>
     </message>
     <message>
-        <source>The helper script is missing from the app bundle. Rebuild the app with build.sh.</source>
-        <translation>Le script auxiliaire est absent du paquet de l’application. Recompilez l’application avec build.sh.</translation>
-    </message>
-    <message>
         <source>Administrator access can&apos;t be asked for: polkit is not running on this system.</source>
         <translation>Impossible de demander les droits d’administration : polkit n’est pas actif sur ce système.</translation>
     </message>
@@ -2152,7 +2148,7 @@
         <translation>Tous les programmes qu’appelle le programme auxiliaire de Veldmark sont installés.</translation>
     </message>
     <message>
-        <source>Veldmark&apos;s helper script is missing. Install Veldmark again.</source>
+        <source>The helper is missing. Reinstall Veldmark.</source>
         <translation>Le script auxiliaire de Veldmark est absent. Réinstallez Veldmark.</translation>
     </message>
     <message>

@@ -1888,10 +1888,6 @@
         <translation>O Tor não está instalado. Instale-o com o Homebrew (brew install tor) ou informe o local dele nas Configurações.</translation>
     </message>
     <message>
-        <source>The helper script is missing from the app bundle. Rebuild the app with build.sh.</source>
-        <translation>O script auxiliar não está no pacote do aplicativo. Recompile o aplicativo com build.sh.</translation>
-    </message>
-    <message>
         <source>Administrator access can&apos;t be asked for: polkit is not running on this system.</source>
         <translation>Não é possível pedir acesso de administrador: o polkit não está em execução neste sistema.</translation>
     </message>
@@ -2152,7 +2148,7 @@
         <translation>Todos os programas que o auxiliar do Veldmark chama estão instalados.</translation>
     </message>
     <message>
-        <source>Veldmark&apos;s helper script is missing. Install Veldmark again.</source>
+        <source>The helper is missing. Reinstall Veldmark.</source>
         <translation>Falta o script auxiliar do Veldmark. Instale o Veldmark de novo.</translation>
     </message>
     <message>

@@ -1888,10 +1888,6 @@
         <translation>Tor не установлен. Установите его через Homebrew (brew install tor) или укажите путь к нему в настройках.</translation>
     </message>
     <message>
-        <source>The helper script is missing from the app bundle. Rebuild the app with build.sh.</source>
-        <translation>В пакете приложения нет вспомогательного скрипта. Пересоберите приложение с помощью build.sh.</translation>
-    </message>
-    <message>
         <source>Administrator access can&apos;t be asked for: polkit is not running on this system.</source>
         <translation>Запросить права администратора нельзя: в этой системе не запущен polkit.</translation>
     </message>
@@ -2152,7 +2148,7 @@
         <translation>Все программы, которые вызывает вспомогательная программа Veldmark, установлены.</translation>
     </message>
     <message>
-        <source>Veldmark&apos;s helper script is missing. Install Veldmark again.</source>
+        <source>The helper is missing. Reinstall Veldmark.</source>
         <translation>Нет вспомогательного скрипта Veldmark. Установите Veldmark заново.</translation>
     </message>
     <message>

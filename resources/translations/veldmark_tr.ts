@@ -1888,10 +1888,6 @@
         <translation>Tor kurulu değil. Homebrew ile (brew install tor) kurun ya da konumunu Ayarlar&apos;da belirtin.</translation>
     </message>
     <message>
-        <source>The helper script is missing from the app bundle. Rebuild the app with build.sh.</source>
-        <translation>Yardımcı betik uygulama paketinde yok. Uygulamayı build.sh ile yeniden derleyin.</translation>
-    </message>
-    <message>
         <source>Administrator access can&apos;t be asked for: polkit is not running on this system.</source>
         <translation>Yönetici erişimi istenemiyor: bu sistemde polkit çalışmıyor.</translation>
     </message>
@@ -2152,7 +2148,7 @@
         <translation>Veldmark&apos;ın yardımcı programının çağırdığı tüm programlar kurulu.</translation>
     </message>
     <message>
-        <source>Veldmark&apos;s helper script is missing. Install Veldmark again.</source>
+        <source>The helper is missing. Reinstall Veldmark.</source>
         <translation>Veldmark&apos;ın yardımcı betiği eksik. Veldmark&apos;ı yeniden kurun.</translation>
     </message>
     <message>

@@ -1888,10 +1888,6 @@
         <translation>Tor не встановлено. Установіть його через Homebrew (brew install tor) або вкажіть його розташування в налаштуваннях.</translation>
     </message>
     <message>
-        <source>The helper script is missing from the app bundle. Rebuild the app with build.sh.</source>
-        <translation>У складі програми бракує допоміжного скрипту. Зберіть програму заново за допомогою build.sh.</translation>
-    </message>
-    <message>
         <source>Administrator access can&apos;t be asked for: polkit is not running on this system.</source>
         <translation>Неможливо запитати права адміністратора: у цій системі не запущено polkit.</translation>
     </message>
@@ -2152,7 +2148,7 @@
         <translation>Усі програми, які викликає допоміжна програма Veldmark, встановлено.</translation>
     </message>
     <message>
-        <source>Veldmark&apos;s helper script is missing. Install Veldmark again.</source>
+        <source>The helper is missing. Reinstall Veldmark.</source>
         <translation>Бракує допоміжного скрипту Veldmark. Установіть Veldmark знову.</translation>
     </message>
     <message>

@@ -1888,10 +1888,6 @@
         <translation>未安装 Tor。请用 Homebrew 安装（brew install tor），或在“设置”中指定其位置。</translation>
     </message>
     <message>
-        <source>The helper script is missing from the app bundle. Rebuild the app with build.sh.</source>
-        <translation>应用包中缺少辅助脚本。请用 build.sh 重新构建应用。</translation>
-    </message>
-    <message>
         <source>Administrator access can&apos;t be asked for: polkit is not running on this system.</source>
         <translation>无法请求管理员权限：此系统上没有运行 polkit。</translation>
     </message>
@@ -2152,7 +2148,7 @@
         <translation>Veldmark 的辅助程序所调用的程序均已安装。</translation>
     </message>
     <message>
-        <source>Veldmark&apos;s helper script is missing. Install Veldmark again.</source>
+        <source>The helper is missing. Reinstall Veldmark.</source>
         <translation>缺少 Veldmark 的辅助脚本。请重新安装 Veldmark。</translation>
     </message>
     <message>

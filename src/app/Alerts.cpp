@@ -36,7 +36,7 @@ void Alerts::look()
     if (const auto danger = now.verdict().danger; std::exchange(m_danger, danger) != danger)
         tellDanger(danger);
     const bool isExposed = now.phase == Phase::connected && now.activeMode == RoutingMode::strict
-        && now.isExposed();
+        && now.leak.isExposed();
     if (!std::exchange(m_wasExposed, isExposed) && isExposed
         && m_danger == Verdict::Danger::dnsLeak)
         tellDanger(Verdict::Danger::exposed); // the DNS alert alone told only half of it

@@ -10,27 +10,6 @@
 
 namespace veldmark {
 
-namespace {
-
-Leak leakOf(const LeakStatus &status)
-{
-    switch (status.kind()) {
-    case LeakStatus::Kind::exposed:
-        return {Leak::Kind::exposed, status.address()};
-    case LeakStatus::Kind::notTested:
-        return {Leak::Kind::notTested, {}};
-    case LeakStatus::Kind::checking:
-        return {Leak::Kind::checking, status.address()};
-    case LeakStatus::Kind::blocked:
-        return {Leak::Kind::blocked, {}};
-    case LeakStatus::Kind::inconclusive:
-        break;
-    }
-    return {Leak::Kind::inconclusive, {}};
-}
-
-} // namespace
-
 ControllerSession::ControllerSession(TorController &controller, SettingsStore &settings,
                                      RunningApplications &applications)
     : Session(controller.profile()),
@@ -89,7 +68,7 @@ void ControllerSession::read()
         next.torVerified = c.torVerified();
         next.stall = c.stall();
         next.firewalls = c.denyingFirewalls();
-        next.leak = leakOf(c.leakStatus());
+        next.leak = c.leakStatus();
         next.dns = c.dnsStatus();
         next.isChecking = c.isChecking();
         next.latencyMs = c.latencyMs();
@@ -138,12 +117,9 @@ QCoro::Task<void> ControllerSession::lookOnceSshIsKnown()
         lookAgain(); // the integration with ssh is installed by now
 }
 
-std::vector<ExitChoice> ControllerSession::exitChoices() const
+std::vector<ExitCountry> ControllerSession::exitChoices() const
 {
-    std::vector<ExitChoice> choices;
-    for (const ExitCountry &country : ExitCountry::all())
-        choices.push_back({country.code, country.name});
-    return choices;
+    return ExitCountry::all();
 }
 
 void ControllerSession::store(const Choices &choices)

@@ -23,7 +23,7 @@ public:
     ControllerSession(TorController &controller, SettingsStore &settings,
                       RunningApplications &applications);
 
-    std::vector<ExitChoice> exitChoices() const override;
+    std::vector<ExitCountry> exitChoices() const override;
     std::vector<InstalledApplication> installedApplications() const override
     {
         return veldmark::installedApplications();

@@ -1,5 +1,6 @@
 #include "controller/TorController.h"
 
+#include "base/ExitCountry.h"
 #include "base/TorPassword.h"
 #include "bridges/BridgePlan.h"
 #include "controller/SettingRules.h"

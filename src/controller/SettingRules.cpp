@@ -1,5 +1,6 @@
 #include "controller/SettingRules.h"
 
+#include "base/ExitCountry.h"
 #include "platform/PlatformProfile.h"
 
 #include <algorithm>

@@ -13,7 +13,7 @@
 #include "checks/Verdict.h"
 #include "circuits/CircuitTable.h"
 #include "controller/Published.h"
-#include "controller/SessionTypes.h"
+#include "controller/TorError.h"
 
 #include "base/Clock.h"
 #include "base/ConnectionPhase.h"

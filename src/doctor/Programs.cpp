@@ -1,4 +1,5 @@
 #include "doctor/Checks.h"
+#include "system/HelperError.h"
 #include "system/ProgramApproval.h"
 #include "system/SignedBundle.h"
 
@@ -183,10 +184,8 @@ Findings helperFindings(const Machine &machine)
     Findings findings;
     const QString helper = machine.profile.bundledHelper();
     if (helper.isEmpty()) {
-        findings.push_back(
-            {helperName, Level::problem,
-             Text::tr("Veldmark's helper script is missing. Install Veldmark again."),
-             machine.installing(QStringLiteral("--reinstall veldmark"))});
+        findings.push_back({helperName, Level::problem, HelperError::missingHelper().description(),
+                            machine.installing(QStringLiteral("--reinstall veldmark"))});
         return findings;
     }
     const auto writer = otherWriter(machine, helper);

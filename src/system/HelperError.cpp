@@ -25,9 +25,7 @@ HelperError HelperError::unapprovedProgram(Text message)
 
 HelperError HelperError::missingHelper()
 {
-    return {Kind::MissingHelper,
-            Text::tr("The helper script is missing from the app bundle. Rebuild the app with "
-                     "build.sh.")};
+    return {Kind::MissingHelper, Text::tr("The helper is missing. Reinstall Veldmark.")};
 }
 
 HelperError HelperError::cancelled()

@@ -87,16 +87,16 @@ void OptionsModel::setTerminalMode(bool on)
 QStringList OptionsModel::exitNames() const
 {
     QStringList names;
-    for (const ExitChoice &exit : m_exits)
+    for (const ExitCountry &exit : m_exits)
         names << exit.name.translated();
     return names;
 }
 
 int OptionsModel::exitIndex() const
 {
-    const auto found = std::find_if(m_exits.begin(), m_exits.end(), [this](const ExitChoice &exit) {
-        return exit.code == choices().exitCountry;
-    });
+    const auto found = std::find_if(
+        m_exits.begin(), m_exits.end(),
+        [this](const ExitCountry &exit) { return exit.code == choices().exitCountry; });
     return found == m_exits.end() ? -1 : static_cast<int>(found - m_exits.begin());
 }
 

@@ -96,7 +96,7 @@ private:
     bool transportMissing() const;
 
     Session &m_session;
-    const std::vector<ExitChoice> m_exits;
+    const std::vector<ExitCountry> m_exits;
     QString m_launchError;
 };
 

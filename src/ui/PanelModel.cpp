@@ -78,9 +78,9 @@ bool PanelModel::throughBridge() const
         && *now.activeBridge != BridgeChoice::off;
 }
 
-Leak PanelModel::knownLeak() const
+LeakStatus PanelModel::knownLeak() const
 {
-    return connected() ? m_session.now().leak : Leak();
+    return connected() ? m_session.now().leak : LeakStatus();
 }
 
 // Only the kill switch blocks, and only while its rules are known to be in place. Otherwise missing
@@ -263,39 +263,39 @@ QString PanelModel::leakText() const
 {
     if (lookupsLeak())
         return tr("DNS leak");
-    const Leak leak = knownLeak();
-    switch (leak.kind) {
-    case Leak::Kind::notTested:
+    const LeakStatus leak = knownLeak();
+    switch (leak.kind()) {
+    case LeakStatus::Kind::notTested:
         return tr("Not tested");
-    case Leak::Kind::checking:
+    case LeakStatus::Kind::checking:
         return tr("Testing…");
-    case Leak::Kind::blocked:
+    case LeakStatus::Kind::blocked:
         return isClosed() ? tr("No leaks") : tr("No answer");
-    case Leak::Kind::inconclusive:
+    case LeakStatus::Kind::inconclusive:
         return tr("Inconclusive");
-    case Leak::Kind::exposed:
-        return tr("Exposed: %1").arg(leak.address);
+    case LeakStatus::Kind::exposed:
+        return tr("Exposed: %1").arg(leak.address());
     }
     return {};
 }
 
 QString PanelModel::leakHelp() const
 {
-    const Leak leak = knownLeak();
+    const LeakStatus leak = knownLeak();
     QString traffic = tr("Tries a direct connection that skips Tor");
-    if (leak.kind == Leak::Kind::blocked && isClosed())
+    if (leak.kind() == LeakStatus::Kind::blocked && isClosed())
         traffic = tr("Direct connections that skip Tor are blocked");
-    else if (leak.kind == Leak::Kind::blocked)
+    else if (leak.kind() == LeakStatus::Kind::blocked)
         traffic = m_session.now().activeMode == RoutingMode::strict
             ? tr(
                 "A direct connection that skips Tor got no answer, but it isn't known whether the kill switch blocks such connections")
             : tr(
                 "A direct connection that skips Tor got no answer, but proxy mode doesn't block such connections");
-    else if (leak.kind == Leak::Kind::exposed)
+    else if (leak.kind() == LeakStatus::Kind::exposed)
         traffic
             = tr("Apps that ignore proxy settings show your real IP (%1). Turn on Strict mode to "
                  "block them.")
-                  .arg(leak.address);
+                  .arg(leak.address());
     return traffic + u'\n' + (connected() ? m_session.now().dns : DNSStatus()).text().translated();
 }
 
@@ -303,15 +303,15 @@ PanelModel::Tone PanelModel::leakTone() const
 {
     if (lookupsLeak())
         return Tone::Danger;
-    switch (knownLeak().kind) {
-    case Leak::Kind::exposed:
+    switch (knownLeak().kind()) {
+    case LeakStatus::Kind::exposed:
         return m_session.now().activeMode == RoutingMode::strict ? Tone::Danger : Tone::Warning;
-    case Leak::Kind::blocked:
+    case LeakStatus::Kind::blocked:
         return isClosed() ? Tone::Good : Tone::Neutral;
-    case Leak::Kind::inconclusive:
+    case LeakStatus::Kind::inconclusive:
         return Tone::Warning;
-    case Leak::Kind::notTested:
-    case Leak::Kind::checking:
+    case LeakStatus::Kind::notTested:
+    case LeakStatus::Kind::checking:
         break;
     }
     return Tone::Neutral;

@@ -128,7 +128,7 @@ Q_SIGNALS:
 private:
     void update();
     void rememberExitCountry();
-    Leak knownLeak() const; // the running session's result
+    LeakStatus knownLeak() const; // the running session's result
     bool isClosed() const;
     bool throughBridge() const;
 

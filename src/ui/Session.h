@@ -1,6 +1,6 @@
 #pragma once
 
-#include "base/Text.h"
+#include "base/ExitCountry.h"
 #include "platform/InstalledApplications.h"
 #include "platform/PlatformProfile.h"
 #include "ui/Snapshot.h"
@@ -8,11 +8,6 @@
 #include <QObject>
 
 namespace veldmark {
-
-struct ExitChoice {
-    QString code; // two lower-case letters; empty = any
-    Text name;
-};
 
 // What view models read and call. The program's implementation uses TorController; tests and
 // pictures use one that they fill themselves. Main thread. Intents return at once; the next
@@ -30,7 +25,7 @@ public:
 
     const Snapshot &now() const { return m_now; }
     const PlatformProfile &profile() const { return m_profile; }
-    virtual std::vector<ExitChoice> exitChoices() const = 0;
+    virtual std::vector<ExitCountry> exitChoices() const = 0;
     virtual std::vector<InstalledApplication> installedApplications() const = 0; // the present ones
     virtual QString applicationName(const QString &path) const = 0;
 

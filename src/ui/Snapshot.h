@@ -7,6 +7,7 @@
 #include "bridges/PluggableTransports.h"
 #include "checks/DNSStatus.h"
 #include "checks/KillSwitch.h"
+#include "checks/LeakStatus.h"
 #include "checks/Verdict.h"
 #include "circuits/CircuitInfo.h"
 #include "doctor/Finding.h"
@@ -41,13 +42,6 @@ struct Choices {
     friend bool operator==(const Choices &, const Choices &) = default;
 };
 
-struct Leak {
-    enum class Kind { exposed, notTested, checking, blocked, inconclusive };
-    Kind kind = Kind::notTested;
-    // For `exposed`, and for `checking` after it: the user's own address, as the service saw it.
-    QString address;
-};
-
 // Everything that views show, at one moment. A plain value; absent means unknown.
 struct Snapshot {
     Choices choices;
@@ -70,7 +64,7 @@ struct Snapshot {
     std::optional<bool> torVerified;
     std::optional<TrafficWatch::Stall> stall;
     QStringList firewalls; // those that cause the stall
-    Leak leak;
+    LeakStatus leak;
     DNSStatus dns;
     bool isChecking = false;
     std::optional<qint64> latencyMs;
@@ -97,18 +91,13 @@ struct Snapshot {
 
     // A connect finds a tor, or says what is wrong with its location.
     bool canTryTor() const { return torPath.has_value() || isTorRefused; }
-    bool isExposed() const
-    {
-        return leak.kind == Leak::Kind::exposed
-            || (leak.kind == Leak::Kind::checking && !leak.address.isEmpty());
-    }
     Verdict verdict() const
     {
         return Verdict::of(
             {.phase = phase,
              .mode = activeMode,
              .killSwitch = killSwitch ? std::optional(killSwitch->state) : std::nullopt,
-             .isExposed = isExposed(),
+             .isExposed = leak.isExposed(),
              .isDNSLeaking = dns.isLeak(),
              .torVerified = torVerified,
              .detail = statusDetail,

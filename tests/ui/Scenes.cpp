@@ -64,7 +64,7 @@ Snapshot protectedSession()
                               QDateTime::fromSecsSinceEpoch(1'800'000'000, Qt::UTC)};
     s.exitIP = QStringLiteral("203.0.113.10");
     s.torVerified = true;
-    s.leak.kind = Leak::Kind::blocked;
+    s.leak = LeakStatus::blocked();
     s.dns = DNSStatus::throughTor();
     s.bytesRead = 48'213'004;
     s.bytesWritten = 3'100'480;
@@ -186,15 +186,15 @@ std::vector<Scene> panel()
     s.exitIP.reset();
     s.torVerified.reset();
     s.isChecking = true;
-    s.leak.kind = Leak::Kind::checking;
+    s.leak = LeakStatus::checking();
     s.circuits.clear();
     add("connected-strict-checking", s);
     s.isChecking = false;
-    s.leak.kind = Leak::Kind::notTested;
+    s.leak = LeakStatus::notTested();
     s.dns = DNSStatus::unknown();
     add("connected-strict-not-tested", s);
     s.torVerified = false;
-    s.leak.kind = Leak::Kind::inconclusive;
+    s.leak = LeakStatus::inconclusive();
     add("connected-strict-unconfirmed", s);
     s = protectedSession();
     s.stall = TrafficWatch::Stall::noNetwork;
@@ -204,15 +204,15 @@ std::vector<Scene> panel()
     s.stall = TrafficWatch::Stall::vpn;
     add("connected-strict-vpn", s);
     s = protectedSession();
-    s.leak.kind = Leak::Kind::inconclusive;
+    s.leak = LeakStatus::inconclusive();
     s.dns = DNSStatus::unverified();
     add("connected-strict-inconclusive", s);
     s = protectedSession();
-    s.leak = {Leak::Kind::exposed, QStringLiteral("198.51.100.23")};
+    s.leak = LeakStatus::exposed(QStringLiteral("198.51.100.23"));
     add("connected-strict-exposed", s);
     s = protectedSession();
     s.killSwitch->state = KillSwitch::State::open;
-    s.leak.kind = Leak::Kind::notTested;
+    s.leak = LeakStatus::notTested();
     s.errorMessage = Text::tr(
         "Another program removed Veldmark's firewall rules and they could not be put back. Traffic "
         "may leave this computer directly. Disconnect and connect again.");
@@ -232,9 +232,9 @@ std::vector<Scene> panel()
     s.activeMode = RoutingMode::proxy;
     s.choices.strictMode = false;
     s.statusDetail = Text::tr("Apps that use system proxy settings go through Tor");
-    s.leak.kind = Leak::Kind::inconclusive;
+    s.leak = LeakStatus::inconclusive();
     add("connected-proxy", s);
-    s.leak.kind = Leak::Kind::checking;
+    s.leak = LeakStatus::checking();
     s.dns = DNSStatus::checking();
     s.isChecking = true;
     s.torVerified.reset();
@@ -242,10 +242,10 @@ std::vector<Scene> panel()
     add("connected-proxy-checking", s);
     s.isChecking = false;
     s.torVerified = false;
-    s.leak.kind = Leak::Kind::notTested;
+    s.leak = LeakStatus::notTested();
     add("connected-proxy-unconfirmed", s);
     s.torVerified = true;
-    s.leak = {Leak::Kind::exposed, QStringLiteral("2001:db8:85a3:8d3:1319:8a2e:370:7348")};
+    s.leak = LeakStatus::exposed(QStringLiteral("2001:db8:85a3:8d3:1319:8a2e:370:7348"));
     s.exitIP = QStringLiteral("2001:db8:ffff:ffff:ffff:8a2e:370:1234");
     add("connected-proxy-exposed-ipv6", s);
     s.dns = DNSStatus::leak({QStringLiteral("192.168.1.1 on eth0")});

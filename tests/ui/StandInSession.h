@@ -7,6 +7,18 @@
 
 namespace veldmark {
 
+// Every result of a leak test.
+inline std::vector<LeakStatus> everyLeak()
+{
+    const LeakStatus exposed = LeakStatus::exposed(QStringLiteral("198.51.100.23"));
+    return {exposed,
+            LeakStatus::notTested(),
+            LeakStatus::checking(),
+            LeakStatus::checkingAfter(exposed),
+            LeakStatus::blocked(),
+            LeakStatus::inconclusive()};
+}
+
 // A session that shows a test's snapshot and records the requested actions.
 class StandInSession final : public Session {
 public:
@@ -18,7 +30,7 @@ public:
         Q_EMIT changed();
     }
 
-    std::vector<ExitChoice> exitChoices() const override
+    std::vector<ExitCountry> exitChoices() const override
     {
         return {{{}, Text::tr("Any (recommended)")},
                 {QStringLiteral("us"), Text::tr("United States")},

@@ -163,12 +163,12 @@ private Q_SLOTS:
         s.activeMode = RoutingMode::strict;
         s.killSwitch = rules(State::standing);
         session.show(s);
-        s.leak = {Leak::Kind::exposed, QStringLiteral("198.51.100.7")};
+        s.leak = LeakStatus::exposed(QStringLiteral("198.51.100.7"));
         session.show(s);
         s.killSwitch = rules(State::unknown);
         session.show(s);
         QCOMPARE(told.count(), 1);
-        s.leak = {Leak::Kind::notTested, {}};
+        s.leak = LeakStatus::notTested();
         session.show(s);
         QCOMPARE(told.count(), 2);
         QCOMPARE(told.at(1).at(0).toString(), QStringLiteral("The kill switch is not watched"));
@@ -239,26 +239,26 @@ private Q_SLOTS:
         QCOMPARE(told.count(), 1);
         s.dns = {};
         session.show(s);
-        s.leak = {Leak::Kind::exposed, QStringLiteral("198.51.100.1")};
+        s.leak = LeakStatus::exposed(QStringLiteral("198.51.100.1"));
         session.show(s);
         QCOMPARE(told.count(), 2);
-        s.leak = {};
+        s.leak = LeakStatus();
         session.show(s);
         // A danger that begins during another one is told as well, once.
         s.dns = DNSStatus::leak({QStringLiteral("192.168.1.1")});
         session.show(s);
         QCOMPARE(told.count(), 3);
-        s.leak = {Leak::Kind::exposed, QStringLiteral("198.51.100.1")};
+        s.leak = LeakStatus::exposed(QStringLiteral("198.51.100.1"));
         session.show(s);
         session.show(s);
         QCOMPARE(told.count(), 4);
         QCOMPARE(told.at(3).at(0).toString(), QStringLiteral("Traffic can leave around Tor"));
         s.dns = {};
-        s.leak = {};
+        s.leak = LeakStatus();
         session.show(s);
         QCOMPARE(told.count(), 4);
         s.activeMode = RoutingMode::proxy; // the mode shows already that apps can connect directly
-        s.leak = {Leak::Kind::exposed, QStringLiteral("198.51.100.1")};
+        s.leak = LeakStatus::exposed(QStringLiteral("198.51.100.1"));
         session.show(s);
         QCOMPARE(told.count(), 4);
     }

@@ -86,7 +86,7 @@ private Q_SLOTS:
         const Snapshot connected = session.now(); // there is something to hide
         QVERIFY(connected.phase == Phase::connected && connected.exitIP
                 && connected.torVerified == true);
-        QVERIFY(connected.leak.kind == Leak::Kind::blocked && connected.bytesRead == 1000);
+        QVERIFY(connected.leak == LeakStatus::blocked() && connected.bytesRead == 1000);
         QCOMPARE(connected.circuits.size(), std::size_t(1));
 
         bench.tor.stopListening();
@@ -97,7 +97,7 @@ private Q_SLOTS:
         QVERIFY(bench.controller().exitIP()); // the controller keeps it
         const Snapshot &stale = session.now();
         QVERIFY(!stale.exitIP && !stale.torVerified && !stale.latencyMs && !stale.isChecking);
-        QVERIFY(stale.leak.kind == Leak::Kind::notTested && stale.dns == DNSStatus::unknown());
+        QVERIFY(stale.leak == LeakStatus::notTested() && stale.dns == DNSStatus::unknown());
         QVERIFY(stale.circuits.empty() && stale.bytesRead == 0);
         QVERIFY(stale.errorMessage && stale.markerPresent
                 && stale.activeMode == RoutingMode::strict);

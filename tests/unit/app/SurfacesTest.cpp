@@ -299,9 +299,7 @@ private Q_SLOTS:
                      {std::optional<State>(), std::optional(State::standing),
                       std::optional(State::putBack), std::optional(State::open),
                       std::optional(State::unknown)})
-                    for (const Leak::Kind leak :
-                         {Leak::Kind::exposed, Leak::Kind::notTested, Leak::Kind::checking,
-                          Leak::Kind::blocked, Leak::Kind::inconclusive})
+                    for (const LeakStatus &leak : everyLeak())
                         for (const DNSStatus &dns :
                              {DNSStatus::leak({}), DNSStatus::unknown(), DNSStatus::throughTor()})
                             for (const std::optional<bool> verified :
@@ -312,9 +310,7 @@ private Q_SLOTS:
                                 s.activeMode = mode;
                                 if (rules)
                                     s.killSwitch = KillSwitch{*rules, 0, {}};
-                                s.leak = {leak,
-                                          leak == Leak::Kind::exposed ? u"198.51.100.23"_s
-                                                                      : QString()};
+                                s.leak = leak;
                                 s.dns = dns;
                                 s.torVerified = verified;
                                 s.statusDetail = u"All traffic is locked to Tor"_s;
@@ -334,7 +330,7 @@ private Q_SLOTS:
                                 QCOMPARE(icon->toolTip(),
                                          u"Veldmark: "_s + verdict.title.english());
                             }
-        QCOMPARE(combinations, 5 * 3 * 5 * 5 * 3 * 3);
+        QCOMPARE(combinations, 5 * 3 * 5 * 6 * 3 * 3);
     }
 
     // The report of any published state, also of one that no session can be in.

@@ -210,9 +210,8 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(bench.profile.helperCandidates.constFirst()));
         QVERIFY(!bench.connect());
         QVERIFY(isNormal(bench.controller()));
-        QCOMPARE(
-            bench.controller().errorMessage().value(),
-            u"The helper script is missing from the app bundle. Rebuild the app with build.sh."_s);
+        QCOMPARE(bench.controller().errorMessage().value(),
+                 u"The helper is missing. Reinstall Veldmark."_s);
     }
 
     void afterAFailureTerminalsGoTheNormalWay()

@@ -1,3 +1,4 @@
+#include "base/ExitCountry.h"
 #include "support/TestProgram.h"
 #include "support/Workbench.h"
 

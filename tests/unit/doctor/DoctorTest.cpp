@@ -263,7 +263,8 @@ const std::vector<Case> &cases()
         {"useradd, with the account there", [](TestMachine &m) { m.remove("/usr/bin/useradd"); },
          "programs", Level::good, "Every program", nullptr},
         {"no helper", [](TestMachine &m) { m.remove("/usr/share/veldmark"); }, "helper",
-         Level::problem, "helper script is missing", "sudo apt install --reinstall veldmark"},
+         Level::problem, "The helper is missing. Reinstall Veldmark.",
+         "sudo apt install --reinstall veldmark"},
         {"a helper of a user's",
          [](TestMachine &m) {
              m.machine.owner = [](const QString &) { return FileOwner{4343, 0755}; };

@@ -88,8 +88,7 @@ private Q_SLOTS:
         StandIns system(linux);
         system.dialog("exit 0");
         PrivilegedRunner runner = system.runner();
-        const QString text = QStringLiteral(
-            "The helper script is missing from the app bundle. Rebuild the app with build.sh.");
+        const QString text = QStringLiteral("The helper is missing. Reinstall Veldmark.");
         QCOMPARE(runner.bundledHelper().error().description(), text);
         QCOMPARE(run(runner, verb).error().description(), text);
         QVERIFY(!system.argumentsOf(system.profile.promptProgram));

@@ -27,7 +27,7 @@ Snapshot connected(RoutingMode mode)
         s.killSwitch = KillSwitch{KillSwitch::State::standing, 0, {}};
     s.torVerified = true;
     s.exitIP = QStringLiteral("203.0.113.10");
-    s.leak.kind = Leak::Kind::blocked;
+    s.leak = LeakStatus::blocked();
     return s;
 }
 
@@ -169,7 +169,7 @@ private Q_SLOTS:
         row("strict, not confirmed", s, Tone::Warning, "exclamationmark.shield", "Needs Attention",
             "Disconnect", true, "Click to disconnect");
         s = connected(RoutingMode::strict);
-        s.leak = {Leak::Kind::exposed, QStringLiteral("198.51.100.1")};
+        s.leak = LeakStatus::exposed(QStringLiteral("198.51.100.1"));
         row("strict, exposed", s, Tone::Danger, "exclamationmark.shield", "Needs Attention",
             "Disconnect", true, "Click to disconnect");
         s = connected(RoutingMode::strict);
@@ -224,9 +224,7 @@ private Q_SLOTS:
             for (const std::optional<RoutingMode> mode :
                  {std::optional<RoutingMode>(), std::optional(RoutingMode::strict),
                   std::optional(RoutingMode::proxy)})
-                for (const Leak::Kind leak :
-                     {Leak::Kind::exposed, Leak::Kind::notTested, Leak::Kind::checking,
-                      Leak::Kind::blocked, Leak::Kind::inconclusive})
+                for (const LeakStatus &leak : everyLeak())
                     for (const DNSStatus &dns :
                          {DNSStatus::leak({}), DNSStatus::unknown(), DNSStatus::checking(),
                           DNSStatus::throughTor(), DNSStatus::unverified()})
@@ -237,14 +235,14 @@ private Q_SLOTS:
                             s.phase = phase;
                             s.activeMode = mode;
                             s.killSwitch = KillSwitch{KillSwitch::State::standing, 0, {}};
-                            s.leak = {leak, QStringLiteral("198.51.100.23")};
+                            s.leak = leak;
                             s.dns = dns;
                             s.torVerified = verified;
                             session.show(s);
                             ++combinations;
                             const bool strict = phase == Phase::connected
                                 && mode == RoutingMode::strict;
-                            const bool known = dns.isLeak() || leak == Leak::Kind::exposed;
+                            const bool known = dns.isLeak() || leak.isExposed();
                             if (panel.tone() == Tone::Good) {
                                 ++green;
                                 QVERIFY(strict && verified == true && !known);
@@ -259,11 +257,11 @@ private Q_SLOTS:
                                 && panel.pillText().startsWith(QLatin1String("Connected")))
                                 QFAIL("a bridge is said to be connected through");
                             if (panel.leakText() == QLatin1String("No leaks"))
-                                QVERIFY(leak == Leak::Kind::blocked && !dns.isLeak());
+                                QVERIFY(leak == LeakStatus::blocked() && !dns.isLeak());
                             if (panel.verification() == QLatin1String("Verified"))
                                 QVERIFY(verified == true);
                         }
-        QCOMPARE(combinations, 5 * 3 * 5 * 5 * 3);
+        QCOMPARE(combinations, 5 * 3 * 6 * 5 * 3);
         QVERIFY(green > 0);
     }
 
@@ -437,33 +435,32 @@ private Q_SLOTS:
 
     void describesLeaks_data()
     {
-        QTest::addColumn<int>("kind");
+        QTest::addColumn<LeakStatus>("leak");
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("help");
         const QString tries = QStringLiteral("Tries a direct connection that skips Tor");
-        const auto row = [](const char *name, Leak::Kind kind, const QString &text,
-                            const QString &help) {
-            QTest::newRow(name) << static_cast<int>(kind) << text << help;
-        };
-        row("not tested", Leak::Kind::notTested, QStringLiteral("Not tested"), tries);
-        row("testing", Leak::Kind::checking, QStringLiteral("Testing…"), tries);
-        row("inconclusive", Leak::Kind::inconclusive, QStringLiteral("Inconclusive"), tries);
-        row("blocked", Leak::Kind::blocked, QStringLiteral("No answer"),
+        const auto row = [](const char *name, const LeakStatus &leak, const QString &text,
+                            const QString &help) { QTest::newRow(name) << leak << text << help; };
+        row("not tested", LeakStatus::notTested(), QStringLiteral("Not tested"), tries);
+        row("testing", LeakStatus::checking(), QStringLiteral("Testing…"), tries);
+        row("inconclusive", LeakStatus::inconclusive(), QStringLiteral("Inconclusive"), tries);
+        row("blocked", LeakStatus::blocked(), QStringLiteral("No answer"),
             QStringLiteral(
                 "A direct connection that skips Tor got no answer, but proxy mode doesn't block such connections"));
-        row("exposed", Leak::Kind::exposed, QStringLiteral("Exposed: 198.51.100.1"),
+        row("exposed", LeakStatus::exposed(QStringLiteral("198.51.100.1")),
+            QStringLiteral("Exposed: 198.51.100.1"),
             QStringLiteral(
                 "Apps that ignore proxy settings show your real IP (198.51.100.1). Turn on "
                 "Strict mode to block them."));
     }
     void describesLeaks()
     {
-        QFETCH(int, kind);
+        QFETCH(LeakStatus, leak);
         QFETCH(QString, help);
         StandInSession session(profile);
         PanelModel panel(session);
         Snapshot s = connected(RoutingMode::proxy);
-        s.leak = {static_cast<Leak::Kind>(kind), QStringLiteral("198.51.100.1")};
+        s.leak = leak;
         session.show(s);
         QTEST(panel.leakText(), "text");
         QCOMPARE(panel.leakHelp(), help + QStringLiteral("\nDNS: not tested yet."));

@@ -1,4 +1,4 @@
-#include "controller/SessionTypes.h"
+#include "base/ExitCountry.h"
 
 #include <algorithm>
 
@@ -30,13 +30,6 @@ bool ExitCountry::isValid(const QString &code)
         || (code.size() == 2 && std::all_of(code.cbegin(), code.cend(), [](QChar c) {
                 return c >= u'a' && c <= u'z';
             }));
-}
-
-TorError TorError::bootstrapTimeout(const std::optional<Text> &lastError)
-{
-    return TorError(
-        lastError ? Text::tr("Tor didn't finish connecting within 5 minutes. (%1)").arg(*lastError)
-                  : Text::tr("Tor didn't finish connecting within 5 minutes."));
 }
 
 } // namespace veldmark
