@@ -169,6 +169,14 @@ private Q_SLOTS:
         QTRY_VERIFY(reading.isDone());
         QCOMPARE(reading.summaries(), ofTheDaemon + text("; 9.9.9.9"));
 
+        // A link to a link, as some distributions have it.
+        const QString outer = m_folder->filePath(text("outer.conf"));
+        QVERIFY(QFile::link(link, outer));
+        LinuxResolverSource throughBoth(*m_clock, outer);
+        const Reading chained(throughBoth);
+        QTRY_VERIFY(chained.isDone());
+        QCOMPARE(chained.summaries(), ofTheDaemon + text("; 9.9.9.9"));
+
         QVERIFY(QFile::remove(target)); // the dangling link is enough
         const Reading dangling(source);
         QTRY_VERIFY(dangling.isDone());

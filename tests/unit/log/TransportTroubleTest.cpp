@@ -100,6 +100,7 @@ private Q_SLOTS:
         QTest::newRow("Tor has got on since") << QStringList{ended, ended, movesOn};
         QTest::newRow("a program's own notice")
             << QStringList{u"[notice] Managed proxy \"%1\": offer created"_s.arg(pt)};
+        QTest::newRow("an end without a reason") << QStringList{died};
         QTest::newRow("a reloaded configuration")
             << QStringList{u"[notice] Managed proxy at '%1' has spawned with PID '14'."_s.arg(pt)};
     }
