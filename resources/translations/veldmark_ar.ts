@@ -2237,7 +2237,7 @@
     </message>
     <message>
         <source>Veldmark needs administrator access to manage Tor routing on this computer. While connected, Veldmark stops the system&apos;s own Tor service.</source>
-        <translation>يحتاج Veldmark إلى صلاحيات مدير النظام لإدارة التوجيه عبر Tor على هذا الحاسوب. تُوقَف خدمة Tor الخاصة بالنظام في هذه الأثناء إن كانت تعمل.</translation>
+        <translation>يحتاج Veldmark إلى صلاحيات مدير النظام لإدارة التوجيه عبر Tor على هذا الحاسوب. يوقف Veldmark خدمة Tor الخاصة بالنظام طوال مدة الاتصال.</translation>
     </message>
     <message>
         <source>Veldmark needs administrator access to manage Tor routing on this Mac.</source>

@@ -2237,7 +2237,7 @@
     </message>
     <message>
         <source>Veldmark needs administrator access to manage Tor routing on this computer. While connected, Veldmark stops the system&apos;s own Tor service.</source>
-        <translation>Veldmark braucht die Rechte eines Administrators, um den Weg durch Tor auf diesem Computer zu verwalten. Der Tor-Dienst des Systems wird solange angehalten, wenn er läuft.</translation>
+        <translation>Veldmark braucht Administratorrechte, um den Weg durch Tor auf diesem Computer einzurichten. Solange Veldmark verbunden ist, hält es den Tor-Dienst des Systems an.</translation>
     </message>
     <message>
         <source>Veldmark needs administrator access to manage Tor routing on this Mac.</source>

@@ -2237,7 +2237,7 @@
     </message>
     <message>
         <source>Veldmark needs administrator access to manage Tor routing on this computer. While connected, Veldmark stops the system&apos;s own Tor service.</source>
-        <translation>Veldmark necesita acceso de administrador para gestionar el encaminamiento por Tor en este equipo. Mientras tanto se detiene el servicio Tor del propio sistema, si está en marcha.</translation>
+        <translation>Veldmark necesita acceso de administrador para gestionar el encaminamiento por Tor en este equipo. Mientras está conectado, Veldmark mantiene detenido el servicio Tor del propio sistema.</translation>
     </message>
     <message>
         <source>Veldmark needs administrator access to manage Tor routing on this Mac.</source>

@@ -2237,7 +2237,7 @@
     </message>
     <message>
         <source>Veldmark needs administrator access to manage Tor routing on this computer. While connected, Veldmark stops the system&apos;s own Tor service.</source>
-        <translation>برنامهٔ Veldmark برای مدیریت مسیریابی Tor در این رایانه به دسترسی مدیر نیاز دارد. در این مدت سرویس Tor خود سیستم، اگر اجرا شود، متوقف است.</translation>
+        <translation>برنامهٔ Veldmark برای مدیریت مسیریابی Tor در این رایانه به دسترسی مدیر نیاز دارد. تا وقتی Veldmark وصل است، سرویس Tor خود سیستم را متوقف نگه می‌دارد.</translation>
     </message>
     <message>
         <source>Veldmark needs administrator access to manage Tor routing on this Mac.</source>

@@ -2237,7 +2237,7 @@
     </message>
     <message>
         <source>Veldmark needs administrator access to manage Tor routing on this computer. While connected, Veldmark stops the system&apos;s own Tor service.</source>
-        <translation>Veldmark a besoin des droits d’administration pour gérer le routage par Tor sur cet ordinateur. Le service Tor du système, s’il est actif, est arrêté pendant ce temps.</translation>
+        <translation>Veldmark a besoin des droits d’administration pour gérer le routage par Tor sur cet ordinateur. Pendant la connexion, Veldmark arrête le service Tor du système.</translation>
     </message>
     <message>
         <source>Veldmark needs administrator access to manage Tor routing on this Mac.</source>

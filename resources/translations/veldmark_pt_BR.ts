@@ -2237,7 +2237,7 @@
     </message>
     <message>
         <source>Veldmark needs administrator access to manage Tor routing on this computer. While connected, Veldmark stops the system&apos;s own Tor service.</source>
-        <translation>O Veldmark precisa de acesso de administrador para gerenciar o roteamento pelo Tor neste computador. O serviço Tor do próprio sistema, se estiver em execução, fica parado enquanto isso.</translation>
+        <translation>O Veldmark precisa de acesso de administrador para gerenciar o roteamento pelo Tor neste computador. Enquanto está conectado, o Veldmark mantém parado o serviço Tor do próprio sistema.</translation>
     </message>
     <message>
         <source>Veldmark needs administrator access to manage Tor routing on this Mac.</source>

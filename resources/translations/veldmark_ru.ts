@@ -2237,7 +2237,7 @@
     </message>
     <message>
         <source>Veldmark needs administrator access to manage Tor routing on this computer. While connected, Veldmark stops the system&apos;s own Tor service.</source>
-        <translation>Veldmark нужны права администратора, чтобы управлять маршрутизацией через Tor на этом компьютере. Системная служба Tor, если она запущена, на это время останавливается.</translation>
+        <translation>Veldmark нужны права администратора, чтобы управлять маршрутизацией через Tor на этом компьютере. На время подключения Veldmark останавливает системную службу Tor.</translation>
     </message>
     <message>
         <source>Veldmark needs administrator access to manage Tor routing on this Mac.</source>

@@ -2237,7 +2237,7 @@
     </message>
     <message>
         <source>Veldmark needs administrator access to manage Tor routing on this computer. While connected, Veldmark stops the system&apos;s own Tor service.</source>
-        <translation>Veldmark&apos;ın bu bilgisayarda Tor yönlendirmesini yönetmek için yönetici erişimine gereksinimi var. Sistemin kendi Tor hizmeti çalışıyorsa bu sırada durdurulur.</translation>
+        <translation>Veldmark&apos;ın bu bilgisayarda Tor yönlendirmesini yönetmek için yönetici erişimine gereksinimi var. Veldmark bağlı olduğu sürece sistemin kendi Tor hizmetini durdurur.</translation>
     </message>
     <message>
         <source>Veldmark needs administrator access to manage Tor routing on this Mac.</source>

@@ -2237,7 +2237,7 @@
     </message>
     <message>
         <source>Veldmark needs administrator access to manage Tor routing on this computer. While connected, Veldmark stops the system&apos;s own Tor service.</source>
-        <translation>Щоб керувати спрямуванням через Tor на цьому комп’ютері, Veldmark потрібні права адміністратора. Системну службу Tor, якщо вона працює, на цей час буде зупинено.</translation>
+        <translation>Щоб керувати спрямуванням через Tor на цьому комп’ютері, Veldmark потрібні права адміністратора. На час з’єднання Veldmark зупиняє системну службу Tor.</translation>
     </message>
     <message>
         <source>Veldmark needs administrator access to manage Tor routing on this Mac.</source>

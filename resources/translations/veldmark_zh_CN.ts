@@ -2237,7 +2237,7 @@
     </message>
     <message>
         <source>Veldmark needs administrator access to manage Tor routing on this computer. While connected, Veldmark stops the system&apos;s own Tor service.</source>
-        <translation>Veldmark 需要管理员权限来管理本机的 Tor 路由。系统自带的 Tor 服务若在运行，期间会被停止。</translation>
+        <translation>Veldmark 需要管理员权限来管理本机的 Tor 路由。连接期间，Veldmark 会停止系统自带的 Tor 服务。</translation>
     </message>
     <message>
         <source>Veldmark needs administrator access to manage Tor routing on this Mac.</source>

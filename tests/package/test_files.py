@@ -7,6 +7,7 @@ import struct
 import subprocess
 import sys
 import tempfile
+import unicodedata
 import unittest
 import xml.etree.ElementTree as tree
 from pathlib import Path
@@ -15,6 +16,7 @@ sys.dont_write_bytecode = True
 ROOT = Path(__file__).resolve().parents[2]
 PACKAGING = ROOT / "packaging"
 PROGRAMS = Path(os.environ.get("VELDMARK_PROGRAMS", ROOT / "build" / "bin"))
+POLICY = PACKAGING / "org.veldmark.helper.policy"
 METAINFO = Path(os.environ.get("VELDMARK_METAINFO", ROOT / "build/dev/packaging/org.veldmark.Veldmark.metainfo.xml"))
 
 
@@ -242,28 +244,18 @@ class Metadata(InAHome):
         self.assertIn(f"veldmark ({version})", (PACKAGING / "debian" / "changelog").read_text().splitlines()[0])
 
     def test_the_policy_has_an_action_for_each_verb_of_the_helper_and_keeps_no_approval(self):
-        policy = PACKAGING / "org.veldmark.helper.policy"
         helper = (PROGRAMS / "veldmark-helper.sh").read_text()
         cases = helper.split("\nmain() {\n")[-1].split("  case $VERB in\n")[1].split("  esac\n")[0]
         verbs = {verb for line in re.findall(r"(?m)^  ([a-z| -]+)\)", cases) for verb in line.split(" | ")}
         self.assertLessEqual({"connect", "disconnect", "launch", "install-privileged"}, verbs)
         actions = {
             action.get("id"): {note.get("key").rpartition(".")[2]: note.text for note in action.iter("annotate")}
-            for action in tree.parse(policy).iter("action")
+            for action in tree.parse(POLICY).iter("action")
         }
         path = "/usr/share/veldmark/veldmark-helper.sh"
         self.assertEqual(actions, {f"org.veldmark.helper.{verb}": {"path": path, "argv1": verb} for verb in verbs})
         for kind in ("allow_any", "allow_inactive", "allow_active"):
-            self.assertEqual([e.text for e in tree.parse(policy).iter(kind)], ["auth_admin"] * len(verbs))
-
-    def test_the_prompt_for_connecting_is_the_programs_own_text(self):
-        profile = (ROOT / "src/platform/LinuxProfile.cpp").read_text()
-        text = re.search(r'promptText\s*=\s*Text::\s*tr\(\s*"([^"]+)"\)', profile).group(1)
-        messages = {
-            action.get("id"): action.find("message").text
-            for action in tree.parse(PACKAGING / "org.veldmark.helper.policy").iter("action")
-        }
-        self.assertEqual(messages["org.veldmark.helper.connect"], text)
+            self.assertEqual([e.text for e in tree.parse(POLICY).iter(kind)], ["auth_admin"] * len(verbs))
 
     def test_the_pictures_can_be_drawn(self):
         for path in (PACKAGING / "icons").iterdir():
@@ -283,6 +275,98 @@ class Metadata(InAHome):
         for name in ("prerm", "postinst", "postrm"):
             result = run("shellcheck", "--shell=dash", PACKAGING / "debian" / name)
             self.assertEqual((name, result.stdout), (name, ""))
+
+
+class Translations(unittest.TestCase):
+    """What a desktop shows of the program speaks the languages of its windows."""
+
+    LANGUAGES = {path.stem.partition("_")[2]: path for path in (ROOT / "resources" / "translations").glob("*.ts")}
+    LANG = "{http://www.w3.org/XML/1998/namespace}lang"
+
+    def windows(self, sentence: str) -> dict[str, str]:
+        """The sentence of the windows in each language."""
+        found = {"": sentence}
+        for language, path in self.LANGUAGES.items():
+            for message in tree.parse(path).iter("message"):
+                if message.find("source").text == sentence:
+                    found[language] = message.find("translation").text
+        return found
+
+    def in_xml(self, root, *tags):
+        """Each text of these elements by language: one without a language, and after it its translations."""
+        for parent in root.iter():
+            texts: list[list[tuple[str, str]]] = []
+            for element in parent:
+                if element.tag in tags:
+                    language = element.get(self.LANG, "")
+                    if not language:
+                        texts.append([])
+                    texts[-1].append((language, " ".join("".join(element.itertext()).split())))
+            yield from texts
+
+    def in_desktop_entry(self):
+        """Each text by language. The program's name is the same in all."""
+        for group in re.split(r"(?m)^(?=\[)", (PACKAGING / "veldmark.desktop").read_text()):
+            for key in ("Name", "GenericName", "Comment", "Keywords"):
+                texts = re.findall(rf"(?m)^{key}(?:\[(.*)\])?=(.*)$", group)
+                if texts not in ([], [("", "Veldmark")]):
+                    yield texts
+
+    def in_policy(self):
+        return self.in_xml(tree.parse(POLICY), "description", "message")
+
+    def in_metainfo(self):
+        return self.in_xml(
+            tree.parse(PACKAGING / "org.veldmark.Veldmark.metainfo.xml.in"), "summary", "p", "li", "caption", "keyword"
+        )
+
+    def test_each_text_speaks_each_language_of_the_windows(self):
+        self.assertEqual(len(self.LANGUAGES), 10)
+        for texts, number in ((self.in_policy(), 16), (self.in_desktop_entry(), 5), (self.in_metainfo(), 7)):
+            found = list(texts)
+            self.assertGreaterEqual(len(found), number)
+            for text in found:
+                self.assertEqual(sorted(language for language, _ in text), ["", *sorted(self.LANGUAGES)], text[0])
+                for _, words in text[1:]:
+                    self.assertNotIn(words, ("", text[0][1]))
+
+    def test_what_the_system_fills_in_is_kept(self):
+        filled = 0
+        for text in self.in_policy():
+            variables = re.findall(r"\$\([^)]*\)", text[0][1])
+            filled += len(variables)
+            for language, words in text:
+                self.assertEqual(re.findall(r"\$\([^)]*\)", words), variables, language)
+                if language in ("ar", "fa"):  # a path keeps its own direction
+                    self.assertEqual(re.findall(r"\u2068\$\([^)]*\)\u2069", words), [f"\u2068{name}\u2069" for name in variables])
+        self.assertEqual(filled, 2)
+
+    def test_keywords_end_with_a_separator(self):
+        keywords = [text for text in self.in_desktop_entry() if text[0][1].startswith("Tor;")]
+        self.assertEqual(len(keywords), 1)
+        for language, words in keywords[0]:
+            self.assertRegex(words, r"^Tor;(?:[^;،؛；]+;){4,}$", language)
+
+    def test_what_is_read_from_the_right_begins_there(self):
+        """A toolkit lays a text out from the side of its first letter."""
+        seen = 0
+        for text in (*self.in_policy(), *self.in_desktop_entry(), *self.in_metainfo()):
+            for language, words in text:
+                if language in ("ar", "fa") and not words.startswith("Tor;"):
+                    first = next(letter for letter in words if unicodedata.bidirectional(letter) in ("L", "R", "AL"))
+                    self.assertEqual(unicodedata.bidirectional(first), "AL", words)
+                    seen += 1
+        self.assertGreaterEqual(seen, 2 * (16 + 4 + 7))
+
+    def test_the_prompt_for_connecting_is_the_programs_own_text(self):
+        profile = (ROOT / "src/platform/LinuxProfile.cpp").read_text()
+        sentence = re.search(r'promptText\s*=\s*Text::\s*tr\(\s*"([^"]+)"\)', profile).group(1)
+        connect = tree.parse(POLICY).find("action[@id='org.veldmark.helper.connect']")
+        self.assertEqual({e.get(self.LANG, ""): e.text for e in connect.iter("message")}, self.windows(sentence))
+
+    def test_restoring_is_called_as_in_the_windows(self):
+        names = [dict(text) for text in self.in_desktop_entry() if text[0][1] == "Restore Network"]
+        self.assertEqual(names, [self.windows("Restore Network")])
 
 
 if __name__ == "__main__":
