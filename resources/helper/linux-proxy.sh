@@ -9,8 +9,11 @@ readonly SESSION_SECONDS=5    # for a script that runs one or two programs, and 
 readonly SESSION_LIMIT=15     # for a script that runs a program for each setting; shorter than the wait for the lock
 readonly MAX_SETTING=65536    # bytes; a longer setting could not be passed back in an argument
 
-# Scripts are for sh; status 3 of one that reads: the user has no such desktop. The beginning of scripts with many programs. A program that hangs is ended as early as in a short script, while slow programs are not.
-# Each stays in the process group that is ended together.
+# sh runs the scripts. A script that reads settings ends with status 3 when the user has no such desktop.
+
+# The first lines of a script that runs many programs. `step` gives each program the time limit of a short script, so that slow
+# programs together may take longer, while one that hangs is ended early. Each program stays in the script's process group, which is
+# ended as a whole.
 readonly IN_STEPS="
 step() { timeout --foreground -k 1 $SESSION_SECONDS \"\$@\"; }"
 

@@ -5,8 +5,8 @@
 namespace veldmark {
 
 // Notifies the desktop when protection is lost: Tor died, traffic or DNS lookups can leave around
-// it, or another program removed the firewall's rules. Each change of state is told once. What the
-// user has asked for is never told. Main thread.
+// it, or another program removed the firewall's rules. Notifies once for each change of state, and
+// never of a result that the user asked for. Main thread.
 class Alerts : public QObject {
     Q_OBJECT
 

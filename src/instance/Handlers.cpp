@@ -186,7 +186,7 @@ QCoro::Task<Outcome> launch(Call call)
 QCoro::Task<Outcome> downloadTransports(Call call)
 {
     const auto controller = call.controller;
-    // What is left of an earlier download is no reason.
+    // Checked first: the message of an earlier download, below, does not explain this refusal.
     if (isChanging(controller->phase()))
         co_return refusal(notNow(*controller));
     if (!controller->canDownloadTransports())

@@ -122,7 +122,7 @@ start-*)
   ! running || exit 0
   [ ! -e "$unit.stuck" ] || { echo "Job for $unit failed." >&2; exit 1; }
   rm -f up
-  # As below systemd, not in the control group of whoever asks.
+  # As systemd does, outside of the caller's control group.
   { printf '0\n' >/sys/fs/cgroup/cgroup.procs; exec setsid "./$unit"; } </dev/null >/dev/null 2>&1 7>&- 8>&- 9>&- &
   echo $! >"$unit.pid"
   until [ -e up ] || { [ -x "$unit.ready" ] && "./$unit.ready"; } || ! running; do sleep 0.01; done ;;

@@ -105,7 +105,7 @@ class Around(HostileTest):
             self.machine.shell("sysctl -qw net.ipv4.ip_unprivileged_port_start=1024; ip neigh del fe80::1 dev veth0")
 
     def test_a_vpns_own_packets_go_to_the_local_network_alone(self):
-        """Whoever's they are, a program's or the kernel's; and the local network has to be allowed."""
+        """A program's packets and the kernel's; and the local network has to be allowed."""
         carry = "import socket, sys; s = socket.socket(socket.AF_INET, socket.SOCK_DGRAM); s.connect((sys.argv[1], 4789))\ntry: s.send(b'?')\nexcept OSError: pass"
 
         def carried():

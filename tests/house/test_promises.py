@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""docs/security.md names the tests of its promises; this test checks that they exist.
+"""docs/security.md names the tests of its promises, and docs/endurance.md those of what was found; this test checks that they exist.
 
 usage: test_promises.py PROJECT
 
@@ -20,21 +20,22 @@ def main() -> int:
     for folder, pattern in (("tests", "*.py"), ("fuzz", "*.py"), ("tests", "*Test.cpp")):
         for path in (project / folder).rglob(pattern):
             files.setdefault(path.name.removesuffix(".cpp"), []).append(path)
-    promises = (project / "docs" / "security.md").read_text(encoding="utf-8")
     missing, found = [], 0
-    for file, test in NAME.findall(promises):
-        named = file.split("/")
-        paths = [path for path in files.get(named[-1], []) if list(path.parts[-len(named) : -1]) == named[:-1]]
-        if not paths:
-            missing.append(f"there is no {file}")
-        elif len(paths) > 1:
-            missing.append(f"{file} may be any of {', '.join(str(path.relative_to(project)) for path in paths)}")
-        elif test and not re.search(rf"\b(def|void) {test}\(", paths[0].read_text(encoding="utf-8")):
-            missing.append(f"{file} has no test {test}")
-        else:
-            found += 1
+    for document in "docs/security.md", "docs/endurance.md":
+        for file, test in NAME.findall((project / document).read_text(encoding="utf-8")):
+            named = file.split("/")
+            paths = [path for path in files.get(named[-1], []) if list(path.parts[-len(named) : -1]) == named[:-1]]
+            if not paths:
+                missing.append(f"{document}: there is no {file}")
+            elif len(paths) > 1:
+                places = ", ".join(str(path.relative_to(project)) for path in paths)
+                missing.append(f"{document}: {file} may be any of {places}")
+            elif test and not re.search(rf"\b(def|void) {test}\(", paths[0].read_text(encoding="utf-8")):
+                missing.append(f"{document}: {file} has no test {test}")
+            else:
+                found += document == "docs/security.md"
     for problem in missing:
-        print("docs/security.md:", problem)
+        print(problem)
     if found < 20:
         print(f"docs/security.md: only {found} tests are named")
     return 1 if missing or found < 20 else 0

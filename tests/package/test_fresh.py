@@ -23,7 +23,7 @@ echo "verb $* in $PWD, home $HOME, skips forbidden: ${VELDMARK_NO_SKIPS:-no}, ca
 case $1 in
 demo)
     need alpha
-    # As the lab's commands do: whoever enters these namespaces is in the clean system as well.
+    # As the lab's commands do: a process that enters these namespaces is in the clean system as well.
     nsenter --target $$ --mount /bin/bash -c '[[ -e /clean ]]' || { echo "build.sh: this is another machine" >&2; exit 1; }
     ;;
 test)
