@@ -4,6 +4,8 @@
 # KILL_AFTER the shell is killed with SIGKILL, and the subshell that it was made in; '' kills nothing. The program MARK runs once,
 # before the first command that begins with EDGE ('' for none); for EDGE note_listing, before a kill that comes between the
 # loading of the rules and that.
+# The text of the trap runs by eval, and has the words that it compares as they are written.
+# shellcheck disable=SC1090,SC2016,SC2034,SC2089,SC2090
 helper=$1 changes=$2 kill_after=$3 edge=$4 mark=$5
 shift 5
 set -o functrace

@@ -15,7 +15,7 @@ import time
 import namespace
 import services
 from namespace import USER_UID
-from test_kill import AFTER, BEFORE, Kill, connect_words
+from killing import AFTER, BEFORE, Kill, connect_words
 from wire import LINK
 
 SAMPLE = 1 if os.environ.get("VELDMARK_KILL_ALL") else 20  # one in this many of the other changes

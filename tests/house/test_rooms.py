@@ -56,6 +56,11 @@ class Rooms(unittest.TestCase):
         for room in rooms():
             self.assertRegex(document, rf"(?m)^  {room}/", f"docs/architecture.md does not name {room}/")
 
+    def test_what_tests_share_is_no_test(self):
+        """Its tests would run again in each module that imports it."""
+        for file in (ROOT / "tests").rglob("*.py"):
+            self.assertNotRegex(file.read_text(), r"(?m)^\s*(from|import) test_", str(file.relative_to(ROOT)))
+
     def test_one_source_sets_the_phase(self):
         assignment = re.compile(r"\bphase\s*=(?!=)|\bphase\.set\(")
         setting = {

@@ -9,7 +9,7 @@ from pathlib import Path
 sys.dont_write_bytecode = True
 sys.path.insert(0, str(Path(__file__).resolve().parent))
 
-from test_connect import SKIPPED, LabCase  # noqa: E402
+from veldlab.case import SKIPPED, LabCase  # noqa: E402
 from veldlab import topology as at  # noqa: E402
 from veldlab.lab import PROJECT  # noqa: E402
 

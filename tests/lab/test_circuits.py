@@ -11,8 +11,7 @@ from pathlib import Path
 sys.dont_write_bytecode = True
 sys.path.insert(0, str(Path(__file__).resolve().parent))
 
-from test_connect import PROGRAMS, SKIPPED, LabCase  # noqa: E402
-from test_deadline import FAST_FORWARD  # noqa: E402
+from veldlab.case import FAST_FORWARD, PROGRAMS, SKIPPED, LabCase  # noqa: E402
 from veldlab import topology as at  # noqa: E402
 from veldlab.product import is_probed  # noqa: E402
 

@@ -1,7 +1,6 @@
 """A bootstrap that cannot succeed: the five-minute deadline with the real controller, helper and tor, on a fast clock."""
 
 import json
-import os
 import sys
 import unittest
 from pathlib import Path
@@ -9,12 +8,7 @@ from pathlib import Path
 sys.dont_write_bytecode = True
 sys.path.insert(0, str(Path(__file__).resolve().parent))
 
-from test_connect import PROGRAMS, SKIPPED, LabCase  # noqa: E402
-from veldlab.lab import PROJECT  # noqa: E402
-
-FAST_FORWARD = os.environ.get("VELDMARK_FAST_FORWARD", str(PROJECT / "build" / "dev" / "tests" / "FastForward"))
-RESTORE = " Your network is still pointed at Tor. Click Restore Network to undo."
-TIMEOUT = "Tor didn't finish connecting within 5 minutes."
+from veldlab.case import FAST_FORWARD, PROGRAMS, RESTORE, SKIPPED, TIMEOUT, LabCase  # noqa: E402
 
 
 class Deadline(LabCase):

@@ -1,7 +1,6 @@
 """The real desktop application on an X server of its own, on the private Tor network. The test looks and clicks."""
 
 import json
-import os
 import signal
 import sys
 import time
@@ -11,7 +10,7 @@ from pathlib import Path
 sys.dont_write_bytecode = True
 sys.path.insert(0, str(Path(__file__).resolve().parent))
 
-from test_connect import MARKER, OPEN_DEATH, PROGRAMS, REAL_NFT, SKIPPED, STRICT_DEATH, LabCase  # noqa: E402
+from veldlab.case import MARKER, OPEN_DEATH, PROGRAMS, REAL_NFT, SKIPPED, STRICT_DEATH, LabCase  # noqa: E402
 from veldlab import desktop as person  # noqa: E402
 from veldlab import requirements  # noqa: E402
 from veldlab import topology as at  # noqa: E402

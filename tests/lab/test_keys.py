@@ -2,7 +2,6 @@
 """The keys that labs share are complete or absent, last a week, and are readable by root only."""
 
 import itertools
-import os
 import sys
 import tempfile
 import time

@@ -10,7 +10,7 @@ from pathlib import Path
 sys.dont_write_bytecode = True
 sys.path.insert(0, str(Path(__file__).resolve().parent))
 
-from test_connect import OPEN_DEATH, REAL_NFT, SKIPPED, LabCase  # noqa: E402
+from veldlab.case import OPEN_DEATH, REAL_NFT, SKIPPED, LabCase  # noqa: E402
 from veldlab import shell  # noqa: E402
 from veldlab import topology as at  # noqa: E402
 from veldlab.product import is_probed  # noqa: E402

@@ -1,7 +1,6 @@
 """Separate applications: the exits that the check service sees, and the kill switch for programs in any control group."""
 
 import json
-import subprocess
 import sys
 import unittest
 from pathlib import Path
@@ -9,7 +8,7 @@ from pathlib import Path
 sys.dont_write_bytecode = True
 sys.path.insert(0, str(Path(__file__).resolve().parent))
 
-from test_connect import SKIPPED, LabCase  # noqa: E402
+from veldlab.case import SKIPPED, LabCase  # noqa: E402
 from veldlab import topology as at  # noqa: E402
 from veldlab.product import is_probed  # noqa: E402
 
