@@ -9,6 +9,11 @@ void whenLaunched(std::function<void(bool atLogin)> then)
     then(false);
 }
 void whenReopened(std::function<void()>) { }
+void whenAskedToEnd(std::function<void()>) { }
+bool answerToEnd(bool)
+{
+    return false;
+}
 void keepAwake(bool) { }
 void showNotice(const QString &, const QString &) { }
 

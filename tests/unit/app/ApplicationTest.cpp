@@ -1,10 +1,13 @@
 #include "app/Application.h"
 
+#include "StandInDesktop.h"
 #include "support/Computer.h"
 #include "support/OtherSession.h"
 #include "support/TestProgram.h"
 #include "support/Workbench.h"
 
+#include <QGuiApplication>
+#include <QQuickWindow>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -18,6 +21,20 @@ private:
     static void connectAtStart(const PlatformProfile &profile)
     {
         Computer::write(profile.settingsFile, "[General]\nautoConnect=true\n");
+    }
+    static bool showsMain(const Application &program)
+    {
+        const QQuickWindow *window = program.windows().find(u"main"_s);
+        return window && window->isVisible();
+    }
+    // The visible question whether to quit; null without one.
+    static QWindow *question()
+    {
+        for (QWindow *window : QGuiApplication::topLevelWindows()) {
+            if (window->isVisible() && window->title() == u"Quit Veldmark"_s)
+                return window;
+        }
+        return nullptr;
     }
 
 private Q_SLOTS:
@@ -81,6 +98,116 @@ private Q_SLOTS:
                  qPrintable(refused.error().english()));
         settle();
         QVERIFY(computer.verbs().isEmpty());
+    }
+
+    // A Mac's login item has no words, such as --hidden.
+    void aStartAtLoginShowsNoWindow_data()
+    {
+        QTest::addColumn<bool>("atLogin");
+        QTest::newRow("by the user") << false;
+        QTest::newRow("at login") << true;
+    }
+    void aStartAtLoginShowsNoWindow()
+    {
+        QFETCH(bool, atLogin);
+        Computer computer;
+        StandInDesktop desktop;
+        Application program(computer.profile);
+        QVERIFY(program.start(false, false));
+        QVERIFY(desktop.launched);
+        QVERIFY(!showsMain(program)); // the reason is not known yet
+        desktop.tellLaunch(atLogin);
+        QCOMPARE(showsMain(program), !atLogin);
+    }
+
+    void openedAgainItShowsItsWindow()
+    {
+        Computer computer;
+        StandInDesktop desktop;
+        Application program(computer.profile);
+        QVERIFY(program.start(true, false));
+        QVERIFY(!showsMain(program));
+        QVERIFY(desktop.reopened);
+        desktop.reopened();
+        QVERIFY(showsMain(program));
+    }
+
+    void itIsNotSlowedDownWhileConnected()
+    {
+        Computer computer;
+        computer.fail("connect", "not now");
+        StandInDesktop desktop;
+        {
+            Application program(computer.profile);
+            QVERIFY(program.start(true, false));
+            settle();
+            QCOMPARE(desktop.awake, QList<bool>());
+        }
+        Application program(computer.profile);
+        QVERIFY(program.start(true, true));
+        QVERIFY(until([&] { return desktop.awake == QList<bool>({true, false}); }));
+        QVERIFY(computer.verbs().contains(u"connect"_s));
+    }
+
+    void whatTheUserHasToKnowIsANoticeOfTheSystem()
+    {
+        Computer computer;
+        StandInDesktop desktop;
+        Application program(computer.profile);
+        QVERIFY(program.start(false, false));
+        desktop.tellLaunch(false);
+        QVERIFY(showsMain(program));
+        QCOMPARE(desktop.notices, QStringList());
+        program.windows().find(u"main"_s)->close(); // there is no tray that would show it
+        QVERIFY(
+            until([&] { return desktop.notices == QStringList{u"Veldmark is still running"_s}; }));
+    }
+
+    // At logout: an answer at once would be a refusal, which calls the logout off.
+    void theSystemWaitsForTheUsersAnswer()
+    {
+        Computer computer;
+        computer.writeMarker();
+        StandInDesktop desktop;
+        Application program(computer.profile);
+        QVERIFY(program.start(true, false));
+        desktop.askToEnd();
+        QVERIFY(question());
+        settle();
+        QVERIFY(!desktop.ends);
+        QVERIFY(QMetaObject::invokeMethod(question(), "cancelled"));
+        QVERIFY(until([&] { return desktop.ends.has_value(); }));
+        QCOMPARE(*desktop.ends, false);
+        QVERIFY(computer.hasMarker());
+
+        desktop.ends.reset();
+        desktop.askToEnd();
+        QVERIFY(question());
+        computer.fail("disconnect", "not now");
+        QVERIFY(QMetaObject::invokeMethod(question(), "disconnectWanted"));
+        QVERIFY(until([&] { return desktop.ends.has_value(); }));
+        QCOMPARE(*desktop.ends, false);
+        QVERIFY(showsMain(program)); // with the reason
+
+        desktop.ends.reset();
+        computer.fail("disconnect", {});
+        desktop.askToEnd();
+        QVERIFY(QMetaObject::invokeMethod(question(), "disconnectWanted"));
+        QVERIFY(until([&] { return desktop.ends.has_value(); }));
+        QCOMPARE(*desktop.ends, true);
+        QVERIFY(!computer.hasMarker());
+    }
+
+    void withoutASessionTheSystemMayEndItAtOnce()
+    {
+        Computer computer;
+        StandInDesktop desktop;
+        Application program(computer.profile);
+        QVERIFY(program.start(true, false));
+        desktop.askToEnd();
+        QVERIFY(until([&] { return desktop.ends.has_value(); }));
+        QCOMPARE(*desktop.ends, true);
+        QVERIFY(!question());
     }
 };
 
