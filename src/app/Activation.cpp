@@ -15,6 +15,10 @@ bool answerToEnd(bool)
     return false;
 }
 void keepAwake(bool) { }
+std::optional<Text> misplaced()
+{
+    return std::nullopt;
+}
 void showNotice(const QString &, const QString &) { }
 
 } // namespace veldmark

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "base/Text.h"
+
 #include <QString>
 
 #include <functional>
+#include <optional>
 
 namespace veldmark {
 
@@ -32,6 +35,11 @@ bool answerToEnd(bool ends);
 // While it is on, the system does not slow the program down for having no window. The computer may
 // still go to sleep.
 void keepAwake(bool on);
+
+// What the user has to do first where the system runs a bundle from a place that it has made up,
+// as it does where a downloaded one is opened in place. Login items and the command that restores
+// the network name another place then.
+std::optional<Text> misplaced();
 
 // Shows a notification of the system.
 void showNotice(const QString &title, const QString &text);

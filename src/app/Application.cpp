@@ -120,6 +120,12 @@ Result<void, Text> Application::start(bool hidden, bool connectNow)
             if (!atLogin)
                 m_windows.open(QStringLiteral("main"));
         });
+    if (const auto advice = misplaced()) {
+        auto *const box = new QMessageBox(QMessageBox::Warning, tr("Veldmark"),
+                                          advice->translated(), QMessageBox::Ok);
+        box->setAttribute(Qt::WA_DeleteOnClose);
+        box->open(); // the program can be used meanwhile
+    }
     begin(connectNow);
     return {};
 }

@@ -147,6 +147,16 @@ void keepAwake(bool on)
     }
 }
 
+std::optional<Text> misplaced()
+{
+    @autoreleasepool {
+        const QString path = QString::fromUtf8([[[NSBundle mainBundle] bundlePath] UTF8String]);
+        if (!path.contains(QLatin1String("/AppTranslocation/")))
+            return std::nullopt;
+        return Text::tr("Move Veldmark to the Applications folder and open it from there first.");
+    }
+}
+
 // The system asks the user once whether the program may show notifications, and drops them if the
 // user refuses.
 void showNotice(const QString &title, const QString &text)

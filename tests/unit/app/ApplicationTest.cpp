@@ -6,7 +6,8 @@
 #include "support/TestProgram.h"
 #include "support/Workbench.h"
 
-#include <QGuiApplication>
+#include <QApplication>
+#include <QMessageBox>
 #include <QQuickWindow>
 #include <QTest>
 
@@ -161,6 +162,31 @@ private Q_SLOTS:
         program.windows().find(u"main"_s)->close(); // there is no tray that would show it
         QVERIFY(
             until([&] { return desktop.notices == QStringList{u"Veldmark is still running"_s}; }));
+    }
+
+    void fromAMadeUpPlaceItSaysWhatToDoFirst()
+    {
+        Computer computer;
+        StandInDesktop desktop;
+        const auto said = [] {
+            QStringList texts;
+            for (QWidget *widget : QApplication::topLevelWidgets()) {
+                if (const auto *box = qobject_cast<QMessageBox *>(widget))
+                    texts += box->text();
+            }
+            return texts;
+        };
+        {
+            Application program(computer.profile);
+            QVERIFY(program.start(true, false));
+            QCOMPARE(said(), QStringList());
+        }
+        desktop.misplaced = Text(u"Move it."_s);
+        Application program(computer.profile);
+        QVERIFY(program.start(true, false));
+        QCOMPARE(said(), QStringList{u"Move it."_s});
+        for (QWidget *widget : QApplication::topLevelWidgets())
+            widget->close();
     }
 
     // At logout: an answer at once would be a refusal, which calls the logout off.

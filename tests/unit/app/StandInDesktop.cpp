@@ -46,6 +46,11 @@ void keepAwake(bool on)
         StandInDesktop::present->awake.append(on);
 }
 
+std::optional<Text> misplaced()
+{
+    return StandInDesktop::present ? StandInDesktop::present->misplaced : std::nullopt;
+}
+
 void showNotice(const QString &title, const QString &)
 {
     if (StandInDesktop::present)

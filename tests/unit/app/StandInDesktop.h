@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Text.h"
+
 #include <QList>
 #include <QStringList>
 
@@ -26,6 +28,7 @@ struct StandInDesktop {
         askedToEnd();
     }
 
+    std::optional<Text> misplaced;
     std::function<void(bool)> launched;
     std::function<void()> reopened;
     std::function<void()> askedToEnd;
