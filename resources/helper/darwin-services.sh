@@ -9,19 +9,20 @@ readonly MAX_SERVICES=64
 readonly OUR_DNS=127.0.0.1 OUR_HOST=127.0.0.1
 
 # ask VERB [SERVICE]: sets the caller's variable `text` to the answer. Status 1 when the answer is a refusal, which
-# may come with status 0.
-ask() { text=$(networksetup "$@") && [[ $text != *"** Error"* && $text != *"not a recognized"* ]]; }
+# may come with status 0. Sentences may be in the user's language, so only their form is relied on.
+ask() { text=$(networksetup "$@") && [[ $text != *"** "* && $text != *"not a recognized"* ]]; }
 
 # read_services all|active: sets SERVICES to the names; all includes disabled services. Status 1 when they cannot
 # be read, which differs from an empty list.
 SERVICES=()
 read_services() {
-  local line text
+  local line text head
   SERVICES=()
-  ask -listallnetworkservices && [[ $text == "An asterisk "* ]] || return 1
+  # The first line says what an asterisk means.
+  ask -listallnetworkservices && head=${text%%$'\n'*} && [[ $head == *"(*)"* ]] || return 1
   while IFS= read -r line; do
     case $line in
-    '' | "An asterisk "*) continue ;;
+    '' | "$head") continue ;;
     \**)
       [[ $1 != active ]] || continue
       line=${line#\*}
@@ -45,17 +46,15 @@ current_location() {
   ask -getcurrentlocation && [[ -n $text ]] && printf '%s' "$text"
 }
 
-# read_list TEXT: sets LIST to the lines of an answer; to an empty list when the answer is a sentence that there
-# are none.
+# read_list TEXT: sets LIST to the lines of an answer; to an empty list when the answer is one sentence, which says
+# that there are none. An entry has no blank.
 LIST=()
 read_list() {
   local line
   LIST=()
+  [[ $1 == *$'\n'* || $1 != *" "*. ]] || return 0
   while IFS= read -r line; do
-    case $line in
-    '' | "There aren't any "*) ;;
-    *) LIST[${#LIST[@]}]=$line ;;
-    esac
+    [[ -z $line ]] || LIST[${#LIST[@]}]=$line
   done <<<"$1"
 }
 
@@ -73,25 +72,34 @@ value_of() {
   return 1
 }
 
-# read_service NAME: reads the present settings of a service. Status 1 when they are unknown.
+# read_service NAME [KINDS]: reads the present settings of a service, or only some kinds of them. Status 1 when they
+# are unknown.
+readonly ALL_KINDS=" dns bypass socks web secure auto discovery "
 HAS_DNS=() HAS_BYPASS=() HAS_SOCKS='' HAS_HOST='' HAS_PORT='' HAS_WEB='' HAS_SECURE='' HAS_AUTO='' HAS_DISCOVERY=''
 read_service() {
-  local text line
-  ask -getdnsservers "$1" || return 1
-  read_list "$text"
-  HAS_DNS=(${LIST[@]+"${LIST[@]}"})
-  for line in ${LIST[@]+"${LIST[@]}"}; do
-    is_address4 "$line" || is_address6 "${line%%%*}" || return 1
-  done
-  ask -getproxybypassdomains "$1" || return 1
-  read_list "$text"
-  HAS_BYPASS=(${LIST[@]+"${LIST[@]}"})
-  ask -getsocksfirewallproxy "$1" && HAS_SOCKS=$(value_of "$text" Enabled) &&
-    HAS_HOST=$(value_of "$text" Server) && HAS_PORT=$(value_of "$text" Port) || return 1
-  ask -getwebproxy "$1" && HAS_WEB=$(value_of "$text" Enabled) || return 1
-  ask -getsecurewebproxy "$1" && HAS_SECURE=$(value_of "$text" Enabled) || return 1
-  ask -getautoproxyurl "$1" && HAS_AUTO=$(value_of "$text" Enabled) || return 1
-  ask -getproxyautodiscovery "$1" && HAS_DISCOVERY=$(value_of "$text" "Auto Proxy Discovery") || return 1
+  local text line kinds=${2-$ALL_KINDS}
+  if [[ $kinds == *" dns "* ]]; then
+    ask -getdnsservers "$1" || return 1
+    read_list "$text"
+    HAS_DNS=(${LIST[@]+"${LIST[@]}"})
+    for line in ${LIST[@]+"${LIST[@]}"}; do
+      is_address4 "$line" || is_address6 "${line%%%*}" || return 1
+    done
+  fi
+  if [[ $kinds == *" bypass "* ]]; then
+    ask -getproxybypassdomains "$1" || return 1
+    read_list "$text"
+    HAS_BYPASS=(${LIST[@]+"${LIST[@]}"})
+  fi
+  if [[ $kinds == *" socks "* ]]; then
+    ask -getsocksfirewallproxy "$1" && HAS_SOCKS=$(value_of "$text" Enabled) &&
+      HAS_HOST=$(value_of "$text" Server) && HAS_PORT=$(value_of "$text" Port) || return 1
+  fi
+  [[ $kinds != *" web "* ]] || { ask -getwebproxy "$1" && HAS_WEB=$(value_of "$text" Enabled); } || return 1
+  [[ $kinds != *" secure "* ]] || { ask -getsecurewebproxy "$1" && HAS_SECURE=$(value_of "$text" Enabled); } || return 1
+  [[ $kinds != *" auto "* ]] || { ask -getautoproxyurl "$1" && HAS_AUTO=$(value_of "$text" Enabled); } || return 1
+  [[ $kinds != *" discovery "* ]] ||
+    { ask -getproxyautodiscovery "$1" && HAS_DISCOVERY=$(value_of "$text" "Auto Proxy Discovery"); } || return 1
 }
 
 is_ours() {
@@ -128,10 +136,11 @@ choose_bypass() {
   [[ $1 != 1 ]] || OUR_BYPASS=(localhost 127.0.0.1 ::1 '*.local' 10/8 172.16/12 192.168/16 169.254/16)
 }
 
-# net WORD...: networksetup without output; records that a setting was changed.
+# net KIND WORD...: networksetup without output; records which kind of setting was changed.
 CHANGED=''
 net() {
-  CHANGED=1
+  CHANGED=${CHANGED:- }"$1 "
+  shift
   networksetup "$@" >/dev/null
 }
 
@@ -140,20 +149,20 @@ net() {
 set_service() {
   CHANGED=''
   if ! [[ ${#HAS_DNS[@]} == 1 && ${HAS_DNS[0]-} == "$OUR_DNS" ]]; then
-    net -setdnsservers "$1" "$OUR_DNS" || return 1
+    net dns -setdnsservers "$1" "$OUR_DNS" || return 1
   fi
   if [[ ${HAS_BYPASS[*]-} != "${OUR_BYPASS[*]}" ]]; then
-    net -setproxybypassdomains "$1" "${OUR_BYPASS[@]}" || return 1
+    net bypass -setproxybypassdomains "$1" "${OUR_BYPASS[@]}" || return 1
   fi
   if ! [[ $HAS_SOCKS == Yes && $HAS_HOST == "$OUR_HOST" && $HAS_PORT == "$SOCKS_PORT" ]]; then
-    net -setsocksfirewallproxy "$1" "$OUR_HOST" "$SOCKS_PORT" off && net -setsocksfirewallproxystate "$1" on || return 1
+    net socks -setsocksfirewallproxy "$1" "$OUR_HOST" "$SOCKS_PORT" off && net socks -setsocksfirewallproxystate "$1" on || return 1
   fi
-  [[ $HAS_WEB != Yes ]] || net -setwebproxystate "$1" off || return 1
-  [[ $HAS_SECURE != Yes ]] || net -setsecurewebproxystate "$1" off || return 1
-  [[ $HAS_AUTO != Yes ]] || net -setautoproxystate "$1" off || return 1
-  [[ $HAS_DISCOVERY != On ]] || net -setproxyautodiscovery "$1" off || return 1
+  [[ $HAS_WEB != Yes ]] || net web -setwebproxystate "$1" off || return 1
+  [[ $HAS_SECURE != Yes ]] || net secure -setsecurewebproxystate "$1" off || return 1
+  [[ $HAS_AUTO != Yes ]] || net auto -setautoproxystate "$1" off || return 1
+  [[ $HAS_DISCOVERY != On ]] || net discovery -setproxyautodiscovery "$1" off || return 1
   [[ -n $CHANGED ]] || return 0
-  read_service "$1" && is_ours && [[ ${HAS_BYPASS[*]-} == "${OUR_BYPASS[*]}" ]] &&
+  read_service "$1" "$CHANGED" && is_ours && [[ ${HAS_BYPASS[*]-} == "${OUR_BYPASS[*]}" ]] &&
     [[ $HAS_WEB$HAS_SECURE$HAS_AUTO != *Yes* && $HAS_DISCOVERY != On ]]
 }
 
@@ -227,25 +236,26 @@ restore_service() {
   [[ $port != 0 ]] || port=''
   read_service "$1" || return 1
   ! is_as_noted || return 0
+  CHANGED=''
   ((${#dns[@]} > 0)) || dns=(Empty)
   ((${#bypass[@]} > 0)) || bypass=(Empty)
-  net -setproxybypassdomains "$1" "${bypass[@]}" || return 1
+  net bypass -setproxybypassdomains "$1" "${bypass[@]}" || return 1
   if [[ -n $host ]]; then
-    net -setsocksfirewallproxy "$1" "$host" "$port" off || return 1
+    net socks -setsocksfirewallproxy "$1" "$host" "$port" off || return 1
   else
-    net -setsocksfirewallproxy "$1" '' '' off || true   # some versions may not take an empty host
+    net socks -setsocksfirewallproxy "$1" '' '' off || true   # some versions may not take an empty host
   fi
-  net -setsocksfirewallproxystate "$1" "$(on_off "$state")" || return 1
-  [[ $HAS_WEB == "$(journal_value web)" ]] || net -setwebproxystate "$1" "$(on_off "$(journal_value web)")" || return 1
+  net socks -setsocksfirewallproxystate "$1" "$(on_off "$state")" || return 1
+  [[ $HAS_WEB == "$(journal_value web)" ]] || net web -setwebproxystate "$1" "$(on_off "$(journal_value web)")" || return 1
   [[ $HAS_SECURE == "$(journal_value secure)" ]] ||
-    net -setsecurewebproxystate "$1" "$(on_off "$(journal_value secure)")" || return 1
-  [[ $HAS_AUTO == "$(journal_value auto)" ]] || net -setautoproxystate "$1" "$(on_off "$(journal_value auto)")" || return 1
+    net secure -setsecurewebproxystate "$1" "$(on_off "$(journal_value secure)")" || return 1
+  [[ $HAS_AUTO == "$(journal_value auto)" ]] || net auto -setautoproxystate "$1" "$(on_off "$(journal_value auto)")" || return 1
   [[ $HAS_DISCOVERY == "$(journal_value discovery)" ]] ||
-    net -setproxyautodiscovery "$1" "$(on_off "$(journal_value discovery)")" || return 1
-  net -setdnsservers "$1" "${dns[@]}" || return 1
+    net discovery -setproxyautodiscovery "$1" "$(on_off "$(journal_value discovery)")" || return 1
+  net dns -setdnsservers "$1" "${dns[@]}" || return 1
   [[ ${dns[0]} != Empty ]] || dns=()
   [[ ${bypass[0]} != Empty ]] || bypass=()
-  read_service "$1" && is_as_noted
+  read_service "$1" "$CHANGED" && is_as_noted
 }
 
 CURRENT_LOCATION='' SERVICES_READ=0   # read once by undo_services for all entries
@@ -303,13 +313,13 @@ sweep_services() {
   local name
   read_services all || return 0
   for name in ${SERVICES[@]+"${SERVICES[@]}"}; do
-    # The first of seven queries decides most cases.
+    # The first query decides most cases.
     [[ $(networksetup -getdnsservers "$name" || true) == "$OUR_DNS" ]] || continue
     if read_service "$name" && is_ours; then
-      net -setsocksfirewallproxy "$name" '' '' off || true
-      net -setsocksfirewallproxystate "$name" off || true
-      net -setproxybypassdomains "$name" Empty || true
-      net -setdnsservers "$name" Empty || true
+      net socks -setsocksfirewallproxy "$name" '' '' off || true
+      net socks -setsocksfirewallproxystate "$name" off || true
+      net bypass -setproxybypassdomains "$name" Empty || true
+      net dns -setdnsservers "$name" Empty || true
     fi
   done
 }

@@ -4,6 +4,7 @@
 main() {
   VERB=${1-}
   clean_environment "$@"
+  [[ $SYSTEM != darwin ]] || unite_ids "$@"
   open_messages
   SELF=$0
   [[ $SELF == /* ]] || SELF=$PWD/$SELF

@@ -27,9 +27,10 @@ Application::Application(const PlatformProfile &profile)
 {
     QObject::connect(&m_windows, &Windows::quitWanted, &m_guard, &QuitGuard::quit);
     QObject::connect(&m_windows, &Windows::mainClosed, this, &Application::onMainClosed);
+    whenAskedToEnd([this] { m_guard.quit(); });
     QObject::connect(
-        &m_guard, &QuitGuard::mayEnd, qApp, [] { QCoreApplication::exit(0); },
-        Qt::QueuedConnection);
+        &m_guard, &QuitGuard::mayEnd, this, [this] { end(0); }, Qt::QueuedConnection);
+    QObject::connect(&m_guard, &QuitGuard::stays, this, [] { answerToEnd(false); });
     QObject::connect(&m_windows, &Windows::failed, this, [this](const QString &reason) {
         // A message box of Qt's, since the program's own windows are what failed.
         QMessageBox::critical(
@@ -91,7 +92,13 @@ void Application::leave(bool restored)
             tr("Veldmark had to close and could not restore the network. Open Veldmark again to restore it."));
     }
     QMetaObject::invokeMethod(
-        qApp, [left] { QCoreApplication::exit(left ? 1 : 0); }, Qt::QueuedConnection);
+        this, [this, left] { end(left ? 1 : 0); }, Qt::QueuedConnection);
+}
+
+void Application::end(int status)
+{
+    if (!answerToEnd(true))
+        QCoreApplication::exit(status);
 }
 
 Result<void, Text> Application::start(bool hidden, bool connectNow)
@@ -113,6 +120,12 @@ Result<void, Text> Application::start(bool hidden, bool connectNow)
             if (!atLogin)
                 m_windows.open(QStringLiteral("main"));
         });
+    if (const auto advice = misplaced()) {
+        auto *const box = new QMessageBox(QMessageBox::Warning, tr("Veldmark"),
+                                          advice->translated(), QMessageBox::Ok);
+        box->setAttribute(Qt::WA_DeleteOnClose);
+        box->open(); // the program can be used meanwhile
+    }
     begin(connectNow);
     return {};
 }

@@ -44,6 +44,7 @@ private:
     void tellHidden();
     void joinExitHandler();
     void leave(bool restored);
+    void end(int status);
 
     RealController m_real;
     SessionWatch m_watch{m_real.controller()};

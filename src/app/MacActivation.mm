@@ -2,6 +2,9 @@
 
 #import <AppKit/AppKit.h>
 #import <UserNotifications/UserNotifications.h>
+#import <objc/runtime.h>
+
+#include <QCoreApplication>
 
 #include <utility>
 
@@ -49,6 +52,19 @@ namespace veldmark {
 
 namespace {
 
+std::function<void()> askedToEnd;
+bool isAsked = false; // the system waits for an answer
+
+// Takes the place of the method of Qt's delegate. Its types are `types`.
+NSApplicationTerminateReply shouldTerminate(id, SEL, NSApplication *)
+{
+    // Later, since the answer must not come within this call.
+    if (!std::exchange(isAsked, true))
+        QMetaObject::invokeMethod(qApp, askedToEnd, Qt::QueuedConnection);
+    return NSTerminateLater;
+}
+constexpr const char *types = "Q@:@";
+
 VeldmarkEvents *events()
 {
     static VeldmarkEvents *const own = [[VeldmarkEvents alloc] init];
@@ -91,6 +107,30 @@ void whenReopened(std::function<void()> then)
     events()->reopened = std::move(then);
 }
 
+// Qt's delegate calls every termination off and lets the program end by itself afterwards, which
+// the system takes for a refusal. While the system waits, it runs the event loop in a mode in which
+// Qt's timers, sockets and windows work.
+void whenAskedToEnd(std::function<void()> then)
+{
+    askedToEnd = std::move(then);
+    @autoreleasepool {
+        NSObject *const delegate = (NSObject *)[[NSApplication sharedApplication] delegate];
+        if (delegate)
+            class_replaceMethod([delegate class], @selector(applicationShouldTerminate:),
+                                reinterpret_cast<IMP>(&shouldTerminate), types);
+    }
+}
+
+bool answerToEnd(bool ends)
+{
+    if (!std::exchange(isAsked, false))
+        return false;
+    @autoreleasepool {
+        [[NSApplication sharedApplication] replyToApplicationShouldTerminate:ends];
+    }
+    return true;
+}
+
 void keepAwake(bool on)
 {
     static id activity = nil;
@@ -104,6 +144,16 @@ void keepAwake(bool on)
             [activity release];
             activity = nil;
         }
+    }
+}
+
+std::optional<Text> misplaced()
+{
+    @autoreleasepool {
+        const QString path = QString::fromUtf8([[[NSBundle mainBundle] bundlePath] UTF8String]);
+        if (!path.contains(QLatin1String("/AppTranslocation/")))
+            return std::nullopt;
+        return Text::tr("Move Veldmark to the Applications folder and open it from there first.");
     }
 }
 

@@ -1,3 +1,4 @@
+#include "app/Activation.h"
 #include "app/LoginItem.h"
 
 #import <ServiceManagement/ServiceManagement.h>
@@ -19,12 +20,8 @@ Result<void, Text> LoginItem::set(bool on) const
         SMAppService *const service = [SMAppService mainAppService];
         if (on == isSet())
             return {};
-        // The system runs a downloaded bundle from a random path that changes at each start.
-        if (on
-            && QString::fromUtf8([[[NSBundle mainBundle] bundlePath] UTF8String])
-                   .contains(QLatin1String("/AppTranslocation/")))
-            return Failure(
-                Text::tr("Move Veldmark to the Applications folder and open it from there first."));
+        if (const auto advice = misplaced(); on && advice)
+            return Failure(*advice);
         NSError *error = nil;
         const BOOL done = on ? [service registerAndReturnError:&error]
                              : [service unregisterAndReturnError:&error];

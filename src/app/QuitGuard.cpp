@@ -26,8 +26,10 @@ void QuitGuard::quit()
         m_dialog = m_windows.make(
             QStringLiteral("main/QuitDialog.qml"),
             {{QStringLiteral("strict"), staysClosed()}, {QStringLiteral("busy"), false}});
-        if (!m_dialog)
-            return; // the windows have shown the reason; the program stays, to guard the network
+        if (!m_dialog) {
+            Q_EMIT stays(); // to guard the network; the windows have shown the reason
+            return;
+        }
         QObject::connect(m_dialog.get(), SIGNAL(disconnectWanted()), this,
                          SLOT(onDisconnectWanted()));
         QObject::connect(m_dialog.get(), SIGNAL(quitWanted()), this, SLOT(onQuitWanted()));
@@ -71,6 +73,7 @@ void QuitGuard::onCancelled()
 {
     m_quitAfterwards = false;
     closeDialog();
+    Q_EMIT stays();
 }
 
 QCoro::Task<void> QuitGuard::disconnectAndQuit()
@@ -90,10 +93,14 @@ void QuitGuard::finish()
 {
     const bool wanted = std::exchange(m_quitAfterwards, false);
     closeDialog();
-    if (wanted && !m_controller.isSessionMarkerPresent())
+    if (!wanted)
+        return;
+    if (!m_controller.isSessionMarkerPresent()) {
         Q_EMIT mayEnd();
-    else if (wanted)
-        m_windows.open(QStringLiteral("main")); // its banner shows the reason
+        return;
+    }
+    m_windows.open(QStringLiteral("main")); // its banner shows the reason
+    Q_EMIT stays();
 }
 
 } // namespace veldmark

@@ -24,6 +24,8 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void mayEnd();
+    // The answer to quit() is no: the user has cancelled, or the network could not be restored.
+    void stays();
 
 private Q_SLOTS:
     void onDisconnectWanted() { disconnectAndQuit(); }

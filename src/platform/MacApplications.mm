@@ -1,3 +1,4 @@
+#include "platform/BundlePath.h"
 #include "platform/InstalledApplications.h"
 #include "platform/RunningApplications.h"
 
@@ -41,15 +42,14 @@ public:
     {
         std::vector<qint64> found;
         @autoreleasepool {
-            const QString wanted = QDir::cleanPath(path);
+            const QString wanted = comparableBundle(path);
             for (NSRunningApplication *application in
                  [[NSWorkspace sharedWorkspace] runningApplications]) {
                 const pid_t process = [application processIdentifier];
                 // a new process may have no id yet
                 if (process == getpid() || process <= 0)
                     continue;
-                NSString *bundle = [[[application bundleURL] URLByStandardizingPath] path];
-                if (QDir::cleanPath(text(bundle)) == wanted)
+                if (comparableBundle(text([[application bundleURL] path])) == wanted)
                     found.push_back(process);
             }
         }

@@ -7,8 +7,11 @@ of a real Mac's behaviour.
 """
 
 import fcntl
+import ipaddress
 import os
+import re
 import shutil
+import socket
 import subprocess
 import sys
 
@@ -22,7 +25,7 @@ STAND_INS = (
     "uname sync mv killall ifconfig sysctl stat ls scutil dscacheutil dscl networksetup launchctl lsof " "pfctl df mount"
 ).split()
 BSD = (
-    "perl cat chmod chown cp date env grep head id ln mkdir mktemp readlink rm rmdir sed shasum sleep sort tail touch tr wc xargs"
+    "perl cat chmod chown cp date dirname env grep head id ln mkdir mktemp readlink rm rmdir sed shasum sleep sort tail touch tr wc xargs"
 ).split()
 ONLY_LINUX = "flock timeout setpriv unshare setsid getent sha256sum nft umount ip ss gsettings pkexec useradd".split()
 
@@ -72,6 +75,7 @@ SERVICES = {  # the earlier settings of each service; the second one's name has 
     },
     "Thunderbolt Bridge": {},
     "*iPhone USB": {"dns": "192.0.2.99"},
+    "Firma (IKEv2)": {"refuses": "set", "discovery": "On"},  # a VPN, which its own program or a profile sets
 }
 
 BEFORE_PF = {
@@ -201,8 +205,10 @@ class Mac(namespace.Machine):
             pass
 
     def help(self, *arguments, **options):
-        """Runs the helper like the administrator prompt: as root, without the caller's name."""
-        return self.run("/bin/bash", self.helper, *arguments, **options)
+        """Runs the helper like the administrator prompt: without the caller's name. osascript may make only the effective ids
+        root's. -p stands for a Mac's bash, which then keeps them, or no script could run there as an administrator."""
+        apart = [] if "uid" in options or "env" in options else ["/mac/gnu/perl", "-e", f"$( = $< = {USER_UID}; exec @ARGV"]
+        return self.run(*apart, "/bin/bash", *(["-p"] if apart else []), self.helper, *arguments, **options)
 
     def restart(self):
         """Restarts the computer: settings and files stay; rules, jobs and processes go."""
@@ -223,7 +229,9 @@ class Mac(namespace.Machine):
         state = {
             key: value
             for key, value in self.state.items()
-            if not key.startswith(("record ", "settling ", "pf flushes", "pf last token", "dns flushed", "cache flushed"))
+            if not key.startswith(
+                ("record ", "settling ", "pf flushes", "pf states", "pf last token", "dns flushed", "cache flushed")
+            )
         }
         # networksetup does not distinguish an empty list from one that was never set.
         state = {
@@ -239,9 +247,21 @@ class Mac(namespace.Machine):
         )
         return state, files
 
-    def verdict(self, direction, proto="tcp", device="en0", **packet):
-        """Whether pf passes a first packet, according to its manual. packet: af, source, sport, to, port, user, group, kind."""
-        packet = {
+    def decision(self, direction, proto, device, packet):
+        """The rule that decides on this packet, or "pass" when none does."""
+        state = self.state
+        if state.get("pf enabled") != "1" or device in state.get("pf skip", "").split():
+            return "pass"
+        for line in state["pf  filter"].splitlines():
+            rules = state.get("pf veldmark filter", "").splitlines() if line == 'anchor "veldmark" all' else [line]
+            for rule in rules:
+                if rule.startswith(("pass", "block")) and matches(rule, direction, proto, device, packet, state):
+                    return rule
+        return "pass"
+
+    @staticmethod
+    def packet(**packet):
+        return {
             "af": "inet",
             "source": "198.51.100.7",
             "to": "203.0.113.5",
@@ -250,23 +270,55 @@ class Mac(namespace.Machine):
             "user": "501",
             "group": "20",
             "kind": "",
+            "flags": "S",
             **{key: str(value) for key, value in packet.items()},
         }
-        state = self.state
-        if state.get("pf enabled") != "1" or device in state.get("pf skip", "").split():
+
+    @staticmethod
+    def flow(direction, proto, device, packet):
+        return " ".join([direction, proto, device, *(packet[key] for key in ("source", "sport", "to", "port"))])
+
+    def verdict(self, direction, proto="tcp", device="en0", **packet):
+        """Whether pf passes a packet, according to its manual. packet: af, source, sport, to, port, user, group, kind, flags ("A":
+        of a connection that stands)."""
+        packet = self.packet(**packet)
+        if self.flow(direction, proto, device, packet) in self.state.get("pf states", "").splitlines():
             return "pass"
-        for line in state["pf  filter"].splitlines():
-            if line == 'anchor "veldmark" all':
-                for rule in state.get("pf veldmark filter", "").splitlines():
-                    if matches(rule, direction, proto, device, packet):
-                        return rule.split()[0]
-        return "pass"
+        return self.decision(direction, proto, device, packet).split()[0]
+
+    def begin_flow(self, direction, proto="tcp", device="en0", **packet):
+        """Sends a connection's first packet. A rule that keeps state lets the others pass."""
+        packet = self.packet(**packet)
+        rule = self.decision(direction, proto, device, packet)
+        if rule.startswith("pass") and rule.endswith("keep state"):
+            flows = self.state.get("pf states", "").splitlines()
+            self.set_state({"pf states": "\n".join([*flows, self.flow(direction, proto, device, packet)])})
+        return rule.split()[0]
+
+    def redirected(self, device="lo0", to="127.0.0.1", port=53):
+        """Where a datagram for this address ends up, as "ADDRESS PORT"."""
+        state = self.state
+        enabled = state.get("pf enabled") == "1" and device not in state.get("pf skip", "").split()
+        if enabled and 'rdr-anchor "veldmark" all' in state["pf  nat"].splitlines():
+            for rule in state.get("pf veldmark nat", "").splitlines():
+                found = re.fullmatch(r"rdr pass on (\S+) inet proto udp from any to (\S+) port = (\S+) -> (\S+) port (\d+)", rule)
+                if (found[1], found[2], number_of(found[3])) == (device, to, str(port)):
+                    return f"{found[4]} {found[5]}"
+        return f"{to} {port}"
 
 
-def matches(rule, direction, proto, device, packet):
+def number_of(port):
+    """The number of a port that pfctl has printed by its name."""
+    return {"dhcpv6-client": "546", "dhcpv6-server": "547"}.get(port) or (
+        port if port.isdigit() else str(socket.getservbyname(port))
+    )
+
+
+MESSAGES = {"groupqry": "listqry", "grouprep": "listenrep"}  # two names for one message
+
+
+def matches(rule, direction, proto, device, packet, state):
     """Whether an expanded rule matches this packet. An unknown word is an error."""
-    import ipaddress
-
     words = rule.split()[1:]
     if words[0] in ("return", "drop"):
         words.pop(0)
@@ -287,17 +339,23 @@ def matches(rule, direction, proto, device, packet):
         elif word in ("from", "to"):
             side, where = word, words.pop(0)
             address = ipaddress.ip_address(packet["source" if side == "from" else "to"])
-            if where != "any":
+            if where.startswith("<"):
+                ok &= str(address) in state.get(f"pf table {where[1:-1]}", "").split()
+            elif where != "any":
                 network = ipaddress.ip_network(where)
                 ok &= network.version == address.version and address in network
-        elif word in ("port", "user", "group"):
+        elif word == "port":
             assert words.pop(0) == "="
-            key = {"port": "sport" if side == "from" else "port"}.get(word, word)
-            ok &= words.pop(0) == packet[key] and (word == "port" or direction == "out")
+            ok &= number_of(words.pop(0)) == packet["sport" if side == "from" else "port"]
+        elif word in ("user", "group"):
+            assert words.pop(0) == "="
+            ok &= words.pop(0) == packet[word] and direction == "out"
         elif word == "flags":
             assert words.pop(0) == "S/SA"
+            ok &= proto != "tcp" or packet["flags"] == "S"
         elif word == "icmp6-type":
-            ok &= words.pop(0) == packet["kind"]
+            kind = words.pop(0)
+            ok &= MESSAGES.get(kind, kind) == packet["kind"]
         elif word in ("keep", "no"):
             assert words.pop(0) == "state"
         else:

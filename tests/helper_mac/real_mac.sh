@@ -7,6 +7,8 @@
 # looks at what a program cannot see: a download in Safari, and the camera of APPLICATION (a path that ends in .app). Ctrl-C may
 # stop it at any point: it puts its changes back then, too.
 #
+# What an answer decides holds for macOS 13 and later alike, unless it names a version: send the table of each version that there is.
+#
 # Lines: "ok" and "FAILED" are requirements; "answer" is the answer to an open question, with what it decides.
 # shellcheck disable=SC2317   # check() and ask() call these functions
 set -u
@@ -26,6 +28,7 @@ work=$(mktemp -d) || exit 1
 exec 3>&1 4>&2
 restore() {
   exec >&3 2>&4   # it may have been stopped while an answer was written to a file
+  end_flows
   /bin/bash "$helper" disconnect
   [[ ! -f $work/mine ]] || rm -f "$defaults"
   if [[ -f $work/service ]]; then networksetup -setsocksfirewallproxystate "$(cat "$work/service")" off; fi
@@ -80,6 +83,8 @@ snapshot() {
     done
   done
   for get in rules nat dummynet; do pfctl -s "$get" 2>/dev/null; done
+  pfctl -s Tables 2>/dev/null
+  skipped
   pfctl -s info 2>/dev/null | grep -o '^Status: [A-Za-z]*'
   pfctl -s References 2>/dev/null | grep -c '[0-9]\{10\}'
   cat /etc/hosts
@@ -96,7 +101,9 @@ main_rules() {   # in the order that pf.conf(5) wants
   pfctl -s dummynet
   pfctl -s rules | grep -v scrub
 }
-read_back() { main_rules 2>/dev/null >"$work/main" && pfctl "$@" -f "$work/main"; }
+read_back() { main_rules 2>/dev/null >"$work/main" && pfctl -n -f "$work/main"; }
+# Like the helper: each kind by itself, so that the options of /etc/pf.conf stay.
+load_back() { main_rules 2>/dev/null >"$work/main" && pfctl -N -f "$work/main" && pfctl -R -f "$work/main"; }
 skipped() { pfctl -v -s Interfaces 2>/dev/null | grep skip; }
 every_getter() {
   active_services | while IFS= read -r service; do
@@ -117,8 +124,46 @@ empties_proxy() {
 }
 two_addresses() { dscacheutil -q host -a name one.one.one.one; }
 primary() { scutil <<<"show State:/Network/Global/IPv4"; }
+# The helper's own bash starts without -p, and a bash whose ids differ gives the effective one up.
 # shellcheck disable=SC2016
-ids_under_prompt() { osascript -e 'do shell script "id -u; id -ru; launchctl managername; echo $SUDO_UID" with administrator privileges'; }
+ids_under_prompt() {
+  osascript -e 'do shell script "id -u; id -ru; /bin/bash -c \"id -u; id -ru\"; launchctl managername; echo $SUDO_UID" with administrator privileges'
+}
+primary_name() { /bin/bash -p -c ". '$helper'; primary_service"; }
+words_of_networksetup() {
+  networksetup -listallnetworkservices | head -n 1
+  networksetup -getsocksfirewallproxy "$(first_service)"
+}
+seconds_of_networksetup() {
+  local count started=$SECONDS
+  for ((count = 0; count < 20; count++)); do networksetup -getdnsservers "$(first_service)" >/dev/null; done
+  echo "20 calls: $((SECONDS - started)) s"
+}
+# Flows of the system's own stack that are open before the rules change, and whether they go on: bytes that leave meanwhile.
+begin_flows() {
+  : >"$work/flows"
+  { command -v networkQuality && command -v nscurl; } >/dev/null || return 0
+  networkQuality -s >/dev/null 2>&1 &
+  echo $! >>"$work/flows"
+  (while :; do nscurl https://1.1.1.1/; sleep 1; done) >/dev/null 2>&1 &   # new flows
+  echo $! >>"$work/flows"
+  sleep 4
+}
+bytes_out() { netstat -ibn | awk '/<Link#/ && $1 !~ /^lo/ { out += $(NF - 1) } END { print out }'; }
+flows_go_on() {
+  local before
+  [[ -s $work/flows ]] || { echo "no networkQuality or nscurl here"; return 1; }
+  before=$(bytes_out)
+  sleep 5
+  echo "$(($(bytes_out) - before)) bytes left in 5 s"
+}
+end_flows() {
+  local process
+  [[ -f $work/flows ]] || return 0
+  while read -r process; do kill "$process" 2>/dev/null; done <"$work/flows"
+  rm -f "$work/flows"
+}
+neighbours() { pfctl -v -a veldmark -s rules | grep -A 1 -e ff02 -e routeradv | grep -e pass -e Packets | head -n 20 | cut -c 1-100; }
 full_sync() { perl -e 'for (@ARGV) { open(my $f, "<", $_) or die; fcntl($f, 51, 0) or print "$_: $!\n" }' "$work/file" "$work" /private/etc; }
 again_at_once() {
   launchctl list veldmark.tor >"$work/job" 2>&1
@@ -128,8 +173,9 @@ again_at_once() {
 check "the helper is one that this bash reads" /bin/bash -n "$helper"
 check "chmod takes its mode behind --, and no -- behind it" chmod_as_written
 ask "<stop_token> is in this library" "whether the small one of our own may go" stop_token
-ask "pf reads back its own main rules (-n)" "whether ours can be put among them at all" read_back -n
-ask "pf takes them back (loaded)" "whether its main rules survive being written by somebody" read_back
+ask "pf reads back its own main rules (-n)" "whether ours can be put among them at all" read_back
+ask "pf takes them back (loaded)" "whether its main rules survive being written by somebody" load_back
+ask "pf's tables" "compare with the same in a session" pfctl -s Tables
 ask "pf's rules for dummynet" "what loading filter rules with -R takes away; compare with the same after a session" pfctl -s dummynet
 ask "network devices that pf leaves out" "a strict session is refused where there are any" skipped
 ask "getters of a service that fail" "which services are left alone: VPN, managed ones" every_getter
@@ -137,6 +183,8 @@ ask "a SOCKS proxy that is emptied" "whether an empty host is put back exactly" 
 ask "a name with several addresses" "how dscacheutil separates them" two_addresses
 ask "the primary service" "which service has to be set" primary
 ask "drives and F_FULLFSYNC" "on which file systems a note outlives the power" full_sync
+ask "networksetup's words" "whether its sentences, and the words before values, are English in every language" words_of_networksetup
+ask "how long networksetup takes" "whether some 20 calls for a service fit into the 25 s at quitting" seconds_of_networksetup
 [[ -z $person ]] || ask "ids and domain under the prompt" "whether the helper is root by its real id, and what of it reaches the user's session" ids_under_prompt
 for rules in "print_proxy_rules 99 501" "print_strict_rules 99 501 0 0 ''" "print_strict_rules 99 501 1 1 400"; do
   /bin/bash -p -c ". '$helper'; $rules" >"$work/rules"
@@ -145,13 +193,11 @@ done
 
 # ---- The helper, without a network for Tor ----
 
-all_switched() {
-  local service
-  active_services | while IFS= read -r service; do
-    [[ $(networksetup -getdnsservers "$service") == 127.0.0.1 ]] || exit 1
-    networksetup -getsocksfirewallproxy "$service" | grep -q '^Port: 9050' || exit 1
-  done
+is_switched() {
+  [[ $(networksetup -getdnsservers "$1") == 127.0.0.1 ]] && networksetup -getsocksfirewallproxy "$1" | grep -q '^Port: 9050'
 }
+primary_switched() { is_switched "$(primary_name)"; }
+not_switched() { active_services | while IFS= read -r service; do is_switched "$service" || echo "$service"; done; }
 tor_as_itself() { pgrep -u "$(dscl . -read /Users/_veldmark UniqueID | awk '{ print $2 }')" -x tor >/dev/null; }
 reaches_out() { curl -s -o /dev/null --noproxy '*' --connect-timeout 5 https://1.1.1.1/; }
 cannot_reach_out() { ! reaches_out; }
@@ -166,18 +212,29 @@ help disconnect
 snapshot >"$work/before"
 check "the network is there" reaches_out
 for strict in 0 1; do
+  [[ $strict == 0 ]] || begin_flows
   check "connect --strict $strict" help connect --tor "$tor" --hash "$hash" --strict "$strict" --lan 0
-  check "every service is switched" all_switched
+  check "the service that traffic goes through is switched" primary_switched
+  ask "services that stay as they were" "which kinds of service (VPN, managed) cannot be set" not_switched
   check "Tor runs in its own account" tor_as_itself
   check "our rules are loaded" test -n "$(pfctl -a veldmark -s rules 2>/dev/null)"
   check "a rule refers to them" grep -q '^anchor "veldmark"' <(pfctl -s rules 2>/dev/null)
-  ask "pf reads back its main rules with ours (-n)" "whether they can be put right while a session lasts" read_back -n
+  ask "pf reads back its main rules with ours (-n)" "whether they can be put right while a session lasts" read_back
+  if [[ $strict == 1 ]]; then
+    ask "networkQuality and nscurl from before the rules" "whether the system's own stack goes on past pf" flows_go_on
+    end_flows
+    ask "rules for leases and neighbours, and their packets" "whether DHCPv6 and neighbour discovery match with the device's number in the address" neighbours
+  fi
+  ask "pf's tables in a session" "they have to be the ones of above" pfctl -s Tables
   ask "pf's rules for dummynet in a session" "they have to be the ones of above" pfctl -s dummynet
   check "connect again" help connect --tor "$tor" --hash "$hash" --strict "$strict" --lan 0
   ask "Tor's job right after it is begun" "how long launchd takes to tell a process number" again_at_once
   check "fix-dns" help fix-dns
   [[ $strict == 0 ]] || check "nothing gets past the kill switch" cannot_reach_out
+  started=$SECONDS
   check "disconnect" help disconnect
+  say "answer  how long a disconnect takes -> $((SECONDS - started)) s"
+  say "        decides: whether the 25 s that the program waits when it quits are enough"
   snapshot >"$work/after"
   check "everything is as before" same
 done
@@ -197,8 +254,25 @@ if [[ -n $person ]]; then
   check "nothing gets past the kill switch" cannot_reach_out
   check "an application without Tor" env SUDO_UID="${SUDO_UID:-501}" /bin/bash "$helper" launch --uid "${SUDO_UID:-501}" --app "$person"
   look "Can the application that was opened use camera and microphone?" "whether the launcher has to disclaim responsibility for what it starts"
-  look "Log out now in another session of fast user switching: does the logout go through while Veldmark runs there?" "whether Qt's answer to the system has to be put off"
   check "disconnect" help disconnect
   check "the network is there again at the end" reaches_out
+
+  # ---- The program itself: each question names what is in doubt ----
+  app=${helper%/Contents/Resources/*}
+  if [[ $app == *.app ]]; then
+    echo "Open $app from Finder now, as yourself. Then press Return."
+    read -r
+    look "Does a left click on its symbol open the panel alone, and a right click the menu alone?" "whether Qt may get a context menu here"
+    look "Is the symbol black on a light menu bar and white on a dark one?" "whether the system colours it"
+    look "Close its window and open it from Finder again: does the window come, in front of others? (other rules from macOS 14 on)" "whether our handler of the reopen event replaces Qt's, and whether the system lets it come to the front"
+    look "Connect, and end Tor by \"sudo launchctl bootout system/veldmark.tor\": did the system ask about notifications, and does one come?" "whether an unsigned bundle may show any"
+    ask "activities while connected" "whether App Nap is held off" pmset -g assertions
+    look "Download the bundle anew, and open it in Downloads: does it say to move it first, and refuse \"start at login\"?" "whether the path of a translocated bundle is known by its name"
+    ask "where the settings are" "whether they are in the bundle's user defaults" sudo -u "#${SUDO_UID:-501}" defaults read com.veldmark.veldmark
+    echo "Leave it running, and go on as a second user by fast user switching, so that this window stays."
+    look "Does it open for the second user while the first one's runs?" "whether the system lets a bundle run twice"
+    look "There, switch \"start at login\" on, log out and in: does it start without a window?" "whether the launch event tells a login"
+    look "There, connect and choose Log Out: does Veldmark ask, and does the logout go on after Disconnect & Quit?" "whether our answer to the system takes the place of Qt's"
+  fi
 fi
 exit "$failed"

@@ -2,6 +2,7 @@
 
 import importlib.util
 import os
+import re
 import subprocess
 
 import mac
@@ -80,6 +81,36 @@ class Options(MacTest):
         self.assertEqual([line for line in lines if line.strip()], table.splitlines()[1 : len(lines)])
         self.machine.shell("rm /usr/local/bin/tor")
 
+    def test_the_check_for_a_real_mac_asks_a_person(self):
+        """With programs that stand in for a Mac's network tools, and a person who presses Return and answers y."""
+        self.machine.place(os.path.join(mac.HERE, "real_mac.sh"), "/mac/real_mac.sh")
+        self.machine.shell("cp /usr/bin/tor /usr/local/bin/tor; ln -sf /private/etc/hosts /etc/hosts")
+        for name, text in {
+            "networkQuality": "exec sleep 1000",
+            "nscurl": "exec sleep 2",
+            "netstat": "echo 'en0 1500 <Link#4> 0:0:0:0:0:0 1 0 9 1 0 '$(date +%s)' 0'; echo 'lo0 16384 <Link#1> 1 0 9 1 0 7 0'",
+        }.items():
+            self.machine.write(f"/usr/local/bin/{name}", f"#!/bin/sh\n{text}\n")
+            self.machine.shell(f"chmod 755 /usr/local/bin/{name}")
+        words = ["--change-this-mac", self.machine.helper, "--person", "/Applications/Some.app"]
+        done = self.machine.run("/bin/bash", "/mac/real_mac.sh", *words, stdin="\n" + "y\n" * 40, check=False, timeout=120)
+        table = done.stdout.split("---- the table, ")[1].splitlines()
+        self.assertRegex(next(line for line in table if "from before the rules" in line), r"-> status 0: [4-7] bytes left in 5 s")
+        self.assertEqual(len([line for line in table if line.startswith("answer ") and line.endswith("-> y")]), 11, done.stdout)
+        self.assertEqual(
+            [line for line in table if line.startswith("FAILED")],
+            [
+                "FAILED  the network is there",
+                "FAILED  the network is there again",
+                "FAILED  an application without Tor",
+                "FAILED  the network is there again at the end",
+            ],
+            done.stdout + done.stderr,
+        )
+        self.assertEqual(self.machine.run("pgrep", "-f", "sleep 1000", check=False).stdout, "")
+        self.machine.shell("rm /usr/local/bin/tor /usr/local/bin/networkQuality /usr/local/bin/nscurl /usr/local/bin/netstat")
+        self.assertRestored()
+
     def test_the_check_for_a_real_mac_puts_back_what_it_was_stopped_in(self):
         self.machine.place(os.path.join(mac.HERE, "real_mac.sh"), "/mac/real_mac.sh")
         self.machine.shell("cp /usr/bin/tor /usr/local/bin/tor; ln -sf /private/etc/hosts /etc/hosts")
@@ -93,7 +124,7 @@ class Options(MacTest):
             text=True,
         )
         for line in running.stdout:
-            if line.startswith("ok      every service is switched"):
+            if line.startswith("ok      the service that traffic goes through is switched"):
                 break
         self.machine.shell("kill $(pgrep -f '^/bin/bash /mac/real_mac.sh')")
         rest = running.stdout.read()
@@ -103,6 +134,57 @@ class Options(MacTest):
         self.assertFalse(os.path.exists(self.machine.root + "/usr/local/etc/tor/torrc-defaults"))
         self.machine.shell("rm /usr/local/bin/tor")
         self.assertRestored()
+
+    def test_stand_ins_refuse_what_a_macs_programs_refuse(self):
+        self.machine.shell("cd /run && echo x >f && mkdir -p d")
+        for good, wrong in {
+            "chmod -- 0600 f": "chmod 0600 -- f",
+            "cat -- f": "cat -A f",
+            "cp -p f g": "cp --preserve f g",
+            "date -u +%s": "date -d @0",
+            "date +%s": "date +%N",
+            "env -i PATH=/usr/bin cat f": "env -C / cat f",
+            "grep -qxF -- x f": "grep -P x f",
+            "head -c 1 -- f": "head -c -1 f",
+            "head -n 1 f": "head f -n 1",
+            "id -G -- alice": "id -z alice",
+            "ln -sfn f l": "ln -sT f k",
+            "mkdir -m 0755 -- e": "mkdir -Z e2",
+            "mktemp -d /run/x.XXXXXX": "mktemp --suffix=.x",
+            "readlink -f -- l": "readlink -e l",
+            "rm -f -- g": "rm --one-file-system g",
+            "rmdir -- e": "rmdir --ignore-fail-on-non-empty e",
+            "sed -n p f": "sed -i s/x/y/ f",
+            "sleep 0.1": "sleep 1s",
+            "stat -f '%Lp %u %HT' -- /run/f": "stat -c %a /run/f",
+            "tail -n 1 f": "tail --pid=1 f",
+            "touch f": "touch --date=now f",
+            "xargs -n 1 echo <f": "xargs -d, echo <f",
+        }.items():
+            with self.subTest(good=good, wrong=wrong):
+                self.machine.shell(f"cd /run && {good}")
+                self.assertNotEqual(self.machine.run("/bin/bash", "-c", f"cd /run && {wrong}", check=False).returncode, 0)
+
+    def test_the_helper_is_joined_with_a_macs_programs(self):
+        for name in os.listdir(mac.namespace.PARTS):
+            self.machine.place(os.path.join(mac.namespace.PARTS, name), f"/mac/parts/{name}")
+        self.machine.shell("/mac/parts/join.sh darwin /mac/joined.sh")
+        self.assertEqual(self.machine.read("/mac/joined.sh"), self.machine.read(self.machine.helper))
+        self.assertTrue(os.access(self.machine.root + "/mac/joined.sh", os.X_OK))
+
+    def test_every_program_of_the_helper_has_a_stand_in(self):
+        """Else this system's own would answer. visudo and the shells are the same program on both."""
+        text = open(mac.namespace.helper_path("darwin"), encoding="utf-8").read()
+        functions = set(re.findall(r"^([\w-]+)\(\)", text, re.MULTILINE))
+        builtins = set(subprocess.run(["bash", "-c", "compgen -bk"], capture_output=True, text=True, check=True).stdout.split())
+        text = re.sub(r"<<END\n.*?\nEND\n", "\n", text, flags=re.DOTALL)  # the rules of the firewall and of sudo
+        text = re.sub(r"='\n.*?'\n", "\n", text, flags=re.DOTALL)  # perl's
+        text = re.sub(r"^ *[^#\n]*\) *;;$|(?:^|\s)#.*$|'[^']*'", "", text, flags=re.MULTILINE)
+        begins = r"(?:^\s*|[;|&(!{]\s*|\$\(|\) |\b(?:then|do|else|if|elif|while|until|exec|asuser \S+|command -v|as_\w+ \S+|take_output [^|]*) )"
+        found = set(re.findall(begins + r"([a-z][a-z0-9_.-]*)(?=[\s)]|$)", text, re.MULTILINE)) - functions - builtins
+        programs = {name for name in found if any(os.access(f"{place}/{name}", os.X_OK) for place in ("/usr/bin", "/usr/sbin"))}
+        self.assertGreater(len(programs & set(mac.BSD)), 15)
+        self.assertEqual(programs - {"visudo", "bash", "sh"} - set(mac.BSD + mac.STAND_INS), set())
 
     def test_a_missing_program_is_named(self):
         self.machine.shell("mv /usr/bin/networksetup /mac/gnu/")

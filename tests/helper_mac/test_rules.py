@@ -1,5 +1,7 @@
 """The packets that may leave a Mac, by evaluating the loaded rules according to pf's manual, and the generated texts."""
 
+import re
+
 import mac
 from mac import USER_UID, MacTest
 
@@ -147,6 +149,68 @@ class Leaks(MacTest):
                     ("block", "out", {**at, "user": 65534, "af": "inet6", "source": "::1", "to": "::1"}),
                 ]
             )
+
+    def test_connections_from_before_do_not_go_on(self):
+        """Rules of the user's own had let them begin, and their states pass them by every rule."""
+        self.machine.set_state({"pf  filter": mac.BEFORE_PF["pf  filter"] + "\npass out quick all flags S/SA keep state"})
+        others = {"sport": 50001}
+        for strict in 1, 0:
+            with self.subTest(strict=strict):
+                port = {"port": 443 if strict else 53}
+                self.assertEqual(self.machine.begin_flow("out", **port), "pass")
+                self.assertEqual(self.machine.verdict("out", flags="A", **port), "pass")
+                self.assertEqual(self.machine.verdict("out", flags="A", **port, **others), "pass")
+                self.connected(strict=strict)
+                self.assertEqual(self.machine.verdict("out", flags="A", **port), "block")
+                self.assertEqual(self.machine.verdict("out", flags="A", **port, **others), "block")
+                self.machine.help("disconnect")
+
+    def test_connections_that_a_session_let_out_end_with_it(self):
+        self.connected(strict=1, lan=1)
+        self.assertEqual(self.machine.begin_flow("out", to=LAN), "pass")
+        self.assertEqual(self.machine.verdict("out", to=LAN, flags="A"), "pass")
+        self.assertEqual(self.machine.verdict("out", to=LAN, flags="A", sport=50001), "block")  # it belongs to no state
+        self.connected(strict=1, lan=0)
+        self.assertEqual(self.machine.verdict("out", to=LAN, flags="A"), "block")
+
+    def test_lookups_for_this_computer_go_to_tors_port(self):
+        self.assertEqual(self.machine.redirected(), "127.0.0.1 53")
+        for strict in 1, 0:
+            self.connected(strict=strict)
+            self.assertEqual(self.machine.redirected(), "127.0.0.1 9053")
+            self.assertEqual(self.machine.redirected(to="192.0.2.53"), "192.0.2.53 53")
+        self.machine.change(pf_skip="lo0")
+        self.assertEqual(self.machine.redirected(), "127.0.0.1 53")
+        self.machine.change(pf_skip="")
+        self.machine.help("disconnect")
+        self.assertEqual(self.machine.redirected(), "127.0.0.1 53")
+
+    def test_tables_of_other_rules_outlive_a_session(self):
+        self.machine.set_state(
+            {
+                "pf  filter": mac.BEFORE_PF["pf  filter"] + "\nblock drop out quick from any to <blocked>",
+                "pf table blocked": "203.0.113.66",
+                "pf table kept": "203.0.113.67 persist",
+            }
+        )
+        before = self.machine.settings()
+        self.assertEqual(self.machine.verdict("out", to="203.0.113.66"), "block")
+        self.connected(strict=0)
+        self.assertEqual(self.machine.verdict("out", to="203.0.113.66"), "block")
+        self.assertEqual(self.machine.verdict("out"), "pass")
+        self.machine.help("disconnect")
+        self.assertEqual(self.machine.settings(), before)
+        self.machine.shell("pfctl -q -R -f - <<<'anchor \"com.apple/*\" all'")  # what nothing names goes
+        self.assertEqual(self.machine.shell("pfctl -s Tables"), "kept\n")
+
+    def test_lists_of_addresses_are_too_short_for_tables_of_the_optimiser(self):
+        """pfctl puts six addresses or more of one rule into a table with a new name at each loading, so that the rules would not
+        read back as they were loaded."""
+        for words in "print_proxy_rules 99 501", "print_strict_rules 99 501 1 1 400":
+            rules = self.machine.run("/bin/bash", "-p", "-c", f". '{self.machine.helper}'; {words}").stdout
+            lists = [text.split(", ") for text in re.findall(r"(?:from|to) \{ ([^}]*) \}", rules)]
+            self.assertEqual([entries for entries in lists if len(entries) > 5], [])
+        self.assertGreater(len(lists), 3)
 
     def test_a_change_of_modes_is_never_open(self):
         """Each rule set is loaded as a whole. No intermediate rule set lets out more than both."""

@@ -9,6 +9,7 @@ import json
 import os
 import pathlib
 import plistlib
+import re
 import shutil
 import struct
 import subprocess
@@ -83,6 +84,38 @@ class Build(unittest.TestCase):
         self.assertEqual(mac["cacheVariables"]["CMAKE_OSX_ARCHITECTURES"], "arm64;x86_64")
 
 
+class Workflow(unittest.TestCase):
+    """What macdeployqt does, by its documentation: it copies the platform plugin of windows alone, and changes the library paths of
+    the bundle's main program, and of others that it is told."""
+
+    def setUp(self):
+        text = (ROOT / ".github" / "workflows" / "mac.yml").read_text(encoding="utf-8")
+        self.steps = text.split("      - name: ")
+
+    def step(self, name):
+        return next(step for step in self.steps if step.startswith(name))
+
+    def test_the_bundles_programs_run_with_the_bundles_own_plugin(self):
+        step = self.step("The bundle")
+        self.assertIn("MacOS/Veldmark --version", step)
+        self.assertNotIn("QT_QPA_PLATFORM", step + self.steps[0])
+        self.assertIn("QT_QPA_PLATFORM: offscreen", self.step("Unit tests"))
+
+    def test_every_program_of_the_bundle_that_uses_qt_gets_the_bundles_libraries(self):
+        deployed = self.step("The bundle").split("macdeployqt")[1].split("\n          for ")[0]
+        self.assertIn("-executable=build/bin/Veldmark.app/Contents/MacOS/veldmarkctl", deployed)
+        self.assertIn("grep -E '/(opt/homebrew|usr/local)/'", self.step("The bundle"))
+
+
+class Questions(unittest.TestCase):
+    def test_what_the_known_issues_leave_open_is_asked_on_a_real_mac(self):
+        text = (ROOT / "docs" / "known-issues.md").read_text(encoding="utf-8").split("\n## macOS\n")[1]
+        asked = (ROOT / "tests" / "helper_mac" / "real_mac.sh").read_text(encoding="utf-8").replace("\\", "")
+        questions = re.findall(r'Question(?: with a person: |\s)"([^"]*)"', re.sub(r"\s+", " ", text))
+        self.assertGreater(len(questions), 10)
+        self.assertEqual([question for question in questions if question not in asked], [])
+
+
 @unittest.skipUnless(MADE, "nothing has been built")
 class Bundle(unittest.TestCase):
     def test_property_list(self):
@@ -100,6 +133,14 @@ class Bundle(unittest.TestCase):
             values = plistlib.load(file)
         for device in "Camera", "Microphone":
             self.assertIn(f"opened without Tor wants to use the {device.lower()}", values[f"NS{device}UsageDescription"])
+
+    def test_the_settings_are_the_bundles_user_defaults(self):
+        """QSettings puts "com." before the name of an organisation without a domain."""
+        source = (ROOT / "src" / "system" / "SettingsStore.cpp").read_text(encoding="utf-8")
+        words = re.search(r"NativeFormat.*?;", source, re.DOTALL)[0]
+        names = re.findall(r'QStringLiteral\("(\w+)"\)', words)
+        with open(os.path.join(MADE, "Info.plist"), "rb") as file:
+            self.assertEqual(plistlib.load(file)["CFBundleIdentifier"], ".".join(["com", *names]))
 
     def test_a_second_user_may_open_it(self):
         """Another user may start it after fast user switching. The program itself hands over one user's second start."""

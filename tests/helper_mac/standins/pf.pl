@@ -5,13 +5,18 @@ our ($name, $caller, $input, %state);
 
 sub quit_pf { print STDERR "$_[0]\npfctl: Syntax error in config file: pf rules not loaded\n"; finish(1) }
 
-my $ADDRESS = qr/[0-9a-fA-F.:]+(?:\/\d+)?/;
-my $PORT = qr/(?:port = \d+)/;
+my $ADDRESS = qr/(?:<\w+>|[0-9a-fA-F.:]+(?:\/\d+)?)/;
+my $PORT = qr/(?:port = [\w-]+)/;
 my $RULE = qr{^(?:pass|block\ return|block\ drop)(?:\ in|\ out)?\ quick(?:\ on\ lo0)?(?:\ inet6?)?(?:\ proto\ (?:tcp|udp|icmp6))?
     (?:\ all|\ from\ (?:any|$ADDRESS)(?:\ $PORT)?\ to\ (?:any|$ADDRESS)(?:\ $PORT)?)
     (?:\ user\ =\ \d+)?(?:\ group\ =\ \d+)?(?:\ flags\ S/SA)?(?:\ icmp6-type\ \w+)?(?:\ keep\ state|\ no\ state)?$}x;
 
-# A rule as pfctl prints it: lists written out, "=" before single numbers.
+# pfctl prints the first name of a number: of ports in services(5), of messages in a table of its own (pfctl_parser.c).
+my %PORTS = (53 => 'domain', 67 => 'bootps', 68 => 'bootpc', 137 => 'netbios-ns', 138 => 'netbios-dgm', 139 => 'netbios-ssn',
+    546 => 'dhcpv6-client', 547 => 'dhcpv6-server', 5353 => 'mdns');
+my %MESSAGES = (listqry => 'groupqry', listenrep => 'grouprep');
+
+# A rule as pfctl prints it: lists written out, "=" before single numbers, and what pf.conf(5) says is meant where it is left out.
 sub expand {
     my ($line) = @_;
     if ($line =~ /^(.*?)\{ ([^{}]*) \}(.*)$/) {
@@ -19,7 +24,10 @@ sub expand {
         return map { expand("$before$_$after") } split /, /, $list;
     }
     $line =~ s/\b(port|user|group) (\d+)/$1 = $2/g;
+    $line =~ s/\bport = (\d+)\b/'port = ' . ($PORTS{$1} \/\/ $1)/ge;
+    $line =~ s/\bicmp6-type (\w+)/'icmp6-type ' . ($MESSAGES{$1} \/\/ $1)/ge;
     $line =~ s/ from any to any(?= icmp6-type|$)/ all/;
+    $line =~ s/ keep state$/ flags S\/SA keep state/ if $line =~ /^pass/ && $line !~ / flags / && $line !~ / proto (?!tcp)/;
     return $line;
 }
 
@@ -30,7 +38,9 @@ sub read_rules {
     for (split /\n/, $text) {
         $number++;
         next if /^\s*(#.*)?$/;
-        if (/^rdr pass on lo0 inet proto udp from any to 127\.0\.0\.1 port (\d+) -> 127\.0\.0\.1 port \d+$/) { push @nat, $_ }
+        if (/^rdr pass on lo0 inet proto udp from any to 127\.0\.0\.1 port (?:= )?(?:\d+|domain) -> 127\.0\.0\.1 port \d+$/) {
+            push @nat, s/ port (\d+) ->/' port = ' . ($PORTS{$1} \/\/ $1) . ' ->'/er;
+        }
         elsif (/^(?:nat|rdr)-anchor "[^"]+"(?: all)?$/) { push @nat, s/( all)?$/ all/r }
         elsif (/^scrub-anchor "[^"]+"(?: all fragment reassemble)?$/) {
             quit_pf("stdin:$number: Rules must be in order: options, normalization, queueing, translation, filtering") if @filter && $filter[-1] !~ /^scrub/;
@@ -45,7 +55,8 @@ sub read_rules {
             for (expand($_)) { quit_pf("stdin:$number: syntax error ($_)") unless $_ =~ $RULE; push @filter, $_ }
         }
     }
-    return (join("\n", @filter), join("\n", @nat), join("\n", @dummynet));
+    my %seen;   # the optimiser leaves out a rule that stands there already
+    return (join("\n", grep { !$seen{$_}++ } @filter), join("\n", @nat), join("\n", @dummynet));
 }
 
 sub pfctl {
@@ -75,11 +86,15 @@ sub pfctl {
         $state{"pf $anchor nat"} = $nat unless $only eq '-R';
         delete @state{"pf $anchor filter", "pf $anchor nat"} if $anchor && !length "$filter$nat";
     }
+    # A table that nothing names any more goes, unless it was made to stay ("persist").
+    my $named = join "\n", map { $state{$_} } grep { /^pf .*filter$/ } keys %state;
+    for my $table (grep { /^pf table / } keys %state) { delete $state{$table} if $named !~ /<\Q@{[substr $table, 9]}\E>/ && $state{$table} !~ /persist/ }
     # A pf that holds other rules than it was given.
     $state{'pf veldmark filter'} = 'pass out quick all' if $state{'pf lies'} && defined $state{'pf veldmark filter'};
     if ($show eq 'rules') { print map { "$_\n" } split /\n/, $state{"pf $anchor filter"} // '' }
     elsif ($show eq 'nat') { print map { "$_\n" } split /\n/, $state{"pf $anchor nat"} // '' }
     elsif ($show eq 'dummynet') { print map { "$_\n" } split /\n/, $state{"pf $anchor dummynet"} // '' }
+    elsif ($show eq 'Tables') { print map { /^pf table (.*)/ ? "$1\n" : () } sort keys %state }
     elsif ($show eq 'Interfaces') {
         print map { my $device = $_; $device . ($verbose && grep({ $_ eq $device } split / /, $state{'pf skip'} // '') ? ' (skip)' : '') . "\n" } qw(ALL en0 lo lo0 utun0);
     }
@@ -90,7 +105,7 @@ sub pfctl {
               map { my ($pid, $process, $token) = split / /; sprintf " %-7s %-28s %-24s 0 days 00:00:01\n", $pid, $process, $token }
               split /\n/, $state{'pf tokens'} // '';
     } elsif ($show) { refuse(@_) }
-    if ($flush eq 'states') { $state{'pf flushes'}++ } elsif ($flush) { refuse(@_) }
+    if ($flush eq 'states') { $state{'pf flushes'}++; delete $state{'pf states'} } elsif ($flush) { refuse(@_) }
     if ($enable) {
         my $token = 18446743524953000000 + ++$state{'pf last token'};
         $state{'pf tokens'} = join "\n", (split /\n/, $state{'pf tokens'} // ''), "$caller pfctl $token";

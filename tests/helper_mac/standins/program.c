@@ -27,9 +27,9 @@ static const struct rule rules[] = {
     {"chown", "fhnvxRHLP"}, /* chown(8): no --from */
     {"cp", "RHLPfinacpvX"}, /* cp(1): no -t, -T, -u, -d, --parents */
     {"date", "jnRur:v:"}, /* date(1): -d sets daylight saving, it reads no time; -r takes seconds */
+    {"dirname", ""},      /* dirname(1): no -z */
     {"env", "0iu:vP:S:"}, /* env(1): no -C */
-    {"grep", "abcDd:EFGHhIiLlmnoPqRrsUvwxZze:f:A:B:C:"}, /* grep(1): the one with long options,
-                                                            which we do not use */
+    {"grep", "abcd:D:EFGHhIiJLlMm:nOopqRrSsUVvwXxZze:f:A:B:C:"}, /* grep(1): no -P */
     {"head", "n:c:"},        /* head(1): no -q, -v, -z; and no negative numbers */
     {"id", "ApGgnurFP"},     /* id(1): no -z, -Z */
     {"ln", "Ffhinsvw"},      /* ln(1): no -r, -t, -T */
@@ -49,6 +49,18 @@ static const struct rule rules[] = {
     {"wc", "clmwL"},                     /* wc(1) */
     {"xargs", "0I:J:L:n:oP:pR:rs:tE:x"}, /* xargs(1): no -d, -a */
 };
+
+/* Words whose form differs although the letters do not. */
+static int has_other_form(const char *name, char option, const char *word)
+{
+    if (!strcmp(name, "head") && option) /* head(1): a positive number, without a unit */
+        return !*word || strspn(word, "0123456789") != strlen(word);
+    if (!strcmp(name, "sleep")) /* sleep(1): one number without a unit */
+        return !*word || strspn(word, "0123456789.") != strlen(word);
+    if (!strcmp(name, "date")) /* strftime(3): no nanoseconds */
+        return !!strstr(word, "%N");
+    return 0;
+}
 
 static int refuse(const char *name, const char *what)
 {
@@ -73,17 +85,21 @@ static int run_as_bsd(const struct rule *rule, int count, char **words)
                 return refuse(rule->name, letter);
             if (known[1] != ':')
                 continue;
-            if (letter[1])
-                break;
-            if (at + 1 == count)
+            if (!letter[1] && at + 1 == count)
                 return refuse(rule->name, letter);
-            run[n++] = words[++at];
+            if (has_other_form(rule->name, *letter, letter[1] ? letter + 1 : words[at + 1]))
+                return refuse(rule->name, letter);
+            if (!letter[1])
+                run[n++] = words[++at];
             break;
         }
     }
     run[n++] = (char *)"--";
-    while (at < count)
-        run[n++] = words[at++];
+    for (; at < count; at++) {
+        if (has_other_form(rule->name, 0, words[at]))
+            return refuse(rule->name, words[at]);
+        run[n++] = words[at];
+    }
     run[n] = NULL;
     snprintf(path, sizeof path, "/mac/gnu/%s", rule->name);
     execv(path, run);

@@ -157,6 +157,11 @@ sub dscacheutil {
 sub dscl {
     my ($where, $verb, $record, $key, @value) = @_;
     refuse(@_) unless $where eq '.';
+    # The directory's own policy, or the user, who was asked whether the program may administer the computer.
+    if ($verb eq '-create' && length($state{'dscl refuses'} // '') && index($record, $state{'dscl refuses'}) == 0) {
+        print STDERR "<main> attribute status: eDSPermissionError\n<dscl_cmd> DS Error: -14120 (eDSPermissionError)\n";
+        finish(40);
+    }
     if ($verb eq '-read') {
         if (!grep { /^record \Q$record\E\t/ || /^record \Q$record\E / } map { "$_ " } keys %state) {
             print STDERR "<dscl_cmd> DS Error: -14136 (eDSRecordNotFound)\n";
@@ -179,46 +184,58 @@ sub dscl {
 
 sub services { split /\n/, $state{"services $state{location}"} }
 
+# The sentences, and with "language" another language's.
+my %english = (head => 'An asterisk (*) denotes that a network service is disabled.', dns => "There aren't any DNS Servers set on %s.",
+    bypass => "There aren't any bypass domains set on this network service.", unknown => '%s is not a recognized network service.',
+    wrong => '** Error: The parameters were not valid.', refused => '** Error: Unable to commit changes to network database.');
+my %german = (head => "Ein Sternchen (*) bedeutet, dass ein Netzwerkdienst deaktiviert ist.", dns => "F\xc3\xbcr %s sind keine DNS-Server eingetragen.",
+    bypass => "F\xc3\xbcr diesen Netzwerkdienst sind keine Ausnahmen eingetragen.", unknown => '%s ist kein bekannter Netzwerkdienst.',
+    wrong => "** Fehler: Die Parameter waren ung\xc3\xbcltig.", refused => "** Fehler: Die Netzwerkdatenbank wurde nicht ge\xc3\xa4ndert.");
+sub sentence { my ($key, $name) = @_; (($state{language} ? \%german : \%english)->{$key} =~ s/%s/$name/r) . "\n" }
+# "language" may also change the words that stand before values.
+sub on_or_off { my ($key, $value) = @_; ($state{language} // '') eq 'all' ? 'Aktiviert: ' . ($value eq 'Yes' ? 'Ja' : 'Nein') : "$key: $value" }
+
 sub networksetup {
     my ($verb, $service, @rest) = @_;
     if ($verb eq '-listallnetworkservices') {
-        print "An asterisk (*) denotes that a network service is disabled.\n", map { "$_\n" } services();
+        print sentence('head'), map { "$_\n" } services();
         return;
     }
     if ($verb eq '-getcurrentlocation') { print "$state{location}\n"; return }
     if (!grep { s/^\*//r eq $service } services()) {
-        print "$service is not a recognized network service.\n** Error: The parameters were not valid.\n";
+        print sentence('unknown', $service), sentence('wrong');
         finish($state{'old networksetup'} ? 0 : 4);
     }
     my $at = "service $state{location}/$service";
     # The settings of a VPN's own program or of a company's profile.
     if (($state{"$at refuses"} // '') =~ ($verb =~ /^-get/ ? qr/get/ : qr/set/)) {
-        print "** Error: Unable to commit changes to network database.\n";
+        print sentence('refused');
         finish(14);
     }
     if ($verb eq '-getdnsservers') {
-        print length($state{"$at dns"} // '') ? $state{"$at dns"} : "There aren't any DNS Servers set on $service.", "\n";
+        print length($state{"$at dns"} // '') ? $state{"$at dns"} . "\n" : sentence('dns', $service);
     } elsif ($verb eq '-getproxybypassdomains') {
-        print length($state{"$at bypass"} // '') ? $state{"$at bypass"} : "There aren't any bypass domains set on this network service.", "\n";
+        print length($state{"$at bypass"} // '') ? $state{"$at bypass"} . "\n" : sentence('bypass');
     } elsif ($verb =~ /^-set(dnsservers|proxybypassdomains)$/) {
         my $key = $1 eq 'dnsservers' ? 'dns' : 'bypass';
         refuse(@_) unless @rest;
         $state{"$at $key"} = "@rest" eq 'Empty' ? '' : join("\n", @rest);
     } elsif ($verb =~ /^-get(web|secureweb|socksfirewall)proxy$/) {
-        my ($on, $host, $port) = split /\t/, $state{"$at $1"} // "No\t\t0", 3;
-        print "Enabled: $on\nServer: $host\nPort: $port\nAuthenticated Proxy Enabled: 0\n";
+        my ($on, $host, $port, $authenticated) = split /\t/, $state{"$at $1"} // "No\t\t0", 4;
+        # Not the user's name, and not the password, which is in the keychain.
+        print on_or_off('Enabled', $on), "\nServer: $host\nPort: $port\nAuthenticated Proxy Enabled: ", $authenticated ? 1 : 0, "\n";
     } elsif ($verb eq '-setsocksfirewallproxy') {
         my ($host, $port, $authenticated) = @rest;
-        refuse(@_) unless $authenticated eq 'off' && $port =~ /^\d*$/;
+        refuse(@_) unless $authenticated eq 'off' && $port =~ /^\d*$/;   # "on" takes the name and the password too
         $state{"$at socksfirewall"} = "Yes\t$host\t" . ($port || 0);   # the real one switches it on as well
     } elsif ($verb =~ /^-set(web|secureweb|socksfirewall)proxystate$/) {
         my $kind = $1;
         refuse(@_) unless "@rest" =~ /^(?:on|off)$/;
-        my ($on, $host, $port) = split /\t/, $state{"$at $kind"} // "No\t\t0", 3;
-        $state{"$at $kind"} = ("@rest" eq 'on' ? 'Yes' : 'No') . "\t$host\t$port";
+        my ($on, @more) = split /\t/, $state{"$at $kind"} // "No\t\t0";
+        $state{"$at $kind"} = join "\t", "@rest" eq 'on' ? 'Yes' : 'No', @more;
     } elsif ($verb eq '-getautoproxyurl') {
         my ($on, $url) = split /\t/, $state{"$at auto"} // "No\t(null)", 2;
-        print "URL: $url\nEnabled: $on\n";
+        print "URL: $url\n", on_or_off('Enabled', $on), "\n";
     } elsif ($verb eq '-setautoproxystate') {
         my ($on, $url) = split /\t/, $state{"$at auto"} // "No\t(null)", 2;
         $state{"$at auto"} = ("@rest" eq 'on' ? 'Yes' : 'No') . "\t$url";

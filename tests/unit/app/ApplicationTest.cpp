@@ -1,12 +1,14 @@
 #include "app/Application.h"
 
+#include "StandInDesktop.h"
 #include "instance/InstanceClient.h"
 #include "support/Computer.h"
 #include "support/OtherSession.h"
 #include "support/TestProgram.h"
 #include "support/Workbench.h"
 
-#include <QGuiApplication>
+#include <QApplication>
+#include <QMessageBox>
 #include <QQuickWindow>
 #include <QTest>
 #include <QTimer>
@@ -25,6 +27,20 @@ private:
     static void connectAtStart(const PlatformProfile &profile)
     {
         Computer::write(profile.settingsFile, "[General]\nautoConnect=true\n");
+    }
+    static bool showsMain(const Application &program)
+    {
+        const QQuickWindow *window = program.windows().find(u"main"_s);
+        return window && window->isVisible();
+    }
+    // The visible question whether to quit; null without one.
+    static QWindow *question()
+    {
+        for (QWindow *window : QGuiApplication::topLevelWindows()) {
+            if (window->isVisible() && window->title() == u"Quit Veldmark"_s)
+                return window;
+        }
+        return nullptr;
     }
 
 private Q_SLOTS:
@@ -115,7 +131,9 @@ private Q_SLOTS:
         Application program(computer.profile);
         QVERIFY(program.start(false, false));
         constexpr int notEnded = 99;
-        QTimer::singleShot(30s, qApp, [] { QCoreApplication::exit(notEnded); });
+        QTimer limit;
+        QObject::connect(&limit, &QTimer::timeout, qApp, [] { QCoreApplication::exit(notEnded); });
+        limit.start(30s);
         QTimer::singleShot(0, qApp, [&] {
             QMetaObject::invokeMethod(program.windows().find(u"main"_s), "quitWanted");
         });
@@ -137,6 +155,141 @@ private Q_SLOTS:
             });
         }));
         QVERIFY(computer.hasMarker());
+    }
+
+    // A Mac's login item has no words, such as --hidden.
+    void aStartAtLoginShowsNoWindow_data()
+    {
+        QTest::addColumn<bool>("atLogin");
+        QTest::newRow("by the user") << false;
+        QTest::newRow("at login") << true;
+    }
+    void aStartAtLoginShowsNoWindow()
+    {
+        QFETCH(bool, atLogin);
+        Computer computer;
+        StandInDesktop desktop;
+        Application program(computer.profile);
+        QVERIFY(program.start(false, false));
+        QVERIFY(desktop.launched);
+        QVERIFY(!showsMain(program)); // the reason is not known yet
+        desktop.tellLaunch(atLogin);
+        QCOMPARE(showsMain(program), !atLogin);
+    }
+
+    void openedAgainItShowsItsWindow()
+    {
+        Computer computer;
+        StandInDesktop desktop;
+        Application program(computer.profile);
+        QVERIFY(program.start(true, false));
+        QVERIFY(!showsMain(program));
+        QVERIFY(desktop.reopened);
+        desktop.reopened();
+        QVERIFY(showsMain(program));
+    }
+
+    void itIsNotSlowedDownWhileConnected()
+    {
+        Computer computer;
+        computer.fail("connect", "not now");
+        StandInDesktop desktop;
+        {
+            Application program(computer.profile);
+            QVERIFY(program.start(true, false));
+            settle();
+            QCOMPARE(desktop.awake, QList<bool>());
+        }
+        Application program(computer.profile);
+        QVERIFY(program.start(true, true));
+        QVERIFY(until([&] { return desktop.awake == QList<bool>({true, false}); }));
+        QVERIFY(computer.verbs().contains(u"connect"_s));
+    }
+
+    void whatTheUserHasToKnowIsANoticeOfTheSystem()
+    {
+        Computer computer;
+        StandInDesktop desktop;
+        Application program(computer.profile);
+        QVERIFY(program.start(false, false));
+        desktop.tellLaunch(false);
+        QVERIFY(showsMain(program));
+        QCOMPARE(desktop.notices, QStringList());
+        program.windows().find(u"main"_s)->close(); // there is no tray that would show it
+        QVERIFY(
+            until([&] { return desktop.notices == QStringList{u"Veldmark is still running"_s}; }));
+    }
+
+    void fromAMadeUpPlaceItSaysWhatToDoFirst()
+    {
+        Computer computer;
+        StandInDesktop desktop;
+        const auto said = [] {
+            QStringList texts;
+            for (QWidget *widget : QApplication::topLevelWidgets()) {
+                if (const auto *box = qobject_cast<QMessageBox *>(widget))
+                    texts += box->text();
+            }
+            return texts;
+        };
+        {
+            Application program(computer.profile);
+            QVERIFY(program.start(true, false));
+            QCOMPARE(said(), QStringList());
+        }
+        desktop.misplaced = Text(u"Move it."_s);
+        Application program(computer.profile);
+        QVERIFY(program.start(true, false));
+        QCOMPARE(said(), QStringList{u"Move it."_s});
+        for (QWidget *widget : QApplication::topLevelWidgets())
+            widget->close();
+    }
+
+    // At logout: an answer at once would be a refusal, which calls the logout off.
+    void theSystemWaitsForTheUsersAnswer()
+    {
+        Computer computer;
+        computer.writeMarker();
+        StandInDesktop desktop;
+        Application program(computer.profile);
+        QVERIFY(program.start(true, false));
+        desktop.askToEnd();
+        QVERIFY(question());
+        settle();
+        QVERIFY(!desktop.ends);
+        QVERIFY(QMetaObject::invokeMethod(question(), "cancelled"));
+        QVERIFY(until([&] { return desktop.ends.has_value(); }));
+        QCOMPARE(*desktop.ends, false);
+        QVERIFY(computer.hasMarker());
+
+        desktop.ends.reset();
+        desktop.askToEnd();
+        QVERIFY(question());
+        computer.fail("disconnect", "not now");
+        QVERIFY(QMetaObject::invokeMethod(question(), "disconnectWanted"));
+        QVERIFY(until([&] { return desktop.ends.has_value(); }));
+        QCOMPARE(*desktop.ends, false);
+        QVERIFY(showsMain(program)); // with the reason
+
+        desktop.ends.reset();
+        computer.fail("disconnect", {});
+        desktop.askToEnd();
+        QVERIFY(QMetaObject::invokeMethod(question(), "disconnectWanted"));
+        QVERIFY(until([&] { return desktop.ends.has_value(); }));
+        QCOMPARE(*desktop.ends, true);
+        QVERIFY(!computer.hasMarker());
+    }
+
+    void withoutASessionTheSystemMayEndItAtOnce()
+    {
+        Computer computer;
+        StandInDesktop desktop;
+        Application program(computer.profile);
+        QVERIFY(program.start(true, false));
+        desktop.askToEnd();
+        QVERIFY(until([&] { return desktop.ends.has_value(); }));
+        QCOMPARE(*desktop.ends, true);
+        QVERIFY(!question());
     }
 };
 
