@@ -4,6 +4,7 @@
     parsing     framing and reading circuit-status lines against python3-stem, the log against a short Python program, interleaved
     helper      the helper's connect and disconnect in strict mode
     killswitch  the time to load the rules, and their cost compared with none, interleaved
+    namespace   Tor on the host against Tor in a network namespace of its own, what each costs a packet, interleaved
     download    SOCKS downloads through Tor with the kill switch and without, interleaved
     identities  the cost of separate applications for a connection, interleaved; the program that watches groups
     prompt      the time that terminal mode's hook adds to a shell's prompt
@@ -32,7 +33,19 @@ from moving import Moving  # noqa: E402
 from veldlab.lab import Lab, LabUnavailable  # noqa: E402
 from veldlab.product import Product  # noqa: E402
 
-GROUPS = ("parsing", "helper", "killswitch", "download", "identities", "prompt", "desktop", "connect", "discovery", "service")
+GROUPS = (
+    "parsing",
+    "helper",
+    "killswitch",
+    "namespace",
+    "download",
+    "identities",
+    "prompt",
+    "desktop",
+    "connect",
+    "discovery",
+    "service",
+)
 QUICK_IDLE_SECONDS = 2.0
 
 

@@ -29,7 +29,7 @@ set(qml_modules qml6-module-qtquick qml6-module-qtquick-templates qml6-module-qt
     qml6-module-qtquick-layouts qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript)
 list(JOIN qml_modules ", " qml_modules)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS
-    "${qml_modules}, ca-certificates, ethtool, nftables, passwd, polkitd | policykit-1, pkexec | policykit-1, util-linux (>= 2.36)")
+    "${qml_modules}, ca-certificates, ethtool, iproute2, nftables, passwd, polkitd | policykit-1, pkexec | policykit-1, util-linux (>= 2.36)")
 # Without tor the program says what to install; it may also be one of the user's own.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
     "tor, tor-geoipdb, sudo, gnupg, gpgv, libglib2.0-bin, qt6-qpa-plugins, qt6-wayland, unzip")

@@ -66,6 +66,7 @@ undo_bypass() {
     done <"$BYPASS_FOLDER/cgroup.procs"
     ((round < 25 || ${#pids[@]} == 0)) || printf '1\n' >"$BYPASS_FOLDER/cgroup.kill" || true
     for ((i = 0; i < ${#pids[@]}; i++)); do
+      does_bypass "${pids[i]}" || continue   # it was ended meanwhile, and its number may be that of another process
       printf '%s\n' "${pids[i]}" >"${places[i]}/cgroup.procs" || printf '%s\n' "${pids[i]}" >"$TREE/cgroup.procs" || true
     done
     rmdir -- "$BYPASS_FOLDER" && return 0
@@ -73,6 +74,15 @@ undo_bypass() {
   done
   let_bypass_run
   UNDONE="The control group of the applications without Tor could not be removed."
+  return 1
+}
+
+# does_bypass PID: whether the process is in the group.
+does_bypass() {
+  local line
+  { while IFS= read -r line; do
+    [[ $line != "0::/$BYPASS_NAME" ]] || return 0
+  done <"/proc/$1/cgroup"; } 2>/dev/null
   return 1
 }
 

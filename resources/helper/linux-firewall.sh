@@ -76,6 +76,8 @@ END
 # looked_up: only Tor answers from its DNS port.
 # opening: remembers Tor's own connections to its transports; a later socket with the same ports is not Tor's. No program may open a
 # connection from Tor's ports: two simultaneous openings make a connection, so a false listener would not need to answer.
+# An opening packet that carries data (TCP Fast Open) is dropped, since its receiver reads the data before it answers; its sender then opens
+# the connection without.
 # control_port: only root, the session's user and Tor may open Tor's control port.
 # answering: only Tor answers at Tor's ports. Otherwise a false listener would get the control password and the applications' requests while
 # Tor is not running. A transport answers only Tor. Otherwise any user could use it as a tunnel to their own server, from the real address.
@@ -119,6 +121,8 @@ END
 	}
 	chain opening {
 		tcp flags & ack == ack goto answering
+		ip length > 80 drop
+		ip6 length > 60 drop
 		$(tors_key "$1") update @tors_own { ip saddr . tcp sport . ip daddr . tcp dport } accept
 		$ports reject with tcp reset
 		$beside reject with tcp reset

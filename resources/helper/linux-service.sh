@@ -35,15 +35,27 @@ port_sockets() {
     /proc/net/tcp /proc/net/udp || true)
 }
 
-# wide_sockets LINES: likewise, for TCP sockets of the other family that may take connections to 127.0.0.1 as well, at those of Tor's ports
+# takes_ipv6_alone PORT: whether every socket that listens there at all addresses of the other family takes no connection to 127.0.0.1. ss
+# shows such a socket as [::]:PORT, and others as *:PORT. Without ss the answer is no.
+takes_ipv6_alone() {
+  local list
+  list=$(timeout 1 ss -H -6 -l -t -n "sport = :$1") && [[ $list == *" [::]:$1 "* && $list != *" *:$1 "* ]]
+}
+
+# wide_sockets LINES: likewise, for TCP sockets of the other family that take connections to 127.0.0.1 as well, at those of Tor's ports
 # where LINES has no socket: beside one, the kernel allows only a socket that takes none.
 wide_sockets() {
-  local socks control port address uid socket rest
+  local socks control port address uid socket rest alone=' '
   printf -v socks '%04X' "$SOCKS_PORT"
   printf -v control '%04X' "$CONTROL_PORT"
   while read -r rest address rest rest rest rest rest uid rest socket rest; do
     port=$((16#${address##*:}))
-    [[ $'\n'$1 == *$'\n'"$port "* ]] || printf '%s %s %s\n' "$port" "$uid" "$socket"
+    [[ $'\n'$1 != *$'\n'"$port "* ]] || continue
+    if [[ ${address%:*} =~ ^0*$ ]]; then
+      [[ $alone == *" $port"* ]] || { takes_ipv6_alone "$port" && alone="$alone$port=1 "; } || alone="$alone$port=0 "
+      [[ $alone != *" $port=1 "* ]] || continue
+    fi
+    printf '%s %s %s\n' "$port" "$uid" "$socket"
   done < <(grep -hE ": (0{32}|0{16}FFFF00000100007F|0{20}FFFF7F000001):($socks|$control) [0-9A-F]+:[0-9A-F]+ 0A " /proc/net/tcp6 || true)
 }
 

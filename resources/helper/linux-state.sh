@@ -175,8 +175,12 @@ put_in_place() { sync -- "$1" && mv -fT -- "$1" "$2" && sync -- "${2%/*}"; }
 # print_modes PATH...: prints "MODE UID KIND", one line for each; fails when one is missing. Links are not followed.
 print_modes() { stat -c '%a %u %F' -- "$@"; }
 
-# real_path PATH: prints the path without links; fails when it does not exist.
-real_path() { readlink -e -- "$1"; }
+# real_path PATH: prints the path without links; fails when it does not exist. A file system of the caller's may never answer (FUSE with
+# allow_other). What then waits, perhaps unkillably, has neither the locks, nor what this run reads or writes to.
+# shellcheck disable=SC2016
+real_path() {
+  timeout -k 1 5 /bin/sh -c 'exec 7>&- 8>&- 9>&-; exec readlink -e -- "$1"' readlink "$1" | take_output 7 8192
+}
 
 # on_own_mount PATH: whether PATH, which only root can change, is on a file system mounted for the system's programs. A file system that
 # users may mount (a medium on the desktop, FUSE, fstab's "user") never allows setuid programs.

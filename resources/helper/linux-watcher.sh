@@ -186,7 +186,7 @@ print_watcher() {
     OTHERS_NOTE OTHERS_SECONDS ALWAYS WITHOUT_GROUPS WORD MISSED SINCE NOTED JOURNAL TOR_ENTRY SOCKS_PORT CONTROL_PORT DNS_PORT
   printf 'CHANGED= OTHERS_DUE=0 CHAINS=() CHAIN_RULES=() JUDGED= STRUGGLES=0 LESSENED= LISTING= TREE= TOR_UID= VOUCHED= CHILDREN= START_TIME= BOOT= RECORDED_PID= JOURNAL_LINES=()\n'
   declare -f read_marker put_in_place write_file note_rules hold_rules release_rules keep_listing rules_stand find_tree make_group make_groups nft_without_groups read_listing copy_stands \
-    print_not_bypassing relock monitor monitor_rules beat await_change port_sockets wide_sockets has_socket \
+    print_not_bypassing relock monitor monitor_rules beat await_change port_sockets takes_ipv6_alone wide_sockets has_socket \
     journal_has journal_read read_lines read_boot start_time find_recorded read_children ports_are_tors read_chains judge_chain name_others \
     note_others watch_others watch_rules
   printf 'watch_rules\n'

@@ -3739,6 +3739,18 @@ name in the same session has the same ones</source>
         <source>Users other than root can change %1, so root doesn&apos;t run it to ask for its version.</source>
         <translation>يمكن لمستخدمين غير root تغيير ⁨%1⁩، لذلك لا يشغّله root لسؤاله عن إصداره.</translation>
     </message>
+    <message>
+        <source>Type %1 to approve it, anything else to refuse.</source>
+        <translation>اكتب ⁨%1⁩ للموافقة عليه، وأي شيء آخر للرفض.</translation>
+    </message>
+    <message>
+        <source>%1 was not approved.</source>
+        <translation>لم تتم الموافقة على ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
+        <translation>⁨%1⁩ ليس من برامج النظام، ولذلك تلزم الموافقة عليه، ولا توجد طرفية للسؤال فيها. شغّل «⁨sudo veldmarkctl run --connect⁩» في طرفية.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -3739,6 +3739,18 @@ hat es in derselben Sitzung später dieselben</translation>
         <source>Users other than root can change %1, so root doesn&apos;t run it to ask for its version.</source>
         <translation>Andere Benutzer als root können %1 ändern, darum führt root es nicht aus, um nach der Version zu fragen.</translation>
     </message>
+    <message>
+        <source>Type %1 to approve it, anything else to refuse.</source>
+        <translation>Geben Sie %1 ein, um es zuzulassen, und etwas anderes, um es abzulehnen.</translation>
+    </message>
+    <message>
+        <source>%1 was not approved.</source>
+        <translation>%1 wurde nicht zugelassen.</translation>
+    </message>
+    <message>
+        <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
+        <translation>%1 ist kein Programm des Systems und muss zugelassen werden, aber es gibt kein Terminal, in dem danach gefragt werden kann. Führen Sie „sudo veldmarkctl run --connect“ in einem Terminal aus.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -3739,6 +3739,18 @@ el mismo nombre en la misma sesión, tiene los mismos</translation>
         <source>Users other than root can change %1, so root doesn&apos;t run it to ask for its version.</source>
         <translation>Otros usuarios además de root pueden cambiar %1, así que root no lo ejecuta para preguntar su versión.</translation>
     </message>
+    <message>
+        <source>Type %1 to approve it, anything else to refuse.</source>
+        <translation>Escriba %1 para aprobarlo o cualquier otra cosa para rechazarlo.</translation>
+    </message>
+    <message>
+        <source>%1 was not approved.</source>
+        <translation>%1 no se aprobó.</translation>
+    </message>
+    <message>
+        <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
+        <translation>%1 no es un programa del sistema y alguien tiene que aprobarlo, pero no hay ningún terminal donde preguntarlo. Ejecute «sudo veldmarkctl run --connect» en un terminal.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -3739,6 +3739,18 @@ name in the same session has the same ones</source>
         <source>Users other than root can change %1, so root doesn&apos;t run it to ask for its version.</source>
         <translation>کاربرانی جز root می‌توانند ⁨%1⁩ را تغییر دهند، پس root آن را برای پرسیدن نسخه اجرا نمی‌کند.</translation>
     </message>
+    <message>
+        <source>Type %1 to approve it, anything else to refuse.</source>
+        <translation>برای تأیید آن ⁨%1⁩ را بنویسید و برای رد کردن، هر چیز دیگری.</translation>
+    </message>
+    <message>
+        <source>%1 was not approved.</source>
+        <translation>⁨%1⁩ تأیید نشد.</translation>
+    </message>
+    <message>
+        <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
+        <translation>⁨%1⁩ برنامهٔ سیستم نیست و کسی باید آن را تأیید کند، اما پایانه‌ای برای پرسیدن نیست. «⁨sudo veldmarkctl run --connect⁩» را در یک پایانه اجرا کنید.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

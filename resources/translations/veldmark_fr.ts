@@ -3739,6 +3739,18 @@ le même nom dans la même session donne les mêmes circuits</translation>
         <source>Users other than root can change %1, so root doesn&apos;t run it to ask for its version.</source>
         <translation>D’autres utilisateurs que root peuvent modifier %1 ; root ne l’exécute donc pas pour en demander la version.</translation>
     </message>
+    <message>
+        <source>Type %1 to approve it, anything else to refuse.</source>
+        <translation>Tapez %1 pour l’approuver, autre chose pour refuser.</translation>
+    </message>
+    <message>
+        <source>%1 was not approved.</source>
+        <translation>%1 n’a pas été approuvé.</translation>
+    </message>
+    <message>
+        <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
+        <translation>%1 n’est pas un programme du système ; quelqu’un doit donc l’approuver, et il n’y a pas de terminal où le demander. Exécutez « sudo veldmarkctl run --connect » dans un terminal.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -3739,6 +3739,18 @@ o mesmo nome na mesma sessão usa os mesmos circuitos</translation>
         <source>Users other than root can change %1, so root doesn&apos;t run it to ask for its version.</source>
         <translation>Outros usuários além do root podem alterar %1, então o root não o executa para perguntar a versão.</translation>
     </message>
+    <message>
+        <source>Type %1 to approve it, anything else to refuse.</source>
+        <translation>Digite %1 para aprová-lo ou qualquer outra coisa para recusar.</translation>
+    </message>
+    <message>
+        <source>%1 was not approved.</source>
+        <translation>%1 não foi aprovado.</translation>
+    </message>
+    <message>
+        <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
+        <translation>%1 não é um programa do sistema, por isso alguém precisa aprová-lo, e não há terminal em que perguntar. Execute &quot;sudo veldmarkctl run --connect&quot; em um terminal.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -3739,6 +3739,18 @@ name in the same session has the same ones</source>
         <source>Users other than root can change %1, so root doesn&apos;t run it to ask for its version.</source>
         <translation>Не только root может изменить %1, поэтому root не запускает эту программу, чтобы узнать её версию.</translation>
     </message>
+    <message>
+        <source>Type %1 to approve it, anything else to refuse.</source>
+        <translation>Введите %1, чтобы одобрить его; любой другой ответ — отказ.</translation>
+    </message>
+    <message>
+        <source>%1 was not approved.</source>
+        <translation>Файл %1 не одобрен.</translation>
+    </message>
+    <message>
+        <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
+        <translation>%1 — не программа системы, поэтому её нужно одобрить, а терминала, в котором можно об этом спросить, нет. Выполните «sudo veldmarkctl run --connect» в терминале.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

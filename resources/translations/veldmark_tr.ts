@@ -3739,6 +3739,18 @@ aynı adla yapılan sonraki çalıştırma aynı devreleri kullanır</translatio
         <source>Users other than root can change %1, so root doesn&apos;t run it to ask for its version.</source>
         <translation>root dışındaki kullanıcılar %1 dosyasını değiştirebilir, bu yüzden root sürümünü sormak için onu çalıştırmaz.</translation>
     </message>
+    <message>
+        <source>Type %1 to approve it, anything else to refuse.</source>
+        <translation>Onaylamak için %1 yazın; başka her yanıt reddeder.</translation>
+    </message>
+    <message>
+        <source>%1 was not approved.</source>
+        <translation>%1 onaylanmadı.</translation>
+    </message>
+    <message>
+        <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
+        <translation>%1 sistemin bir programı değil, bu yüzden birinin onu onaylaması gerekiyor ve bunu soracak bir uçbirim yok. Bir uçbirimde “sudo veldmarkctl run --connect” komutunu çalıştırın.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -3739,6 +3739,18 @@ name in the same session has the same ones</source>
         <source>Users other than root can change %1, so root doesn&apos;t run it to ask for its version.</source>
         <translation>Не лише root може змінити %1, тому root не запускає цю програму, щоб дізнатися її версію.</translation>
     </message>
+    <message>
+        <source>Type %1 to approve it, anything else to refuse.</source>
+        <translation>Введіть %1, щоб схвалити її; будь-яка інша відповідь — відмова.</translation>
+    </message>
+    <message>
+        <source>%1 was not approved.</source>
+        <translation>Файл %1 не схвалено.</translation>
+    </message>
+    <message>
+        <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
+        <translation>%1 — не програма системи, тому її треба схвалити, а термінала, у якому можна про це запитати, немає. Виконайте «sudo veldmarkctl run --connect» у терміналі.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

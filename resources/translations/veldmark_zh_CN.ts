@@ -3739,6 +3739,18 @@ name in the same session has the same ones</source>
         <source>Users other than root can change %1, so root doesn&apos;t run it to ask for its version.</source>
         <translation>root 以外的用户可以更改 %1，因此 root 不会运行它来查询版本。</translation>
     </message>
+    <message>
+        <source>Type %1 to approve it, anything else to refuse.</source>
+        <translation>输入 %1 以批准，输入其他内容则拒绝。</translation>
+    </message>
+    <message>
+        <source>%1 was not approved.</source>
+        <translation>%1 未获批准。</translation>
+    </message>
+    <message>
+        <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
+        <translation>%1 不是系统的程序，需要有人批准，但没有可供询问的终端。请在终端中运行“sudo veldmarkctl run --connect”。</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

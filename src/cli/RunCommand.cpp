@@ -6,14 +6,16 @@
 
 namespace veldmark {
 
-RunCommand::RunCommand(const PlatformProfile &profile, bool connectNow)
-    : m_real(profile),
+RunCommand::RunCommand(const PlatformProfile &profile, bool connectNow, const QString &terminal)
+    : m_question(terminal),
+      m_real(profile),
       m_controller(m_real.controller()),
       m_watch(m_controller),
       m_restorer(m_controller),
       m_connectNow(connectNow),
       m_lines(m_controller)
 {
+    m_real.privileged().askWith([this](const Text &text) { return m_question.ask(text); });
     QObject::connect(&m_signals, &SignalWatcher::received, this, &RunCommand::onSignal);
     QObject::connect(&m_controller.phase, &Field::changed, this, [this] {
         m_restored |= m_controller.phase() == ConnectionPhase::disconnecting;
@@ -67,6 +69,7 @@ QCoro::Task<void> RunCommand::begin()
 void RunCommand::onSignal(int number)
 {
     m_mustEnd |= number != SIGINT;
+    m_question.refuse();
     if (m_restorer.isUnderWay()) {
         m_lines.say(Text::tr("Still restoring your network, one moment…"));
         return;

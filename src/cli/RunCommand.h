@@ -3,6 +3,7 @@
 #include "base/Text.h"
 #include "cli/Arguments.h"
 #include "cli/SessionLines.h"
+#include "cli/TerminalQuestion.h"
 #include "controller/NetworkRestorer.h"
 #include "controller/RealController.h"
 #include "controller/SessionWatch.h"
@@ -22,7 +23,9 @@ class RunCommand : public QObject {
     Q_OBJECT
 
 public:
-    RunCommand(const PlatformProfile &profile, bool connectNow);
+    // terminal: where root is asked to approve programs.
+    RunCommand(const PlatformProfile &profile, bool connectNow,
+               const QString &terminal = QStringLiteral("/dev/tty"));
 
     // Starts; emits `finished` later, or at once.
     void start();
@@ -36,6 +39,7 @@ private:
     void onRestored(bool restored);
     void finish(ExitStatus status);
 
+    TerminalQuestion m_question; // destroyed last: the controller's coroutines wait for it
     RealController m_real;
     TorController &m_controller;
     SessionWatch m_watch;

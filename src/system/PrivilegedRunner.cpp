@@ -82,7 +82,25 @@ QStringList approvable(QStringList arguments)
     return arguments;
 }
 
-// The text of the dialog when the program sets it: osascript's.
+// `path` with its control characters and invisible ones spelled out, so that it shows as it is.
+QString visible(const QString &path)
+{
+    QString shown;
+    for (const char32_t c : path.toUcs4()) {
+        if (QChar::isPrint(c))
+            shown += QString::fromUcs4(&c, 1);
+        else
+            shown += QStringLiteral("\\u{%1}").arg(static_cast<uint>(c), 0, 16);
+    }
+    return shown;
+}
+
+QString valueOf(const QStringList &arguments, const char *option)
+{
+    return arguments.value(arguments.indexOf(QLatin1String(option)) + 1);
+}
+
+// The text of the dialog when the program sets it: osascript's, and the question on a terminal.
 Text promptText(const PlatformProfile &profile, const QStringList &arguments)
 {
     const QString verb = arguments.value(0);
@@ -93,12 +111,9 @@ Text promptText(const PlatformProfile &profile, const QStringList &arguments)
                  "Veldmark replaces the running strict session. The new session may protect you less.")});
     if (verb != QLatin1String("approve"))
         return profile.promptText;
-    const auto valueOf = [&arguments](const char *option) {
-        return arguments.value(arguments.indexOf(QLatin1String(option)) + 1);
-    };
     return Text::
         tr("Veldmark wants to run %1 as a part of Tor. No package of the system installed it. Its SHA-256 is %2.")
-            .arg(valueOf("--program"), valueOf("--sha256"));
+            .arg(visible(valueOf(arguments, "--program")), valueOf(arguments, "--sha256"));
 }
 
 HelperError failure(const QString &text)
@@ -200,13 +215,19 @@ QString appleScriptSource(const QStringList &words, const QString &promptText)
 
 PrivilegedRunner::PrivilegedRunner(PlatformProfile profile, ProcessRunner &runner,
                                    uid_t effectiveUser)
-    : m_means(std::make_shared<Means>(Means{std::move(profile), &runner, effectiveUser == 0}))
+    : m_means(std::make_shared<Means>(Means{std::move(profile), &runner, effectiveUser == 0, {}}))
 {
 }
 
 PrivilegedRunner::~PrivilegedRunner()
 {
     m_means->runner = nullptr;
+    m_means->question = nullptr;
+}
+
+void PrivilegedRunner::askWith(Question question)
+{
+    m_means->question = std::move(question);
 }
 
 bool PrivilegedRunner::Means::passwordlessInstalled() const
@@ -312,6 +333,9 @@ QCoro::Task<PrivilegedRunner::Outcome> PrivilegedRunner::prompt(std::shared_ptr<
         co_return Failure(failure(run->stderr));
     }
     const QString helper = *script;
+    const auto allowed = co_await askRoot(means, arguments);
+    if (!allowed)
+        co_return Failure(allowed.error());
     const Outcome outcome = co_await runAsRoot(means, helper, arguments);
     const QStringList more = approvable(arguments);
     if (outcome || outcome.error().kind() != HelperError::Kind::Unapproved || more == arguments
@@ -320,6 +344,29 @@ QCoro::Task<PrivilegedRunner::Outcome> PrivilegedRunner::prompt(std::shared_ptr<
     // The first dialog did not say that a strict session would be weakened; this one does.
     const Outcome approved = co_await runAsRoot(means, helper, more);
     co_return approved;
+}
+
+QCoro::Task<Result<void, HelperError>> PrivilegedRunner::askRoot(std::shared_ptr<const Means> means,
+                                                                 QStringList arguments)
+{
+    if (!means->isRoot || arguments.value(0) != QLatin1String("approve"))
+        co_return Result<void, HelperError>{};
+    const Text program = visible(valueOf(arguments, "--program"));
+    Answer answer = Answer::nobodyThere;
+    if (means->question) {
+        auto asking = means->question(promptText(means->profile, arguments));
+        answer = co_await asking;
+    }
+    if (!means->runner)
+        co_return Failure(HelperError::cancelled());
+    if (answer == Answer::no)
+        co_return Failure(HelperError::failed(Text::tr("%1 was not approved.").arg(program)));
+    if (answer == Answer::nobodyThere)
+        co_return Failure(HelperError::failed(
+            Text::tr(
+                "%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run \"sudo veldmarkctl run --connect\" in a terminal.")
+                .arg(program)));
+    co_return Result<void, HelperError>{};
 }
 
 QCoro::Task<PrivilegedRunner::Outcome> PrivilegedRunner::runAsRoot(

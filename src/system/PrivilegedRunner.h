@@ -6,6 +6,7 @@
 
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -30,11 +31,17 @@ namespace veldmark {
 // read them, except through osascript. The helper refuses a connect that would weaken a running
 // strict session; then `replace` asks for approval.
 //
+// Where no dialog asks, because this process is root already, the person who runs it is asked
+// before a program is approved: sudo's password alone doesn't say what it is given for.
+//
 // Belongs to the main thread and must be destroyed before its ProcessRunner. A current run then
 // continues to its end; its caller gets `cancelled`, at the latest at that end.
 class PrivilegedRunner {
 public:
     using Outcome = Result<QString, HelperError>; // standard output
+    enum class Answer { yes, no, nobodyThere };
+    // Shows `text`, one line, and waits for the answer.
+    using Question = std::function<QCoro::Task<Answer>(Text text)>;
 
     // effectiveUser: the account that decides whether this process is root.
     PrivilegedRunner(PlatformProfile profile, ProcessRunner &runner,
@@ -56,6 +63,9 @@ public:
     [[nodiscard]] QCoro::Task<Outcome> runWithPrompt(QStringList arguments,
                                                      std::optional<QString> script = std::nullopt);
 
+    // How root is asked. Without it a process that is root approves no program.
+    void askWith(Question question);
+
     // The message in the standard error of the helper, or of osascript around it.
     static Text cleanError(const QString &text);
 
@@ -65,6 +75,7 @@ private:
         PlatformProfile profile;
         ProcessRunner *runner;
         bool isRoot;
+        Question question;
 
         bool passwordlessInstalled() const;
         bool privilegedHelperOutdated() const;
@@ -73,6 +84,9 @@ private:
     static QCoro::Task<Outcome> run(std::shared_ptr<const Means> means, QStringList arguments);
     static QCoro::Task<Outcome> prompt(std::shared_ptr<const Means> means, QStringList arguments,
                                        std::optional<QString> script);
+    // Success when `arguments` need no answer of root's, or have got it.
+    static QCoro::Task<Result<void, HelperError>> askRoot(std::shared_ptr<const Means> means,
+                                                          QStringList arguments);
     static QCoro::Task<Outcome> runAsRoot(std::shared_ptr<const Means> means, QString script,
                                           QStringList arguments);
 

@@ -323,6 +323,8 @@ class Machine:
                         (
                             "nft -s -t list table ",
                             "grep -hE : ",
+                            "timeout 1 ss -H ",
+                            "ss -H ",
                             "unshare --mount --propagation private sh -c mount ",
                             "sh -c mount -t tmpfs none /sys/fs/cgroup ",
                             "setpriv --pdeathsig KILL unshare ",

@@ -21,6 +21,39 @@ TAKE = (
     "for line in sys.stdin:\n s = socket.socket(fileno=fds.pop()); s.setblocking(False); s.connect_ex((sys.argv[1], 1001)); print('used', flush=True)"
 )
 
+# Twenty processes of short life in Tor's group, which replace each other there; one that was moved out ends.
+STORM = r"""
+#include <fcntl.h>
+#include <string.h>
+#include <sys/mman.h>
+#include <unistd.h>
+static int *many; /* usleep: others use the processors as well */
+static int is_moved(void)
+{
+    char group[256] = "";
+    int file = open("/proc/self/cgroup", O_RDONLY);
+    int length = read(file, group, sizeof group - 1);
+    close(file);
+    return length > 0 && !strstr(group, "/veldmark/tor");
+}
+static int another(void)
+{
+    int child = -1;
+    if (__sync_add_and_fetch(many, 1) > 20 || (child = fork()) < 0)
+        __sync_sub_and_fetch(many, 1);
+    return child;
+}
+int main(void)
+{
+    many = mmap(0, sizeof *many, PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+    for (*many = 1; !is_moved(); usleep(500))
+        if (another() > 0 && another() != 0)
+            break;
+    __sync_sub_and_fetch(many, 1);
+    return 0;
+}
+"""
+
 
 class Account(HostileTest):
     def test_tors_account_alone_passes_nothing(self):
@@ -67,6 +100,23 @@ class Account(HostileTest):
             left.wait()
         finally:
             taker.communicate()
+
+    def test_what_starts_processes_without_end_does_not_stay_in_tors_group(self):
+        """It cannot be moved out as fast as it starts others, and would be in the group of the next session's Tor, or keep it from
+        being made."""
+        self.machine.shell("gcc -O2 -x c -o /usr/local/storm -", stdin=STORM)
+        self.machine.connect()
+        count = f"wc -l <{TOR_GROUP}/cgroup.procs"
+        try:
+            self.machine.start("/usr/local/storm", uid=self.tor_uid, group=TOR_GROUP).wait()
+            self.machine.shell(f"until [ $({count}) -gt 15 ]; do sleep 0.01; done", timeout=30)
+            self.machine.help("disconnect")
+            self.assertGreater(int(self.machine.shell(count)), 10)
+            self.machine.connect()
+            self.assertEqual(self.machine.shell("pgrep -x storm || true"), "")
+            self.assertIn("https", self.wire.arrivals(self.tor_uid, TOR_GROUP))
+        finally:
+            self.machine.shell(f"rm /usr/local/storm; echo 1 >{TOR_GROUP}/cgroup.kill; while pgrep -x storm; do sleep 0.01; done")
 
     def test_wrong_requests_do_not_fill_the_disk(self):
         """Each is a line of its log. Tor goes on where the log may not grow."""

@@ -1,7 +1,11 @@
 """The control group of the applications without Tor: who is left in it at a session's end, and where that process goes on."""
 
+import os
+
 import namespace
 from namespace import OTHER_UID, USER_UID, HelperTest
+
+STEPPED = os.path.join(namespace.HERE, "stepped.sh")
 
 GROUPS = "/sys/fs/cgroup"
 BYPASS = f"{GROUPS}/veldmark-bypass"
@@ -77,6 +81,37 @@ class Bypass(HelperTest):
                 self.assertGoesOn(USER_UID)
                 self.assertGoesOn(OTHER_UID)
                 self.machine.shell(f"kill {alices} {bobs}; while pgrep -x sleep; do sleep 0.01; done")
+
+    def test_a_number_that_is_used_again_is_nobody_to_move(self):
+        """A user may end a process that was listed, and have the system give its number to another process: a run of the helper, which
+        would be the user's to stop then."""
+        self.connect()
+        old = self.application(USER_UID)
+        others = f"{GROUPS}/others"
+        self.machine.shell(
+            f"mkdir {others}; cat >/usr/local/reuse; chmod 0755 /usr/local/reuse",
+            stdin=f"""#!/bin/bash
+kill -9 {old}; while [ -d /proc/{old} ]; do sleep 0.01; done
+until [ "${{pid-}}" = {old} ]; do
+  [ -z "${{pid-}}" ] || kill -9 $pid
+  echo $(({old} - 1)) >/proc/sys/kernel/ns_last_pid
+  sleep 1000 >/dev/null 2>&1 7>&- 8>&- 9>&- & pid=$!
+done
+echo $pid >{others}/cgroup.procs
+""",
+        )
+        try:
+            words = ("", "((i = 0", "/usr/local/reuse", "disconnect")
+            self.machine.run(
+                *("/bin/bash", "-p", STEPPED, self.machine.helper, "/run/changes", *words),
+                env={"PATH": "/usr/bin:/bin", "PKEXEC_UID": str(USER_UID)},
+                group=self.alices,
+            )
+            self.assertEqual(self.group_of(old), others)
+        finally:
+            self.machine.shell(
+                f"rm -f /usr/local/reuse /run/changes*; kill -9 $(cat {others}/cgroup.procs); until rmdir {others}; do sleep 0.01; done"
+            )
 
     def test_what_starts_processes_without_end_does_not_stay(self):
         self.machine.shell("gcc -O2 -x c -o /usr/local/storm -", stdin=STORM)

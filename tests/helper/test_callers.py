@@ -60,6 +60,23 @@ class Callers(HelperTest):
             timeout=30,
         )
 
+    def test_a_file_system_that_never_answers_keeps_no_lock(self):
+        """A user's own does that where others may look into it. Not even SIGKILL ends who has asked it."""
+        slow = '#!/bin/sh\ncase $* in "-e -- /home/alice/slow") setsid sleep 1000; esac\nexec /mnt/readlink "$@"\n'
+        self.machine.shell(
+            "cp -a /usr/bin/readlink /mnt/readlink; install -m 0755 /dev/stdin /mnt/slow; mount --bind /mnt/slow /usr/bin/readlink;"
+            "install -o alice -m 0755 /usr/bin/true /home/alice/slow",
+            stdin=slow,
+        )
+        try:
+            run = self.begin(*[word.replace(TOR, "/home/alice/slow") for word in CONNECT], stderr=subprocess.PIPE)
+            self.machine.shell("until pgrep -xf 'sleep 1000'; do sleep 0.01; done", timeout=30)
+            self.machine.help("disconnect", env={"PATH": os.environ["PATH"], "PKEXEC_UID": str(namespace.OTHER_UID)})
+            self.machine.shell("pgrep -xf 'sleep 1000'")
+            self.assertEqual(run.communicate(timeout=20)[1], "ERROR: The program /home/alice/slow cannot be found.\n")
+        finally:
+            self.machine.shell("pkill -xf 'sleep 1000'; umount /usr/bin/readlink; rm /mnt/readlink /mnt/slow /home/alice/slow")
+
     def test_who_does_not_read_what_it_says_keeps_no_lock(self):
         reading, writing = self.full_pipe()
         self.machine.connect()

@@ -18,6 +18,20 @@ MEETING = (
     "sys.stdin.read()"
 )
 
+# Listens at the given address and port and prints what it reads, also what came with the packet that opened the connection.
+FAST_SERVER = (
+    "import socket, sys\ns = socket.socket(socket.AF_INET6 if ':' in sys.argv[1] else socket.AF_INET)\n"
+    "s.setsockopt(socket.SOL_SOCKET, socket.SO_REUSEADDR, 1)\n"
+    "s.setsockopt(socket.IPPROTO_TCP, socket.TCP_FASTOPEN, 16); s.bind((sys.argv[1], int(sys.argv[2]))); s.listen(); print('up', flush=True)\n"
+    "while True:\n c, _ = s.accept(); print(c.recv(100).decode(), flush=True); c.close()"
+)
+# Sends its request with that packet.
+FAST_CLIENT = (
+    "import socket, sys\ns = socket.socket(socket.AF_INET6 if ':' in sys.argv[1] else socket.AF_INET); s.settimeout(5)\n"
+    "try: s.sendto(sys.argv[3].encode(), socket.MSG_FASTOPEN, (sys.argv[1], int(sys.argv[2]))); print('sent')\n"
+    "except BlockingIOError: print('sent later')\nexcept OSError as e: print(e.strerror)"
+)
+
 
 class Sockets(HostileTest):
     def test_a_transports_port_is_tors_alone(self):
@@ -43,6 +57,39 @@ class Sockets(HostileTest):
         self.assertFalse(self.reach(port, 40001, uid=OTHER_UID))
         self.assertTrue(self.reach(port, 40001, 10, uid=self.tor_uid, group=TOR_GROUP), "the port was free for another connection")
         end()
+
+    def test_nobody_else_reads_what_opens_a_connection_to_tors_ports(self):
+        """Where the system lets servers have TCP Fast Open, a listener reads a request before it answers."""
+
+        def serve(address, port):
+            words = ("/usr/bin/python3", "-c", FAST_SERVER, address, str(port))
+            process = self.machine.start(*words, uid=OTHER_UID, stdout=subprocess.PIPE, text=True)
+            self.addCleanup(process.communicate)
+            self.assertEqual(process.stdout.readline(), "up\n")
+            return process
+
+        def send(address, port, words):
+            return self.machine.run("/usr/bin/python3", "-c", FAST_CLIENT, address, str(port), words, uid=USER_UID).stdout
+
+        self.machine.shell("echo 3 >/proc/sys/net/ipv4/tcp_fastopen")
+        try:
+            for address in "127.0.0.1", "::1":
+                with self.subTest(address):
+                    # The system keeps the cookie of one port for all of the address.
+                    other = serve(address, 7777)
+                    send(address, 7777, "")
+                    self.assertEqual(other.stdout.readline(), "\n")
+                    self.machine.connect()
+                    self.machine.shell("pkill -KILL -u _veldmark; while pgrep -u _veldmark; do sleep 0.01; done")
+                    false_tor = serve(address, 9050)
+                    send(address, 9050, "a request")
+                    self.without("opening")
+                    self.assertEqual(send(address, 9050, "another"), "sent\n")
+                    self.assertEqual(false_tor.stdout.readline(), "another\n")
+                    self.machine.shell("pkill -KILL -u bob; while pgrep -u bob; do sleep 0.01; done")
+                    self.machine.help("disconnect")
+        finally:
+            self.machine.shell("echo 1 >/proc/sys/net/ipv4/tcp_fastopen; pkill -KILL -u bob || true")
 
     def test_nobody_else_answers_at_tors_ports(self):
         """While Tor is away, a false listener would receive the control password and other programs' requests."""

@@ -55,14 +55,18 @@ class Theft(HelperTest):
         return self.machine.run("/bin/bash", *words, env=env, check=False)
 
     def test_helper_that_runs_without_a_password_is_roots_own_reading(self):
-        """Long, so that a reader with the user's rights would be found."""
+        """Long, so that a reader with the user's rights is found: a helper that reads itself so installs what the thief has written."""
         self.addCleanup(self.machine.help, "uninstall-privileged")
         long = "/usr/local/veldmark-helper.sh"
-        self.machine.shell('cp "$1" "$2"; truncate -s 150M "$2"', self.machine.helper, long)
         self.addCleanup(self.machine.shell, f"rm {long}")
-        done = self.run_while_copied(long, "install-privileged", "--user", "alice", env=PROMPT)
-        self.assertEqual((done.returncode, done.stderr), (0, ""))
-        self.machine.shell(f"cmp {long} {INSTALLED}")
+        for careless in (True, False):
+            with self.subTest(careless=careless):
+                reader = "s/install_file print_self/install_file print_file/" if careless else ""
+                self.machine.shell('sed "$3" "$1" >"$2"; truncate -s 150M "$2"', self.machine.helper, long, reader)
+                done = self.run_while_copied(long, "install-privileged", "--user", "alice", env=PROMPT)
+                self.assertEqual((done.returncode, done.stderr), (0, ""))
+                same = self.machine.shell_run(f"cmp {long} {INSTALLED}").returncode == 0
+                self.assertEqual(same, not careless)
 
     def test_the_systems_program_at_an_odd_path_is_not_changed_on_its_way(self):
         """Tor's configuration takes such a path only as a copy, which needs no approval."""

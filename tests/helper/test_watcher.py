@@ -206,23 +206,44 @@ class Watcher(HelperTest):
         time.sleep(2 * 3 + 1)
         self.assertEqual(os.stat(self.note_path).st_mtime_ns, before)
 
-    def test_nothing_is_vouched_for_while_somebody_else_listens_at_tors_ports(self):
+    def is_young(self):
+        return time.time() - os.stat(self.note_path).st_mtime < 1.5  # the program takes this for a sign of life
+
+    def becomes(self, young):
+        deadline = time.monotonic() + 10
+        while self.is_young() != young:
+            self.assertLess(time.monotonic(), deadline, f"young: {young}")
+            time.sleep(0.05)
+
+    def stays_young(self, why):
+        for _ in range(40):
+            self.assertTrue(self.is_young(), why)
+            time.sleep(0.1)
+
+    def end_tor(self):
+        self.machine.shell("pkill -KILL -u _veldmark; while pgrep -u _veldmark; do sleep 0.01; done")
+
+    def listener(self, address, port, uid, ipv6_alone=False, shares=False):
+        """A process that listens there until its input ends."""
         listen = (
-            "import socket, sys; address, port = sys.argv[1], int(sys.argv[2]); families = {'::': socket.AF_INET6}\n"
-            "s = socket.socket(families.get(address, socket.AF_INET), socket.SOCK_DGRAM if port == 293 else socket.SOCK_STREAM)\n"
-            "if address == '::': s.setsockopt(socket.IPPROTO_IPV6, socket.IPV6_V6ONLY, 0)\n"
+            "import socket, sys; address, port, alone, shares = sys.argv[1], *map(int, sys.argv[2:])\n"
+            "s = socket.socket(socket.AF_INET6 if ':' in address else socket.AF_INET, socket.SOCK_DGRAM if port == 293 else socket.SOCK_STREAM)\n"
+            "if ':' in address: s.setsockopt(socket.IPPROTO_IPV6, socket.IPV6_V6ONLY, alone)\n"
+            "s.setsockopt(socket.SOL_SOCKET, socket.SO_REUSEPORT, shares)\n"
             "s.bind((address, port)); port == 293 or s.listen(); print('up', flush=True); sys.stdin.read()"
         )
+        process = self.machine.start(
+            *("/usr/bin/python3", "-c", listen, address, str(port), str(int(ipv6_alone)), str(int(shares))),
+            uid=uid,
+            stdin=subprocess.PIPE,
+            stdout=subprocess.PIPE,
+            text=True,
+        )
+        self.addCleanup(process.kill)
+        self.assertEqual(process.stdout.readline(), "up\n")
+        return process
 
-        def is_young():
-            return time.time() - os.stat(self.note_path).st_mtime < 1.5  # the program takes this for a sign of life
-
-        def becomes(young):
-            deadline = time.monotonic() + 10
-            while is_young() != young:
-                self.assertLess(time.monotonic(), deadline, f"young: {young}")
-                time.sleep(0.05)
-
+    def test_nothing_is_vouched_for_while_somebody_else_listens_at_tors_ports(self):
         # A listener of Tor's account is no proof: it must be this session's Tor.
         tor = int(self.machine.shell("id -u _veldmark"))
         for address, port, uid in (
@@ -231,33 +252,36 @@ class Watcher(HelperTest):
             ("127.0.0.1", 293, 0),
             ("::", 9050, namespace.OTHER_UID),
             ("::", 9051, tor),
+            ("::ffff:127.0.0.1", 9050, namespace.OTHER_UID),
         ):
             with self.subTest(address=address, port=port):
-                self.machine.shell("pkill -KILL -u _veldmark; while pgrep -u _veldmark; do sleep 0.01; done")
-                for _ in range(40):
-                    self.assertTrue(is_young(), "without a listener no program is in Tor's place")
-                    time.sleep(0.1)
-                process = self.machine.start(
-                    "/usr/bin/python3",
-                    "-c",
-                    listen,
-                    address,
-                    str(port),
-                    uid=uid,
-                    stdin=subprocess.PIPE,
-                    stdout=subprocess.PIPE,
-                    text=True,
-                )
-                self.addCleanup(process.kill)
-                self.assertEqual(process.stdout.readline(), "up\n")
-                becomes(young=False)
+                self.end_tor()
+                self.stays_young("without a listener no program is in Tor's place")
+                process = self.listener(address, port, uid)
+                self.becomes(young=False)
                 process.communicate()
-                becomes(young=True)
+                self.becomes(young=True)
                 self.assertEqual(self.note(), "standing 0")
                 self.machine.connect()
-                for _ in range(40):
-                    self.assertTrue(is_young(), "Tor of a session that was begun again")
-                    time.sleep(0.1)
+                self.stays_young("Tor of a session that was begun again")
+
+    def test_who_takes_no_ipv4_connection_is_not_in_tors_place(self):
+        """Unlike one beside it that does."""
+        self.end_tor()
+        alone = [self.listener("::", port, namespace.OTHER_UID, ipv6_alone=True, shares=True) for port in (9050, 9051)]
+        self.stays_young("nobody answers at 127.0.0.1")
+        both = self.listener("::", 9051, namespace.OTHER_UID, shares=True)
+        self.becomes(young=False)
+        both.communicate()
+        self.becomes(young=True)
+        self.machine.shell("mount --bind /bin/false /usr/bin/ss")
+        try:
+            self.becomes(young=False)  # which of them it is nobody can tell
+        finally:
+            self.machine.shell("umount /usr/bin/ss")
+        self.becomes(young=True)
+        for process in alone:
+            process.communicate()
 
     def test_the_note_is_there_when_the_helper_has_ended(self):
         """The application reads the note then, perhaps before the watcher's first look."""

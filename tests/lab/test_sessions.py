@@ -3,6 +3,11 @@
     test_sessions.py [unittest arguments]
 """
 
+import contextlib
+import hashlib
+import os
+import pty
+import select
 import signal
 import subprocess
 import sys
@@ -105,6 +110,34 @@ class Sessions(LabCase):
             session.wait_phase("disconnected")  # and alice's own sees it
             self.assertEqual(session.interrupt(), 0)
 
+    @contextlib.contextmanager
+    def sudo_at_a_terminal(self, *words):
+        """alice's sudo of these words at a terminal of its own; gives the process and the terminal's other end."""
+        terminal, inner = pty.openpty()
+        process = self.lab.host.popen(
+            ["setsid", "--ctty", "--wait", "sudo", "-n", self.root.ctl, *words],
+            user="alice",
+            stdin=inner,
+            stdout=inner,
+            stderr=inner,
+        )
+        os.close(inner)
+        try:
+            yield process, terminal
+        finally:
+            os.close(terminal)
+            process.terminate()
+            process.wait(30)
+
+    def shown_until(self, terminal, words=None) -> str:
+        """What the terminal shows up to these words, or up to the end of what runs there."""
+        shown = ""
+        with contextlib.suppress(OSError if words is None else ()):  # Linux reports this way that the other end is closed
+            while words is None or words not in shown:
+                self.assertTrue(select.select([terminal], [], [], 60)[0], shown)
+                shown += os.read(terminal, 4096).decode()
+        return shown
+
     def test_sudo_where_no_password_can_be_asked_for(self):
         """alice has her own right to sudo. The program's message names this way."""
         self.lab.host.run(
@@ -123,13 +156,33 @@ class Sessions(LabCase):
             return self.lab.host.run(["sudo", "-n", self.root.ctl, *words], user="alice")
 
         self.assertEqual(sudo("set", "customTorPath", "/home/alice/tor").returncode, 0)
-        with self.lab.host.popen(
-            ["sudo", "-n", self.root.ctl, "run", "--connect"],
-            user="alice",
-            stdin=subprocess.DEVNULL,
-            stdout=subprocess.DEVNULL,
-            stderr=subprocess.DEVNULL,
-        ) as running:
+        # Not a program of the system's: whoever types sudo's password sees what it is given for, and is asked.
+        without = self.lab.host.run(["setsid", "--wait", "sudo", "-n", self.root.ctl, "run", "--connect"], user="alice", timeout=60)
+        self.assertEqual(without.returncode, 1)
+        self.assertIn(
+            "/home/alice/tor is not a program of the system, so somebody has to approve it, and there is no", without.stderr
+        )
+        digest = hashlib.sha256(self.lab.host.path("/home/alice/tor").read_bytes()).hexdigest()
+        for typed, status, words in ((b"no\n", 1, "/home/alice/tor was not approved."), (b"\x03", 0, "")):
+            with self.subTest(typed=typed), self.sudo_at_a_terminal("run", "--connect") as (running, terminal):
+                shown = self.shown_until(terminal, "> ")
+                self.assertIn(
+                    f"/home/alice/tor as a part of Tor. No package of the system installed it. Its SHA-256 is {digest}.", shown
+                )
+                os.write(terminal, typed)
+                self.assertIn(words, self.shown_until(terminal))
+                self.assertEqual(running.wait(30), status)
+        with self.sudo_at_a_terminal("run", "--connect") as (running, terminal):
+            self.shown_until(terminal, "> ")
+            self.lab.host.run(["sh", "-c", "echo >>/home/alice/tor"], check=True)
+            os.write(terminal, b"yes\n")
+            self.assertIn("The SHA-256 of the program /home/alice/tor is not the one to approve.", self.shown_until(terminal))
+            self.assertEqual(running.wait(30), 1)
+        self.assertFalse(self.lab.host.path(MARKER).exists())
+        self.assertEqual(self.lab.host.run(["find", "/var/lib/veldmark/programs", "-type", "f"]).stdout, "")
+        with self.sudo_at_a_terminal("run", "--connect") as (running, terminal):
+            self.shown_until(terminal, "> ")
+            os.write(terminal, b"yes\n")
             self.root.wait_state(is_probed)
             program = self.lab.host.run(["/bin/sh", "-c", "readlink /proc/$(pgrep -u _veldmark | head -1)/exe"]).stdout
             self.assertRegex(program, r"^/var/lib/veldmark/programs/")

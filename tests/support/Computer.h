@@ -2,6 +2,7 @@
 
 #include "platform/PlatformProfile.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -11,7 +12,7 @@ namespace veldmark {
 
 // A computer below a temporary folder whose helper, sudo, pkexec and tor are scripts, for tests of
 // the real program with real processes. The helper records its verbs, writes and removes the
-// session marker, and fails on request; it changes nothing else.
+// session marker, and fails on request; it changes nothing else. Its tor has been approved.
 struct Computer {
     QTemporaryDir folder;
     const PlatformProfile profile = PlatformProfile::linux(Places::below(folder.path()));
@@ -19,9 +20,13 @@ struct Computer {
     Computer()
     {
         write(profile.helperCandidates.constFirst(), helperText(), true);
-        write(profile.torCandidates.constFirst(),
-              "#!/bin/sh\necho 16:0123456789ABCDEF0123456789ABCDEF0123456789ABCDEF0123456789\n",
-              true);
+        const QByteArray tor
+            = "#!/bin/sh\necho 16:0123456789ABCDEF0123456789ABCDEF0123456789ABCDEF0123456789\n";
+        write(profile.torCandidates.constFirst(), tor, true);
+        write(profile.approvedPrograms + u'/'
+                  + QLatin1String(QCryptographicHash::hash(tor, QCryptographicHash::Sha256).toHex())
+                  + QStringLiteral("/tor"),
+              tor, true);
         write(profile.sudo, "#!/bin/sh\nshift\nexec /bin/bash \"$@\"\n", true);
         write(profile.promptProgram, "#!/bin/sh\nexec /bin/bash \"$@\"\n", true);
         QDir().mkpath(profile.places.home);

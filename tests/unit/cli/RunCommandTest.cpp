@@ -4,6 +4,7 @@
 #include "support/Interruption.h"
 #include "support/TestProgram.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -32,7 +33,10 @@ struct Computer {
     Computer()
     {
         const QByteArray marker = QFile::encodeName(profile.sessionMarker);
-        write(profile.torCandidates.constFirst(), "#!/bin/sh\necho 16:0123456789ABCDEF\n");
+        const QByteArray tor = "#!/bin/sh\necho 16:0123456789ABCDEF\n";
+        write(profile.torCandidates.constFirst(), tor);
+        const QByteArray digest = QCryptographicHash::hash(tor, QCryptographicHash::Sha256).toHex();
+        write(profile.approvedPrograms + u'/' + QLatin1String(digest) + u"/tor"_s, tor);
         write(profile.helperCandidates.constFirst(),
               "#!/bin/bash\ncase $1 in\nconnect) mkdir -p '"
                   + QFile::encodeName(QFileInfo(profile.sessionMarker).path())

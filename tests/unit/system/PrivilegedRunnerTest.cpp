@@ -355,6 +355,57 @@ private Q_SLOTS:
         QCOMPARE(run(runner, verb).error().description(), QStringLiteral("broken"));
     }
 
+    // Nobody else says what sudo's password is given for.
+    void rootIsAskedBeforeAProgramIsApproved()
+    {
+        using Answer = PrivilegedRunner::Answer;
+        const QString path = QStringLiteral("/home/alice/a\x1b[2Kto\u202er");
+        const QString shown = QStringLiteral("/home/alice/a\\u{1b}[2Kto\\u{202e}r");
+        const QStringList words = {
+            QStringLiteral("approve"), QStringLiteral("--program"), path,
+            QStringLiteral("--as"),    QStringLiteral("tor"),       QStringLiteral("--sha256"),
+            QStringLiteral("abcd")};
+        StandIns system(true);
+        system.helper("exit 0");
+        system.dialog("exit 0");
+        QStringList questions;
+        Answer answer = Answer::no;
+        const auto question = [&](const Text &text) -> QCoro::Task<Answer> {
+            questions += text.english();
+            co_return answer;
+        };
+
+        PrivilegedRunner root = system.runner(0);
+        const auto unasked = QCoro::waitFor(root.runWithPrompt(words));
+        QCOMPARE(unasked.error().kind(), Kind::Failed);
+        QVERIFY(unasked.error().description().english().startsWith(
+            shown + QStringLiteral(" is not a program of the system")));
+        root.askWith(question);
+        QCOMPARE(QCoro::waitFor(root.runWithPrompt(words)).error().description().english(),
+                 shown + QStringLiteral(" was not approved."));
+        answer = Answer::nobodyThere;
+        QCOMPARE(QCoro::waitFor(root.runWithPrompt(words)).error().description(),
+                 unasked.error().description());
+        QVERIFY(!system.argumentsOf(system.helperPath())); // it never ran
+        QCOMPARE(questions.size(), 2);
+        QCOMPARE(
+            questions.constFirst(),
+            QStringLiteral(
+                "Veldmark wants to run %1 as a part of Tor. No package of the system installed it. Its SHA-256 is abcd.")
+                .arg(shown));
+
+        answer = Answer::yes;
+        QVERIFY(QCoro::waitFor(root.runWithPrompt(words)));
+        QCOMPARE(system.argumentsOf(system.helperPath()).value(), words);
+        QCOMPARE(questions.size(), 3);
+        answer = Answer::no;
+        QVERIFY(run(root, verb)); // nothing to ask
+        PrivilegedRunner user = system.runner();
+        user.askWith(question);
+        QVERIFY(QCoro::waitFor(user.runWithPrompt(words))); // the dialog asks
+        QCOMPARE(questions.size(), 3);
+    }
+
     void aProgramThatCannotStartIsTheSystemsError_data() { bothSystems_data(); }
     void aProgramThatCannotStartIsTheSystemsError()
     {
