@@ -60,7 +60,8 @@ private Q_SLOTS:
         QTest::addColumn<bool>("dark");
         for (const char *file :
              {"main/MainWindow.qml", "main/QuitDialog.qml", "circuits/CircuitsWindow.qml",
-              "log/LogWindow.qml", "settings/SettingsWindow.qml", "chooser/ChooserWindow.qml"})
+              "log/LogWindow.qml", "settings/SettingsWindow.qml", "chooser/ChooserWindow.qml",
+              "report/ReportWindow.qml"})
             for (const bool dark : {false, true})
                 QTest::addRow("%s %s", file, dark ? "dark" : "light")
                     << QString::fromLatin1(file) << dark;
@@ -75,6 +76,7 @@ private Q_SLOTS:
         snapshot.torPath = QStringLiteral("/usr/bin/tor");
         if (file != QLatin1String("main/MainWindow.qml"))
             snapshot = Scenes::protectedSession();
+        snapshot.report = Scenes::report();
         stage.session.show(snapshot);
         stage.log.show(LogFeed::State::lines, Scenes::log(20));
         QVariantMap properties = panel(stage);
@@ -84,6 +86,8 @@ private Q_SLOTS:
             properties = with(&stage.lines);
         else if (file.startsWith(QLatin1String("settings")))
             properties = with(&stage.settings);
+        else if (file.startsWith(QLatin1String("report")))
+            properties = with(&stage.report);
         else if (file.startsWith(QLatin1String("chooser")))
             properties = with(&stage.choices);
         else if (file.endsWith(QLatin1String("QuitDialog.qml")))
@@ -126,7 +130,7 @@ private Q_SLOTS:
         for (const char *file :
              {"main/MainWindow.qml", "main/PanelPopup.qml", "main/QuitDialog.qml",
               "circuits/CircuitsWindow.qml", "log/LogWindow.qml", "settings/SettingsWindow.qml",
-              "chooser/ChooserWindow.qml"})
+              "chooser/ChooserWindow.qml", "report/ReportWindow.qml"})
             QTest::newRow(file) << QString::fromLatin1(file);
     }
     void theSameKeysCloseAndQuitInEveryWindow()
@@ -143,6 +147,8 @@ private Q_SLOTS:
                 properties = with(&stage.lines);
             else if (file.startsWith(QLatin1String("settings")))
                 properties = with(&stage.settings);
+            else if (file.startsWith(QLatin1String("report")))
+                properties = with(&stage.report);
             else if (file.startsWith(QLatin1String("chooser")))
                 properties = with(&stage.choices);
             else if (isQuestion)
