@@ -43,17 +43,24 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     const QList<QByteArray> parts = bytesOf(data, size).split('\xff');
     const QString before = QString::fromUtf8(parts.value(0));
     const QString after = QString::fromUtf8(parts.value(1));
-    static const KnownSecrets known{QStringLiteral("/home/alice77"),
+    static const KnownSecrets known{QStringLiteral("/home/owner"),
                                     {},
                                     {QStringLiteral("alice77")},
                                     {secrets()[10].written},
                                     {}};
+    Redactor alone(known);
+    const QString around = alone.redacted(before + u' ' + after);
+    QString all;
+    for (const Secret &secret : secrets())
+        all += before + u' ' + secret.written + u' ' + after + u'\n';
+    Redactor redactor(known);
+    const QString shown = redactor.redacted(all);
     for (const Secret &secret : secrets()) {
-        Redactor redactor(known);
-        const QString shown = redactor.redacted(before + u' ' + secret.written + u' ' + after);
-        REQUIRE(!shown.contains(secret.telling, Qt::CaseInsensitive));
-        for (const QChar c : shown)
-            REQUIRE(!StandIns::isStandIn(c));
+        // The input itself may have it as a part of another word.
+        if (!around.contains(secret.telling, Qt::CaseInsensitive))
+            REQUIRE(!shown.contains(secret.telling, Qt::CaseInsensitive));
     }
+    for (const QChar c : shown)
+        REQUIRE(!StandIns::isStandIn(c));
     return 0;
 }
