@@ -30,7 +30,7 @@ BUILD = os.path.join(HERE, "..", "build", "fuzz")
 HELPER = os.path.join(HERE, "..", "build", "bin", "veldmark-helper.sh")
 
 # Inputs of a short run: a few seconds each on one core. Those that touch files or sockets are slower.
-SHORT_RUNS = {"RequestFuzz": 5000, "SettingsFuzz": 2000, "LogFuzz": 2000, "BridgeLinesFuzz": 10000}
+SHORT_RUNS = {"RequestFuzz": 5000, "SettingsFuzz": 2000, "LogFuzz": 2000, "BridgeLinesFuzz": 10000, "ReportFuzz": 300}
 SHORT_DEFAULT = 20000
 SHORT_HELPER_CASES = 1500
 LARGEST_INPUT_BYTES = 4096

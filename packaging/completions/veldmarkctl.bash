@@ -34,6 +34,13 @@ _veldmarkctl()
                 choices=$(_veldmarkctl_words values "${COMP_WORDS[2]}")
             fi
             ;;
+        report)
+            if [[ ${COMP_WORDS[COMP_CWORD - 1]} == --output ]]; then
+                _veldmarkctl_files "$word"
+                return
+            fi
+            choices=$(_veldmarkctl_words options report)
+            ;;
         *) choices=$(_veldmarkctl_words options "${COMP_WORDS[1]}") ;;
         esac
     fi

@@ -293,6 +293,14 @@
         <source>Look Again</source>
         <translation>فحص جديد</translation>
     </message>
+    <message>
+        <source>Show Report</source>
+        <translation>عرض التقرير</translation>
+    </message>
+    <message>
+        <source>What others need to help you, without addresses, names and bridges</source>
+        <translation>ما يحتاج إليه الآخرون لمساعدتك، دون العناوين والأسماء والجسور</translation>
+    </message>
 </context>
 <context>
     <name>Footer</name>
@@ -666,6 +674,49 @@
     <message>
         <source>Run this in Terminal to do the same thing without Veldmark.</source>
         <translation>نفّذ هذا في الطرفية لفعل الشيء نفسه بدون Veldmark.</translation>
+    </message>
+    <message>
+        <source>Report for others</source>
+        <translation>تقرير للآخرين</translation>
+    </message>
+    <message>
+        <source>What they need to help you, without addresses, names and bridges. You read it first, and nothing sends it.</source>
+        <translation>ما يحتاجون إليه لمساعدتك، دون العناوين والأسماء والجسور. تقرؤه أنت أولًا، ولا شيء يرسله.</translation>
+    </message>
+    <message>
+        <source>Show Report</source>
+        <translation>عرض التقرير</translation>
+    </message>
+</context>
+<context>
+    <name>ReportWindow</name>
+    <message>
+        <source>Report</source>
+        <translation>التقرير</translation>
+    </message>
+    <message>
+        <source>For those who help you. Addresses, names, bridges, keys and paths in your home are replaced. Look through it before you give it away: Veldmark sends it to nobody.</source>
+        <translation>لمن يساعدونك. استُبدلت العناوين والأسماء والجسور والمفاتيح والمسارات داخل مجلدك الشخصي. راجعه قبل أن تعطيه لأحد: لا يرسله Veldmark إلى أحد.</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>حفظ…</translation>
+    </message>
+    <message>
+        <source>Save the report in a file that only you can read</source>
+        <translation>حفظ التقرير في ملف لا يقرؤه سواك</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>نسخ</translation>
+    </message>
+    <message>
+        <source>Copy the whole report</source>
+        <translation>نسخ التقرير كله</translation>
+    </message>
+    <message>
+        <source>Looking at this computer…</source>
+        <translation>جارٍ فحص هذا الحاسوب…</translation>
     </message>
 </context>
 <context>
@@ -1273,6 +1324,13 @@
     <message>
         <source>%1 more</source>
         <translation>%1 غيرها</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::ReportModel</name>
+    <message>
+        <source>Saved in %1</source>
+        <translation>حُفظ في %1</translation>
     </message>
 </context>
 <context>
@@ -3751,6 +3809,45 @@ name in the same session has the same ones</source>
         <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
         <translation>⁨%1⁩ ليس من برامج النظام، ولذلك تلزم الموافقة عليه، ولا توجد طرفية للسؤال فيها. شغّل «⁨sudo veldmarkctl run --connect⁩» في طرفية.</translation>
     </message>
+    <message>
+        <source>%1 needs the name of a file.</source>
+        <translation>يحتاج %1 إلى اسم ملف.</translation>
+    </message>
+    <message>
+        <source>It doesn&apos;t answer.</source>
+        <translation>إنها لا تجيب.</translation>
+    </message>
+    <message>
+        <source>This report goes to %1.</source>
+        <translation>يُكتب هذا التقرير في %1.</translation>
+    </message>
+    <message>
+        <source>write it into a new file too</source>
+        <translation>كتابته في ملف جديد أيضًا</translation>
+    </message>
+    <message>
+        <source>The report can&apos;t be written to %1: %2</source>
+        <translation>تتعذر كتابة التقرير في %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 isn&apos;t a regular file. Choose another name for the report.</source>
+        <translation>%1 ليس ملفًا عاديًا. اختر اسمًا آخر للتقرير.</translation>
+    </message>
+    <message>
+        <source>%1 exists already. Choose another name for the report.</source>
+        <translation>%1 موجود بالفعل. اختر اسمًا آخر للتقرير.</translation>
+    </message>
+    <message>
+        <source>The running instance gave no state: %1</source>
+        <translation>لم تعطِ النسخة العاملة حالتها: %1</translation>
+    </message>
+    <message>
+        <source>a report for those who help you: settings, findings and log without addresses,
+names, bridges and keys. Nothing sends it. Look through it before you give it
+away</source>
+        <translation>تقرير لمن يساعدونك: الإعدادات والنتائج والسجل دون العناوين والأسماء
+والجسور والمفاتيح. لا شيء يرسله. راجعه قبل أن تعطيه لأحد</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>
@@ -3776,6 +3873,10 @@ name in the same session has the same ones</source>
     <message>
         <source>Applications</source>
         <translation>التطبيقات</translation>
+    </message>
+    <message>
+        <source>Save the report</source>
+        <translation>حفظ التقرير</translation>
     </message>
 </context>
 </TS>

@@ -293,6 +293,14 @@
         <source>Look Again</source>
         <translation>Erneut nachsehen</translation>
     </message>
+    <message>
+        <source>Show Report</source>
+        <translation>Bericht zeigen</translation>
+    </message>
+    <message>
+        <source>What others need to help you, without addresses, names and bridges</source>
+        <translation>Was andere brauchen, um Ihnen zu helfen, ohne Adressen, Namen und Brücken</translation>
+    </message>
 </context>
 <context>
     <name>Footer</name>
@@ -666,6 +674,49 @@
     <message>
         <source>Run this in Terminal to do the same thing without Veldmark.</source>
         <translation>Führen Sie dies im Terminal aus, um dasselbe ohne Veldmark zu tun.</translation>
+    </message>
+    <message>
+        <source>Report for others</source>
+        <translation>Bericht für andere</translation>
+    </message>
+    <message>
+        <source>What they need to help you, without addresses, names and bridges. You read it first, and nothing sends it.</source>
+        <translation>Was sie brauchen, um Ihnen zu helfen, ohne Adressen, Namen und Brücken. Sie lesen ihn zuerst, und nichts versendet ihn.</translation>
+    </message>
+    <message>
+        <source>Show Report</source>
+        <translation>Bericht zeigen</translation>
+    </message>
+</context>
+<context>
+    <name>ReportWindow</name>
+    <message>
+        <source>Report</source>
+        <translation>Bericht</translation>
+    </message>
+    <message>
+        <source>For those who help you. Addresses, names, bridges, keys and paths in your home are replaced. Look through it before you give it away: Veldmark sends it to nobody.</source>
+        <translation>Für alle, die Ihnen helfen. Adressen, Namen, Brücken, Schlüssel und Pfade in Ihrem persönlichen Ordner sind ersetzt. Sehen Sie ihn durch, bevor Sie ihn weitergeben: Veldmark sendet ihn an niemanden.</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>Speichern…</translation>
+    </message>
+    <message>
+        <source>Save the report in a file that only you can read</source>
+        <translation>Den Bericht in einer Datei speichern, die nur Sie lesen können</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the whole report</source>
+        <translation>Den ganzen Bericht kopieren</translation>
+    </message>
+    <message>
+        <source>Looking at this computer…</source>
+        <translation>Dieser Computer wird untersucht…</translation>
     </message>
 </context>
 <context>
@@ -1273,6 +1324,13 @@
     <message>
         <source>%1 more</source>
         <translation>%1 weitere</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::ReportModel</name>
+    <message>
+        <source>Saved in %1</source>
+        <translation>Gespeichert in %1</translation>
     </message>
 </context>
 <context>
@@ -3751,6 +3809,46 @@ hat es in derselben Sitzung später dieselben</translation>
         <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
         <translation>%1 ist kein Programm des Systems und muss zugelassen werden, aber es gibt kein Terminal, in dem danach gefragt werden kann. Führen Sie „sudo veldmarkctl run --connect“ in einem Terminal aus.</translation>
     </message>
+    <message>
+        <source>%1 needs the name of a file.</source>
+        <translation>%1 braucht den Namen einer Datei.</translation>
+    </message>
+    <message>
+        <source>It doesn&apos;t answer.</source>
+        <translation>Sie antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>This report goes to %1.</source>
+        <translation>Dieser Bericht kommt nach %1.</translation>
+    </message>
+    <message>
+        <source>write it into a new file too</source>
+        <translation>ihn auch in eine neue Datei schreiben</translation>
+    </message>
+    <message>
+        <source>The report can&apos;t be written to %1: %2</source>
+        <translation>Der Bericht kann nicht nach %1 geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>%1 isn&apos;t a regular file. Choose another name for the report.</source>
+        <translation>%1 ist keine gewöhnliche Datei. Wählen Sie einen anderen Namen für den Bericht.</translation>
+    </message>
+    <message>
+        <source>%1 exists already. Choose another name for the report.</source>
+        <translation>%1 gibt es schon. Wählen Sie einen anderen Namen für den Bericht.</translation>
+    </message>
+    <message>
+        <source>The running instance gave no state: %1</source>
+        <translation>Die laufende Instanz hat keinen Zustand mitgeteilt: %1</translation>
+    </message>
+    <message>
+        <source>a report for those who help you: settings, findings and log without addresses,
+names, bridges and keys. Nothing sends it. Look through it before you give it
+away</source>
+        <translation>ein Bericht für alle, die Ihnen helfen: Einstellungen, Befunde und Protokoll
+ohne Adressen, Namen, Brücken und Schlüssel. Nichts versendet ihn. Sehen Sie
+ihn durch, bevor Sie ihn weitergeben</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>
@@ -3776,6 +3874,10 @@ hat es in derselben Sitzung später dieselben</translation>
     <message>
         <source>Applications</source>
         <translation>Apps</translation>
+    </message>
+    <message>
+        <source>Save the report</source>
+        <translation>Bericht speichern</translation>
     </message>
 </context>
 </TS>

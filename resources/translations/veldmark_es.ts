@@ -293,6 +293,14 @@
         <source>Look Again</source>
         <translation>Examinar de nuevo</translation>
     </message>
+    <message>
+        <source>Show Report</source>
+        <translation>Mostrar el informe</translation>
+    </message>
+    <message>
+        <source>What others need to help you, without addresses, names and bridges</source>
+        <translation>Lo que otros necesitan para ayudarle, sin direcciones, nombres ni puentes</translation>
+    </message>
 </context>
 <context>
     <name>Footer</name>
@@ -666,6 +674,49 @@
     <message>
         <source>Run this in Terminal to do the same thing without Veldmark.</source>
         <translation>Ejecute esto en un terminal para hacer lo mismo sin Veldmark.</translation>
+    </message>
+    <message>
+        <source>Report for others</source>
+        <translation>Informe para otros</translation>
+    </message>
+    <message>
+        <source>What they need to help you, without addresses, names and bridges. You read it first, and nothing sends it.</source>
+        <translation>Lo que necesitan para ayudarle, sin direcciones, nombres ni puentes. Usted lo lee primero y nada lo envía.</translation>
+    </message>
+    <message>
+        <source>Show Report</source>
+        <translation>Mostrar el informe</translation>
+    </message>
+</context>
+<context>
+    <name>ReportWindow</name>
+    <message>
+        <source>Report</source>
+        <translation>Informe</translation>
+    </message>
+    <message>
+        <source>For those who help you. Addresses, names, bridges, keys and paths in your home are replaced. Look through it before you give it away: Veldmark sends it to nobody.</source>
+        <translation>Para quienes le ayudan. Las direcciones, los nombres, los puentes, las claves y las rutas de su carpeta personal están sustituidos. Revíselo antes de entregarlo: Veldmark no lo envía a nadie.</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>Guardar…</translation>
+    </message>
+    <message>
+        <source>Save the report in a file that only you can read</source>
+        <translation>Guardar el informe en un archivo que solo usted puede leer</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Copy the whole report</source>
+        <translation>Copiar el informe completo</translation>
+    </message>
+    <message>
+        <source>Looking at this computer…</source>
+        <translation>Examinando este equipo…</translation>
     </message>
 </context>
 <context>
@@ -1273,6 +1324,13 @@
     <message>
         <source>%1 more</source>
         <translation>%1 más</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::ReportModel</name>
+    <message>
+        <source>Saved in %1</source>
+        <translation>Guardado en %1</translation>
     </message>
 </context>
 <context>
@@ -3751,6 +3809,46 @@ el mismo nombre en la misma sesión, tiene los mismos</translation>
         <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
         <translation>%1 no es un programa del sistema y alguien tiene que aprobarlo, pero no hay ningún terminal donde preguntarlo. Ejecute «sudo veldmarkctl run --connect» en un terminal.</translation>
     </message>
+    <message>
+        <source>%1 needs the name of a file.</source>
+        <translation>%1 necesita el nombre de un archivo.</translation>
+    </message>
+    <message>
+        <source>It doesn&apos;t answer.</source>
+        <translation>No responde.</translation>
+    </message>
+    <message>
+        <source>This report goes to %1.</source>
+        <translation>Este informe se escribe en %1.</translation>
+    </message>
+    <message>
+        <source>write it into a new file too</source>
+        <translation>escribirlo también en un archivo nuevo</translation>
+    </message>
+    <message>
+        <source>The report can&apos;t be written to %1: %2</source>
+        <translation>No se puede escribir el informe en %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 isn&apos;t a regular file. Choose another name for the report.</source>
+        <translation>%1 no es un archivo normal. Elija otro nombre para el informe.</translation>
+    </message>
+    <message>
+        <source>%1 exists already. Choose another name for the report.</source>
+        <translation>%1 ya existe. Elija otro nombre para el informe.</translation>
+    </message>
+    <message>
+        <source>The running instance gave no state: %1</source>
+        <translation>La instancia en ejecución no dio su estado: %1</translation>
+    </message>
+    <message>
+        <source>a report for those who help you: settings, findings and log without addresses,
+names, bridges and keys. Nothing sends it. Look through it before you give it
+away</source>
+        <translation>un informe para quienes le ayudan: ajustes, hallazgos y registro sin
+direcciones, nombres, puentes ni claves. Nada lo envía. Revíselo antes de
+entregarlo</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>
@@ -3776,6 +3874,10 @@ el mismo nombre en la misma sesión, tiene los mismos</translation>
     <message>
         <source>Applications</source>
         <translation>Aplicaciones</translation>
+    </message>
+    <message>
+        <source>Save the report</source>
+        <translation>Guardar el informe</translation>
     </message>
 </context>
 </TS>

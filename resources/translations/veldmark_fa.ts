@@ -293,6 +293,14 @@
         <source>Look Again</source>
         <translation>بررسی دوباره</translation>
     </message>
+    <message>
+        <source>Show Report</source>
+        <translation>نمایش گزارش عیب‌یابی</translation>
+    </message>
+    <message>
+        <source>What others need to help you, without addresses, names and bridges</source>
+        <translation>آنچه دیگران برای کمک به شما لازم دارند، بدون نشانی‌ها، نام‌ها و پل‌ها</translation>
+    </message>
 </context>
 <context>
     <name>Footer</name>
@@ -666,6 +674,49 @@
     <message>
         <source>Run this in Terminal to do the same thing without Veldmark.</source>
         <translation>این را در پایانه اجرا کنید تا همین کار بدون Veldmark انجام شود.</translation>
+    </message>
+    <message>
+        <source>Report for others</source>
+        <translation>گزارش عیب‌یابی برای دیگران</translation>
+    </message>
+    <message>
+        <source>What they need to help you, without addresses, names and bridges. You read it first, and nothing sends it.</source>
+        <translation>آنچه برای کمک به شما لازم دارند، بدون نشانی‌ها، نام‌ها و پل‌ها. نخست خودتان آن را می‌خوانید و هیچ چیزی آن را نمی‌فرستد.</translation>
+    </message>
+    <message>
+        <source>Show Report</source>
+        <translation>نمایش گزارش عیب‌یابی</translation>
+    </message>
+</context>
+<context>
+    <name>ReportWindow</name>
+    <message>
+        <source>Report</source>
+        <translation>گزارش عیب‌یابی</translation>
+    </message>
+    <message>
+        <source>For those who help you. Addresses, names, bridges, keys and paths in your home are replaced. Look through it before you give it away: Veldmark sends it to nobody.</source>
+        <translation>برای کسانی که به شما کمک می‌کنند. نشانی‌ها، نام‌ها، پل‌ها، کلیدها و مسیرهای پوشهٔ خانگی شما جایگزین شده‌اند. پیش از آنکه آن را به کسی بدهید مرورش کنید: Veldmark آن را برای هیچ کس نمی‌فرستد.</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>ذخیره…</translation>
+    </message>
+    <message>
+        <source>Save the report in a file that only you can read</source>
+        <translation>ذخیرهٔ گزارش در پرونده‌ای که فقط شما می‌توانید بخوانید</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>کپی</translation>
+    </message>
+    <message>
+        <source>Copy the whole report</source>
+        <translation>کپی کردن همهٔ گزارش</translation>
+    </message>
+    <message>
+        <source>Looking at this computer…</source>
+        <translation>بررسی این رایانه…</translation>
     </message>
 </context>
 <context>
@@ -1273,6 +1324,13 @@
     <message>
         <source>%1 more</source>
         <translation>%1 مورد دیگر</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::ReportModel</name>
+    <message>
+        <source>Saved in %1</source>
+        <translation>در %1 ذخیره شد</translation>
     </message>
 </context>
 <context>
@@ -3751,6 +3809,46 @@ name in the same session has the same ones</source>
         <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
         <translation>⁨%1⁩ برنامهٔ سیستم نیست و کسی باید آن را تأیید کند، اما پایانه‌ای برای پرسیدن نیست. «⁨sudo veldmarkctl run --connect⁩» را در یک پایانه اجرا کنید.</translation>
     </message>
+    <message>
+        <source>%1 needs the name of a file.</source>
+        <translation>گزینهٔ %1 نام یک پرونده را لازم دارد.</translation>
+    </message>
+    <message>
+        <source>It doesn&apos;t answer.</source>
+        <translation>پاسخ نمی‌دهد.</translation>
+    </message>
+    <message>
+        <source>This report goes to %1.</source>
+        <translation>این گزارش در %1 نوشته می‌شود.</translation>
+    </message>
+    <message>
+        <source>write it into a new file too</source>
+        <translation>نوشتن آن در یک پروندهٔ تازه نیز</translation>
+    </message>
+    <message>
+        <source>The report can&apos;t be written to %1: %2</source>
+        <translation>گزارش را نمی‌توان در %1 نوشت: %2</translation>
+    </message>
+    <message>
+        <source>%1 isn&apos;t a regular file. Choose another name for the report.</source>
+        <translation>%1 یک پروندهٔ معمولی نیست. نام دیگری برای گزارش برگزینید.</translation>
+    </message>
+    <message>
+        <source>%1 exists already. Choose another name for the report.</source>
+        <translation>%1 از پیش وجود دارد. نام دیگری برای گزارش برگزینید.</translation>
+    </message>
+    <message>
+        <source>The running instance gave no state: %1</source>
+        <translation>نمونهٔ در حال اجرا وضعیت خود را نداد: %1</translation>
+    </message>
+    <message>
+        <source>a report for those who help you: settings, findings and log without addresses,
+names, bridges and keys. Nothing sends it. Look through it before you give it
+away</source>
+        <translation>گزارشی برای کسانی که به شما کمک می‌کنند: تنظیمات، یافته‌ها و گزارش Tor بدون
+نشانی‌ها، نام‌ها، پل‌ها و کلیدها. هیچ چیزی آن را نمی‌فرستد. پیش از آنکه آن را
+به کسی بدهید مرورش کنید</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>
@@ -3776,6 +3874,10 @@ name in the same session has the same ones</source>
     <message>
         <source>Applications</source>
         <translation>برنامه‌ها</translation>
+    </message>
+    <message>
+        <source>Save the report</source>
+        <translation>ذخیرهٔ گزارش</translation>
     </message>
 </context>
 </TS>

@@ -293,6 +293,14 @@
         <source>Look Again</source>
         <translation>Réexaminer</translation>
     </message>
+    <message>
+        <source>Show Report</source>
+        <translation>Afficher le rapport</translation>
+    </message>
+    <message>
+        <source>What others need to help you, without addresses, names and bridges</source>
+        <translation>Ce dont les autres ont besoin pour vous aider, sans adresses, noms ni ponts</translation>
+    </message>
 </context>
 <context>
     <name>Footer</name>
@@ -666,6 +674,49 @@
     <message>
         <source>Run this in Terminal to do the same thing without Veldmark.</source>
         <translation>Exécutez ceci dans un terminal pour faire la même chose sans Veldmark.</translation>
+    </message>
+    <message>
+        <source>Report for others</source>
+        <translation>Rapport pour les autres</translation>
+    </message>
+    <message>
+        <source>What they need to help you, without addresses, names and bridges. You read it first, and nothing sends it.</source>
+        <translation>Ce dont ils ont besoin pour vous aider, sans adresses, noms ni ponts. Vous le lisez d’abord, et rien ne l’envoie.</translation>
+    </message>
+    <message>
+        <source>Show Report</source>
+        <translation>Afficher le rapport</translation>
+    </message>
+</context>
+<context>
+    <name>ReportWindow</name>
+    <message>
+        <source>Report</source>
+        <translation>Rapport</translation>
+    </message>
+    <message>
+        <source>For those who help you. Addresses, names, bridges, keys and paths in your home are replaced. Look through it before you give it away: Veldmark sends it to nobody.</source>
+        <translation>Pour ceux qui vous aident. Les adresses, noms, ponts, clés et chemins de votre dossier personnel sont remplacés. Parcourez-le avant de le donner : Veldmark ne l’envoie à personne.</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>Enregistrer…</translation>
+    </message>
+    <message>
+        <source>Save the report in a file that only you can read</source>
+        <translation>Enregistrer le rapport dans un fichier que vous seul pouvez lire</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Copy the whole report</source>
+        <translation>Copier tout le rapport</translation>
+    </message>
+    <message>
+        <source>Looking at this computer…</source>
+        <translation>Examen de cet ordinateur…</translation>
     </message>
 </context>
 <context>
@@ -1273,6 +1324,13 @@
     <message>
         <source>%1 more</source>
         <translation>%1 de plus</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::ReportModel</name>
+    <message>
+        <source>Saved in %1</source>
+        <translation>Enregistré dans %1</translation>
     </message>
 </context>
 <context>
@@ -3751,6 +3809,46 @@ le même nom dans la même session donne les mêmes circuits</translation>
         <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
         <translation>%1 n’est pas un programme du système ; quelqu’un doit donc l’approuver, et il n’y a pas de terminal où le demander. Exécutez « sudo veldmarkctl run --connect » dans un terminal.</translation>
     </message>
+    <message>
+        <source>%1 needs the name of a file.</source>
+        <translation>%1 nécessite le nom d’un fichier.</translation>
+    </message>
+    <message>
+        <source>It doesn&apos;t answer.</source>
+        <translation>Elle ne répond pas.</translation>
+    </message>
+    <message>
+        <source>This report goes to %1.</source>
+        <translation>Ce rapport va dans %1.</translation>
+    </message>
+    <message>
+        <source>write it into a new file too</source>
+        <translation>l’écrire aussi dans un nouveau fichier</translation>
+    </message>
+    <message>
+        <source>The report can&apos;t be written to %1: %2</source>
+        <translation>Le rapport ne peut pas être écrit dans %1 : %2</translation>
+    </message>
+    <message>
+        <source>%1 isn&apos;t a regular file. Choose another name for the report.</source>
+        <translation>%1 n’est pas un fichier ordinaire. Choisissez un autre nom pour le rapport.</translation>
+    </message>
+    <message>
+        <source>%1 exists already. Choose another name for the report.</source>
+        <translation>%1 existe déjà. Choisissez un autre nom pour le rapport.</translation>
+    </message>
+    <message>
+        <source>The running instance gave no state: %1</source>
+        <translation>L’instance en cours n’a pas donné son état : %1</translation>
+    </message>
+    <message>
+        <source>a report for those who help you: settings, findings and log without addresses,
+names, bridges and keys. Nothing sends it. Look through it before you give it
+away</source>
+        <translation>un rapport pour ceux qui vous aident : réglages, constats et journal, sans
+adresses, noms, ponts ni clés. Rien ne l’envoie. Parcourez-le avant de le
+donner</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>
@@ -3776,6 +3874,10 @@ le même nom dans la même session donne les mêmes circuits</translation>
     <message>
         <source>Applications</source>
         <translation>Applications</translation>
+    </message>
+    <message>
+        <source>Save the report</source>
+        <translation>Enregistrer le rapport</translation>
     </message>
 </context>
 </TS>

@@ -293,6 +293,14 @@
         <source>Look Again</source>
         <translation>Examinar de novo</translation>
     </message>
+    <message>
+        <source>Show Report</source>
+        <translation>Mostrar relatório</translation>
+    </message>
+    <message>
+        <source>What others need to help you, without addresses, names and bridges</source>
+        <translation>O que outras pessoas precisam para ajudar você, sem endereços, nomes nem pontes</translation>
+    </message>
 </context>
 <context>
     <name>Footer</name>
@@ -666,6 +674,49 @@
     <message>
         <source>Run this in Terminal to do the same thing without Veldmark.</source>
         <translation>Execute isto no terminal para fazer o mesmo sem o Veldmark.</translation>
+    </message>
+    <message>
+        <source>Report for others</source>
+        <translation>Relatório para outras pessoas</translation>
+    </message>
+    <message>
+        <source>What they need to help you, without addresses, names and bridges. You read it first, and nothing sends it.</source>
+        <translation>O que elas precisam para ajudar você, sem endereços, nomes nem pontes. Você o lê primeiro, e nada o envia.</translation>
+    </message>
+    <message>
+        <source>Show Report</source>
+        <translation>Mostrar relatório</translation>
+    </message>
+</context>
+<context>
+    <name>ReportWindow</name>
+    <message>
+        <source>Report</source>
+        <translation>Relatório</translation>
+    </message>
+    <message>
+        <source>For those who help you. Addresses, names, bridges, keys and paths in your home are replaced. Look through it before you give it away: Veldmark sends it to nobody.</source>
+        <translation>Para quem ajuda você. Endereços, nomes, pontes, chaves e caminhos da sua pasta pessoal são substituídos. Revise-o antes de entregá-lo: o Veldmark não o envia a ninguém.</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>Salvar…</translation>
+    </message>
+    <message>
+        <source>Save the report in a file that only you can read</source>
+        <translation>Salvar o relatório em um arquivo que só você pode ler</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Copy the whole report</source>
+        <translation>Copiar o relatório inteiro</translation>
+    </message>
+    <message>
+        <source>Looking at this computer…</source>
+        <translation>Examinando este computador…</translation>
     </message>
 </context>
 <context>
@@ -1273,6 +1324,13 @@
     <message>
         <source>%1 more</source>
         <translation>mais %1</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::ReportModel</name>
+    <message>
+        <source>Saved in %1</source>
+        <translation>Salvo em %1</translation>
     </message>
 </context>
 <context>
@@ -3751,6 +3809,46 @@ o mesmo nome na mesma sessão usa os mesmos circuitos</translation>
         <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
         <translation>%1 não é um programa do sistema, por isso alguém precisa aprová-lo, e não há terminal em que perguntar. Execute &quot;sudo veldmarkctl run --connect&quot; em um terminal.</translation>
     </message>
+    <message>
+        <source>%1 needs the name of a file.</source>
+        <translation>%1 precisa do nome de um arquivo.</translation>
+    </message>
+    <message>
+        <source>It doesn&apos;t answer.</source>
+        <translation>Ela não responde.</translation>
+    </message>
+    <message>
+        <source>This report goes to %1.</source>
+        <translation>Este relatório vai para %1.</translation>
+    </message>
+    <message>
+        <source>write it into a new file too</source>
+        <translation>gravá-lo também em um arquivo novo</translation>
+    </message>
+    <message>
+        <source>The report can&apos;t be written to %1: %2</source>
+        <translation>Não é possível gravar o relatório em %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 isn&apos;t a regular file. Choose another name for the report.</source>
+        <translation>%1 não é um arquivo comum. Escolha outro nome para o relatório.</translation>
+    </message>
+    <message>
+        <source>%1 exists already. Choose another name for the report.</source>
+        <translation>%1 já existe. Escolha outro nome para o relatório.</translation>
+    </message>
+    <message>
+        <source>The running instance gave no state: %1</source>
+        <translation>A instância em execução não informou seu estado: %1</translation>
+    </message>
+    <message>
+        <source>a report for those who help you: settings, findings and log without addresses,
+names, bridges and keys. Nothing sends it. Look through it before you give it
+away</source>
+        <translation>um relatório para quem ajuda você: configurações, constatações e registro sem
+endereços, nomes, pontes nem chaves. Nada o envia. Revise-o antes de
+entregá-lo</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>
@@ -3776,6 +3874,10 @@ o mesmo nome na mesma sessão usa os mesmos circuitos</translation>
     <message>
         <source>Applications</source>
         <translation>Aplicativos</translation>
+    </message>
+    <message>
+        <source>Save the report</source>
+        <translation>Salvar o relatório</translation>
     </message>
 </context>
 </TS>

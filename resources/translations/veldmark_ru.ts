@@ -293,6 +293,14 @@
         <source>Look Again</source>
         <translation>Проверить снова</translation>
     </message>
+    <message>
+        <source>Show Report</source>
+        <translation>Показать отчёт</translation>
+    </message>
+    <message>
+        <source>What others need to help you, without addresses, names and bridges</source>
+        <translation>Всё, что нужно другим, чтобы вам помочь, без адресов, имён и мостов</translation>
+    </message>
 </context>
 <context>
     <name>Footer</name>
@@ -666,6 +674,49 @@
     <message>
         <source>Run this in Terminal to do the same thing without Veldmark.</source>
         <translation>Выполните эту команду в терминале, чтобы сделать то же самое без Veldmark.</translation>
+    </message>
+    <message>
+        <source>Report for others</source>
+        <translation>Отчёт для других</translation>
+    </message>
+    <message>
+        <source>What they need to help you, without addresses, names and bridges. You read it first, and nothing sends it.</source>
+        <translation>Всё, что им нужно, чтобы вам помочь, без адресов, имён и мостов. Сначала его читаете вы, и ничто его не отправляет.</translation>
+    </message>
+    <message>
+        <source>Show Report</source>
+        <translation>Показать отчёт</translation>
+    </message>
+</context>
+<context>
+    <name>ReportWindow</name>
+    <message>
+        <source>Report</source>
+        <translation>Отчёт</translation>
+    </message>
+    <message>
+        <source>For those who help you. Addresses, names, bridges, keys and paths in your home are replaced. Look through it before you give it away: Veldmark sends it to nobody.</source>
+        <translation>Для тех, кто вам помогает. Адреса, имена, мосты, ключи и пути в вашей домашней папке заменены. Просмотрите его, прежде чем передать: Veldmark никому его не отправляет.</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>Сохранить…</translation>
+    </message>
+    <message>
+        <source>Save the report in a file that only you can read</source>
+        <translation>Сохранить отчёт в файл, который можете прочитать только вы</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Копировать</translation>
+    </message>
+    <message>
+        <source>Copy the whole report</source>
+        <translation>Скопировать весь отчёт</translation>
+    </message>
+    <message>
+        <source>Looking at this computer…</source>
+        <translation>Проверка этого компьютера…</translation>
     </message>
 </context>
 <context>
@@ -1273,6 +1324,13 @@
     <message>
         <source>%1 more</source>
         <translation>ещё %1</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::ReportModel</name>
+    <message>
+        <source>Saved in %1</source>
+        <translation>Сохранено в %1</translation>
     </message>
 </context>
 <context>
@@ -3751,6 +3809,46 @@ name in the same session has the same ones</source>
         <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
         <translation>%1 — не программа системы, поэтому её нужно одобрить, а терминала, в котором можно об этом спросить, нет. Выполните «sudo veldmarkctl run --connect» в терминале.</translation>
     </message>
+    <message>
+        <source>%1 needs the name of a file.</source>
+        <translation>Параметру %1 нужно имя файла.</translation>
+    </message>
+    <message>
+        <source>It doesn&apos;t answer.</source>
+        <translation>Он не отвечает.</translation>
+    </message>
+    <message>
+        <source>This report goes to %1.</source>
+        <translation>Этот отчёт записывается в %1.</translation>
+    </message>
+    <message>
+        <source>write it into a new file too</source>
+        <translation>записать его также в новый файл</translation>
+    </message>
+    <message>
+        <source>The report can&apos;t be written to %1: %2</source>
+        <translation>Не удаётся записать отчёт в %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 isn&apos;t a regular file. Choose another name for the report.</source>
+        <translation>%1 — не обычный файл. Выберите другое имя для отчёта.</translation>
+    </message>
+    <message>
+        <source>%1 exists already. Choose another name for the report.</source>
+        <translation>%1 уже существует. Выберите другое имя для отчёта.</translation>
+    </message>
+    <message>
+        <source>The running instance gave no state: %1</source>
+        <translation>Запущенный экземпляр не сообщил своё состояние: %1</translation>
+    </message>
+    <message>
+        <source>a report for those who help you: settings, findings and log without addresses,
+names, bridges and keys. Nothing sends it. Look through it before you give it
+away</source>
+        <translation>отчёт для тех, кто вам помогает: настройки, выводы проверки и журнал без
+адресов, имён, мостов и ключей. Ничто его не отправляет. Просмотрите его,
+прежде чем передать</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>
@@ -3776,6 +3874,10 @@ name in the same session has the same ones</source>
     <message>
         <source>Applications</source>
         <translation>Приложения</translation>
+    </message>
+    <message>
+        <source>Save the report</source>
+        <translation>Сохранение отчёта</translation>
     </message>
 </context>
 </TS>

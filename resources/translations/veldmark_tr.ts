@@ -293,6 +293,14 @@
         <source>Look Again</source>
         <translation>Yeniden incele</translation>
     </message>
+    <message>
+        <source>Show Report</source>
+        <translation>Raporu göster</translation>
+    </message>
+    <message>
+        <source>What others need to help you, without addresses, names and bridges</source>
+        <translation>Başkalarının size yardım etmesi için gerekenler; adresler, adlar ve köprüler olmadan</translation>
+    </message>
 </context>
 <context>
     <name>Footer</name>
@@ -666,6 +674,49 @@
     <message>
         <source>Run this in Terminal to do the same thing without Veldmark.</source>
         <translation>Aynı işi Veldmark olmadan yapmak için bunu uçbirimde çalıştırın.</translation>
+    </message>
+    <message>
+        <source>Report for others</source>
+        <translation>Başkaları için rapor</translation>
+    </message>
+    <message>
+        <source>What they need to help you, without addresses, names and bridges. You read it first, and nothing sends it.</source>
+        <translation>Size yardım etmeleri için gerekenler; adresler, adlar ve köprüler olmadan. Önce siz okursunuz, hiçbir şey onu göndermez.</translation>
+    </message>
+    <message>
+        <source>Show Report</source>
+        <translation>Raporu göster</translation>
+    </message>
+</context>
+<context>
+    <name>ReportWindow</name>
+    <message>
+        <source>Report</source>
+        <translation>Rapor</translation>
+    </message>
+    <message>
+        <source>For those who help you. Addresses, names, bridges, keys and paths in your home are replaced. Look through it before you give it away: Veldmark sends it to nobody.</source>
+        <translation>Size yardım edenler için. Adresler, adlar, köprüler, anahtarlar ve ev klasörünüzdeki yollar değiştirilmiştir. Vermeden önce gözden geçirin: Veldmark onu kimseye göndermez.</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>Kaydet…</translation>
+    </message>
+    <message>
+        <source>Save the report in a file that only you can read</source>
+        <translation>Raporu yalnızca sizin okuyabileceğiniz bir dosyaya kaydeder</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopyala</translation>
+    </message>
+    <message>
+        <source>Copy the whole report</source>
+        <translation>Raporun tamamını kopyalar</translation>
+    </message>
+    <message>
+        <source>Looking at this computer…</source>
+        <translation>Bu bilgisayar inceleniyor…</translation>
     </message>
 </context>
 <context>
@@ -1273,6 +1324,13 @@
     <message>
         <source>%1 more</source>
         <translation>%1 tane daha</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::ReportModel</name>
+    <message>
+        <source>Saved in %1</source>
+        <translation>%1 içine kaydedildi</translation>
     </message>
 </context>
 <context>
@@ -3751,6 +3809,46 @@ aynı adla yapılan sonraki çalıştırma aynı devreleri kullanır</translatio
         <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
         <translation>%1 sistemin bir programı değil, bu yüzden birinin onu onaylaması gerekiyor ve bunu soracak bir uçbirim yok. Bir uçbirimde “sudo veldmarkctl run --connect” komutunu çalıştırın.</translation>
     </message>
+    <message>
+        <source>%1 needs the name of a file.</source>
+        <translation>%1 için bir dosya adı gerekir.</translation>
+    </message>
+    <message>
+        <source>It doesn&apos;t answer.</source>
+        <translation>Yanıt vermiyor.</translation>
+    </message>
+    <message>
+        <source>This report goes to %1.</source>
+        <translation>Bu rapor %1 dosyasına yazılıyor.</translation>
+    </message>
+    <message>
+        <source>write it into a new file too</source>
+        <translation>onu yeni bir dosyaya da yazar</translation>
+    </message>
+    <message>
+        <source>The report can&apos;t be written to %1: %2</source>
+        <translation>Rapor %1 konumuna yazılamıyor: %2</translation>
+    </message>
+    <message>
+        <source>%1 isn&apos;t a regular file. Choose another name for the report.</source>
+        <translation>%1 sıradan bir dosya değil. Rapor için başka bir ad seçin.</translation>
+    </message>
+    <message>
+        <source>%1 exists already. Choose another name for the report.</source>
+        <translation>%1 zaten var. Rapor için başka bir ad seçin.</translation>
+    </message>
+    <message>
+        <source>The running instance gave no state: %1</source>
+        <translation>Çalışan örnek durumunu bildirmedi: %1</translation>
+    </message>
+    <message>
+        <source>a report for those who help you: settings, findings and log without addresses,
+names, bridges and keys. Nothing sends it. Look through it before you give it
+away</source>
+        <translation>size yardım edenler için rapor: adresler, adlar, köprüler ve anahtarlar
+olmadan ayarlar, bulgular ve günlük. Hiçbir şey onu göndermez. Vermeden önce
+gözden geçirin</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>
@@ -3776,6 +3874,10 @@ aynı adla yapılan sonraki çalıştırma aynı devreleri kullanır</translatio
     <message>
         <source>Applications</source>
         <translation>Uygulamalar</translation>
+    </message>
+    <message>
+        <source>Save the report</source>
+        <translation>Raporu kaydet</translation>
     </message>
 </context>
 </TS>

@@ -293,6 +293,14 @@
         <source>Look Again</source>
         <translation>Перевірити знову</translation>
     </message>
+    <message>
+        <source>Show Report</source>
+        <translation>Показати звіт</translation>
+    </message>
+    <message>
+        <source>What others need to help you, without addresses, names and bridges</source>
+        <translation>Усе, що потрібно іншим, щоб вам допомогти, без адрес, імен і мостів</translation>
+    </message>
 </context>
 <context>
     <name>Footer</name>
@@ -666,6 +674,49 @@
     <message>
         <source>Run this in Terminal to do the same thing without Veldmark.</source>
         <translation>Виконайте це в терміналі, щоб зробити те саме без Veldmark.</translation>
+    </message>
+    <message>
+        <source>Report for others</source>
+        <translation>Звіт для інших</translation>
+    </message>
+    <message>
+        <source>What they need to help you, without addresses, names and bridges. You read it first, and nothing sends it.</source>
+        <translation>Усе, що їм потрібно, щоб вам допомогти, без адрес, імен і мостів. Спершу його читаєте ви, і ніщо його не надсилає.</translation>
+    </message>
+    <message>
+        <source>Show Report</source>
+        <translation>Показати звіт</translation>
+    </message>
+</context>
+<context>
+    <name>ReportWindow</name>
+    <message>
+        <source>Report</source>
+        <translation>Звіт</translation>
+    </message>
+    <message>
+        <source>For those who help you. Addresses, names, bridges, keys and paths in your home are replaced. Look through it before you give it away: Veldmark sends it to nobody.</source>
+        <translation>Для тих, хто вам допомагає. Адреси, імена, мости, ключі та шляхи у вашій домашній теці замінено. Перегляньте його, перш ніж передати: Veldmark нікому його не надсилає.</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>Зберегти…</translation>
+    </message>
+    <message>
+        <source>Save the report in a file that only you can read</source>
+        <translation>Зберегти звіт у файл, який можете прочитати лише ви</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Копіювати</translation>
+    </message>
+    <message>
+        <source>Copy the whole report</source>
+        <translation>Скопіювати весь звіт</translation>
+    </message>
+    <message>
+        <source>Looking at this computer…</source>
+        <translation>Перевірка цього комп’ютера…</translation>
     </message>
 </context>
 <context>
@@ -1273,6 +1324,13 @@
     <message>
         <source>%1 more</source>
         <translation>ще %1</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::ReportModel</name>
+    <message>
+        <source>Saved in %1</source>
+        <translation>Збережено в %1</translation>
     </message>
 </context>
 <context>
@@ -3751,6 +3809,46 @@ name in the same session has the same ones</source>
         <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
         <translation>%1 — не програма системи, тому її треба схвалити, а термінала, у якому можна про це запитати, немає. Виконайте «sudo veldmarkctl run --connect» у терміналі.</translation>
     </message>
+    <message>
+        <source>%1 needs the name of a file.</source>
+        <translation>Для %1 потрібна назва файлу.</translation>
+    </message>
+    <message>
+        <source>It doesn&apos;t answer.</source>
+        <translation>Він не відповідає.</translation>
+    </message>
+    <message>
+        <source>This report goes to %1.</source>
+        <translation>Цей звіт записується в %1.</translation>
+    </message>
+    <message>
+        <source>write it into a new file too</source>
+        <translation>записати його також у новий файл</translation>
+    </message>
+    <message>
+        <source>The report can&apos;t be written to %1: %2</source>
+        <translation>Не вдається записати звіт у %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 isn&apos;t a regular file. Choose another name for the report.</source>
+        <translation>%1 — не звичайний файл. Виберіть іншу назву для звіту.</translation>
+    </message>
+    <message>
+        <source>%1 exists already. Choose another name for the report.</source>
+        <translation>%1 уже існує. Виберіть іншу назву для звіту.</translation>
+    </message>
+    <message>
+        <source>The running instance gave no state: %1</source>
+        <translation>Запущений екземпляр не повідомив свій стан: %1</translation>
+    </message>
+    <message>
+        <source>a report for those who help you: settings, findings and log without addresses,
+names, bridges and keys. Nothing sends it. Look through it before you give it
+away</source>
+        <translation>звіт для тих, хто вам допомагає: налаштування, висновки перевірки та журнал
+без адрес, імен, мостів і ключів. Ніщо його не надсилає. Перегляньте його,
+перш ніж передати</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>
@@ -3776,6 +3874,10 @@ name in the same session has the same ones</source>
     <message>
         <source>Applications</source>
         <translation>Застосунки</translation>
+    </message>
+    <message>
+        <source>Save the report</source>
+        <translation>Збереження звіту</translation>
     </message>
 </context>
 </TS>

@@ -293,6 +293,14 @@
         <source>Look Again</source>
         <translation>再次检查</translation>
     </message>
+    <message>
+        <source>Show Report</source>
+        <translation>显示报告</translation>
+    </message>
+    <message>
+        <source>What others need to help you, without addresses, names and bridges</source>
+        <translation>他人帮助您所需的内容，不含地址、名称和网桥</translation>
+    </message>
 </context>
 <context>
     <name>Footer</name>
@@ -666,6 +674,49 @@
     <message>
         <source>Run this in Terminal to do the same thing without Veldmark.</source>
         <translation>在终端中运行此命令，无需 Veldmark 即可完成同样的操作。</translation>
+    </message>
+    <message>
+        <source>Report for others</source>
+        <translation>给他人的报告</translation>
+    </message>
+    <message>
+        <source>What they need to help you, without addresses, names and bridges. You read it first, and nothing sends it.</source>
+        <translation>他人帮助您所需的内容，不含地址、名称和网桥。您先阅读，没有任何程序会发送它。</translation>
+    </message>
+    <message>
+        <source>Show Report</source>
+        <translation>显示报告</translation>
+    </message>
+</context>
+<context>
+    <name>ReportWindow</name>
+    <message>
+        <source>Report</source>
+        <translation>报告</translation>
+    </message>
+    <message>
+        <source>For those who help you. Addresses, names, bridges, keys and paths in your home are replaced. Look through it before you give it away: Veldmark sends it to nobody.</source>
+        <translation>供帮助您的人使用。地址、名称、网桥、密钥以及您主目录中的路径均已替换。交出之前请先过目：Veldmark 不会把它发送给任何人。</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>保存…</translation>
+    </message>
+    <message>
+        <source>Save the report in a file that only you can read</source>
+        <translation>将报告保存到只有您能读取的文件中</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Copy the whole report</source>
+        <translation>复制整个报告</translation>
+    </message>
+    <message>
+        <source>Looking at this computer…</source>
+        <translation>正在检查本机…</translation>
     </message>
 </context>
 <context>
@@ -1273,6 +1324,13 @@
     <message>
         <source>%1 more</source>
         <translation>另有 %1 个</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::ReportModel</name>
+    <message>
+        <source>Saved in %1</source>
+        <translation>已保存到 %1</translation>
     </message>
 </context>
 <context>
@@ -3751,6 +3809,45 @@ name in the same session has the same ones</source>
         <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
         <translation>%1 不是系统的程序，需要有人批准，但没有可供询问的终端。请在终端中运行“sudo veldmarkctl run --connect”。</translation>
     </message>
+    <message>
+        <source>%1 needs the name of a file.</source>
+        <translation>%1 需要一个文件名。</translation>
+    </message>
+    <message>
+        <source>It doesn&apos;t answer.</source>
+        <translation>它没有应答。</translation>
+    </message>
+    <message>
+        <source>This report goes to %1.</source>
+        <translation>此报告将写入 %1。</translation>
+    </message>
+    <message>
+        <source>write it into a new file too</source>
+        <translation>同时写入一个新文件</translation>
+    </message>
+    <message>
+        <source>The report can&apos;t be written to %1: %2</source>
+        <translation>无法将报告写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 isn&apos;t a regular file. Choose another name for the report.</source>
+        <translation>%1 不是普通文件。请为报告另选一个名称。</translation>
+    </message>
+    <message>
+        <source>%1 exists already. Choose another name for the report.</source>
+        <translation>%1 已存在。请为报告另选一个名称。</translation>
+    </message>
+    <message>
+        <source>The running instance gave no state: %1</source>
+        <translation>正在运行的实例未提供状态：%1</translation>
+    </message>
+    <message>
+        <source>a report for those who help you: settings, findings and log without addresses,
+names, bridges and keys. Nothing sends it. Look through it before you give it
+away</source>
+        <translation>供帮助您的人使用的报告：设置、检查结果和日志，不含地址、名称、网桥和密钥。
+没有任何程序会发送它。交出之前请先过目</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>
@@ -3776,6 +3873,10 @@ name in the same session has the same ones</source>
     <message>
         <source>Applications</source>
         <translation>应用</translation>
+    </message>
+    <message>
+        <source>Save the report</source>
+        <translation>保存报告</translation>
     </message>
 </context>
 </TS>

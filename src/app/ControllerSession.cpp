@@ -1,8 +1,10 @@
 #include "app/ControllerSession.h"
 
 #include "app/LoginItem.h"
+#include "controller/PublishedState.h"
 #include "controller/SettingRules.h"
 #include "controller/TorController.h"
+#include "report/ReportFile.h"
 
 #include <QPointer>
 
@@ -15,7 +17,8 @@ ControllerSession::ControllerSession(TorController &controller, SettingsStore &s
     : Session(controller.profile()),
       m_controller(controller),
       m_applications(applications),
-      m_examiner(controller.profile(), settings, m_processes)
+      m_examiner(controller.profile(), settings, m_processes),
+      m_reporter(controller.profile(), settings, m_processes)
 {
     for (const Field *field : controller.fields())
         QObject::connect(field, &Field::changed, this, &ControllerSession::schedule);
@@ -93,6 +96,10 @@ void ControllerSession::read()
     next.markerPresent = c.isSessionMarkerPresent();
     next.findings = m_findings;
     next.isExamining = m_isExamining;
+    next.report = m_report;
+    next.isReporting = m_isReporting;
+    next.reportSaved = m_reportSaved;
+    next.reportProblem = m_reportProblem;
     next.openAtLogin = LoginItem(c.profile()).isSet();
     m_now = std::move(next);
     Q_EMIT changed();
@@ -255,6 +262,40 @@ QCoro::Task<void> ControllerSession::look()
         co_return;
     m_findings = findings;
     m_isExamining = false;
+    schedule();
+}
+
+void ControllerSession::makeReport()
+{
+    if (std::exchange(m_isReporting, true))
+        return;
+    m_report.clear();
+    m_reportSaved.reset();
+    m_reportProblem.reset();
+    schedule();
+    report();
+}
+
+QCoro::Task<void> ControllerSession::report()
+{
+    const QPointer<ControllerSession> self(this);
+    const ReportMaker::Given given{publishedState(m_controller), settingNames(m_controller)};
+    auto making = m_reporter.make(given);
+    const SupportReport made = co_await making;
+    if (!self)
+        co_return;
+    m_report = made.text();
+    m_isReporting = false;
+    schedule();
+}
+
+void ControllerSession::saveReport(const QString &file)
+{
+    if (m_report.isEmpty())
+        return;
+    const auto saved = veldmark::saveReport(file, m_report.toUtf8(), ExistingFile::replace);
+    m_reportSaved = saved ? std::optional(file) : std::nullopt;
+    m_reportProblem = saved ? std::nullopt : std::optional(saved.error());
     schedule();
 }
 

@@ -3,6 +3,7 @@
 #include "base/Text.h"
 #include "doctor/Examiner.h"
 #include "platform/RunningApplications.h"
+#include "report/ReportMaker.h"
 #include "system/ChildProcessRunner.h"
 #include "system/SettingsStore.h"
 #include "ui/Session.h"
@@ -46,6 +47,8 @@ public:
     void lookAgain() override;
     void lookForTransports() override;
     void examine() override;
+    void makeReport() override;
+    void saveReport(const QString &file) override;
     void downloadTransports() override;
     void installPasswordless() override;
     void removePasswordless() override;
@@ -64,6 +67,7 @@ private:
     QCoro::Task<void> lookOnceSshIsKnown();
     QCoro::Task<void> launch(QString application);
     QCoro::Task<void> look();
+    QCoro::Task<void> report();
 
     TorController &m_controller;
     RunningApplications &m_applications;
@@ -77,8 +81,14 @@ private:
     bool m_terminalForSsh = false;
     Findings m_findings;
     bool m_isExamining = false;
-    ChildProcessRunner m_processes; // for the examiner
-    Examiner m_examiner;            // the last member: its destruction resumes its waiting callers
+    QString m_report;
+    bool m_isReporting = false;
+    std::optional<QString> m_reportSaved;
+    std::optional<Text> m_reportProblem;
+    ChildProcessRunner m_processes; // for the two below
+    // The last members: their destruction resumes their waiting callers.
+    Examiner m_examiner;
+    ReportMaker m_reporter;
 };
 
 } // namespace veldmark

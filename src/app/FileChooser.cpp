@@ -89,8 +89,12 @@ void FileChooser::ask(const Question &question)
         const QList<PortalFilter> filters{filter};
         options.insert(QStringLiteral("filters"), QVariant::fromValue(filters));
     }
+    const bool isNew = !question.newName.isEmpty();
+    if (isNew)
+        options.insert(QStringLiteral("current_name"), question.newName);
     QDBusMessage call = QDBusMessage::createMethodCall(service, object, interface,
-                                                       QStringLiteral("OpenFile"));
+                                                       isNew ? QStringLiteral("SaveFile")
+                                                             : QStringLiteral("OpenFile"));
     call << QString() << question.title << options;
     auto *answer = new QDBusPendingCallWatcher(m_bus.asyncCall(call), this);
     QObject::connect(answer, &QDBusPendingCallWatcher::finished, this,
@@ -148,6 +152,11 @@ void FileChooser::askWithQt()
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setFileMode(m_question.several ? QFileDialog::ExistingFiles
                                            : QFileDialog::ExistingFile);
+    if (!m_question.newName.isEmpty()) {
+        dialog->setFileMode(QFileDialog::AnyFile);
+        dialog->setAcceptMode(QFileDialog::AcceptSave);
+        dialog->selectFile(m_question.newName);
+    }
     if (!m_question.filterPattern.isEmpty())
         dialog->setNameFilter(
             QStringLiteral("%1 (%2)").arg(m_question.filterName, m_question.filterPattern));

@@ -8,9 +8,9 @@
 
 namespace veldmark {
 
-// Asks for files with the desktop's own dialogue: through its portal where there is one, else with
-// Qt's. One question at a time. A new question replaces an open one, whose answer is then ignored.
-// Main thread.
+// Asks for files, or for a file to write, with the desktop's own dialogue: through its portal where
+// there is one, else with Qt's. One question at a time. A new question replaces an open one, whose
+// answer is then ignored. Main thread.
 class FileChooser : public QObject {
     Q_OBJECT
 
@@ -21,6 +21,9 @@ public:
         // For example "Applications" and "*.desktop". Empty: every file.
         QString filterName = {}, filterPattern = {};
         bool several = false;
+        // For a file to write: the name that the dialogue proposes. The user has agreed when the
+        // file that is chosen is there already.
+        QString newName = {};
     };
 
     explicit FileChooser(const QDBusConnection &bus) : m_bus(bus) { }

@@ -31,9 +31,11 @@ Windows::Windows(Session &session, LogFeed &log, SettingsStore &settings)
       m_circuits(session),
       m_log(log, session.profile()),
       m_choices(session),
+      m_report(session),
       m_places(settings),
       m_torChooser(QDBusConnection::sessionBus()),
-      m_entryChooser(QDBusConnection::sessionBus())
+      m_entryChooser(QDBusConnection::sessionBus()),
+      m_reportChooser(QDBusConnection::sessionBus())
 {
     prepareEngine(m_engine);
     QObject::connect(&m_torChooser, &FileChooser::chosen, &m_settings,
@@ -45,6 +47,8 @@ Windows::Windows(Session &session, LogFeed &log, SettingsStore &settings)
                          for (const QString &file : files)
                              m_session.addBypassApp(file);
                      });
+    QObject::connect(&m_reportChooser, &FileChooser::chosen, &m_report,
+                     [this](const QStringList &files) { m_report.save(files.first()); });
 }
 
 Windows::~Windows()
@@ -92,6 +96,7 @@ bool Windows::ensure(const QString &name)
          {QStringLiteral("settings/SettingsWindow.qml"), with(&m_settings)}},
         {QStringLiteral("chooser"),
          {QStringLiteral("chooser/ChooserWindow.qml"), with(&m_choices)}},
+        {QStringLiteral("report"), {QStringLiteral("report/ReportWindow.qml"), with(&m_report)}},
     };
     const auto recipe = recipes.find(name);
     if (recipe == recipes.end())
@@ -103,15 +108,17 @@ bool Windows::ensure(const QString &name)
     m_windows[name] = std::move(window);
 
     const bool hasPanel = name == QLatin1String("main") || name == QLatin1String("panel");
-    if (hasPanel) {
+    if (hasPanel || name == QLatin1String("settings"))
         QObject::connect(shown, SIGNAL(windowWanted(QString)), this, SLOT(onWindowWanted(QString)));
+    if (hasPanel)
         QObject::connect(shown, SIGNAL(chooserWanted()), this, SLOT(chooseApplications()));
-    }
     QObject::connect(shown, SIGNAL(quitWanted()), this, SIGNAL(quitWanted()));
     if (name == QLatin1String("settings"))
         QObject::connect(shown, SIGNAL(torChooserWanted()), this, SLOT(chooseTor()));
     if (name == QLatin1String("chooser"))
         QObject::connect(shown, SIGNAL(fileWanted()), this, SLOT(chooseEntries()));
+    if (name == QLatin1String("report"))
+        QObject::connect(shown, SIGNAL(saveWanted()), this, SLOT(chooseReportFile()));
     if (name != QLatin1String("panel")) // the panel's place is at the tray
         m_places.remember(name, shown, heightOf(name));
     QObject::connect(shown, &QWindow::visibleChanged, this, [this, name](bool visible) {
@@ -220,6 +227,13 @@ void Windows::chooseEntries()
                         .filterName = tr("Applications"),
                         .filterPattern = u'*' + suffix,
                         .several = true});
+}
+
+void Windows::chooseReportFile()
+{
+    m_reportChooser.ask({.title = tr("Save the report"),
+                         .folder = m_session.profile().places.home,
+                         .newName = QStringLiteral("veldmark-report.txt")});
 }
 
 } // namespace veldmark

@@ -7,6 +7,7 @@
 #include "ui/LogModel.h"
 #include "ui/OptionsModel.h"
 #include "ui/PanelModel.h"
+#include "ui/ReportModel.h"
 #include "ui/SettingsModel.h"
 
 #include <QQmlApplicationEngine>
@@ -17,9 +18,10 @@
 
 namespace veldmark {
 
-// The program's windows by name: "main", "panel", "circuits", "log", "settings", "chooser". A
-// window is made when it is first wanted. All but "main" and "panel" are destroyed when closed, so
-// that the program uses little memory in the tray. Their places are remembered. Main thread.
+// The program's windows by name: "main", "panel", "circuits", "log", "settings", "chooser",
+// "report". A window is made when it is first wanted. All but "main" and "panel" are destroyed when
+// closed, so that the program uses little memory in the tray. Their places are remembered. Main
+// thread.
 class Windows : public QObject {
     Q_OBJECT
 
@@ -47,6 +49,7 @@ private Q_SLOTS:
     void chooseTor();
     void chooseApplications();
     void chooseEntries();
+    void chooseReportFile();
 
 private:
     bool ensure(const QString &name);
@@ -60,9 +63,11 @@ private:
     CircuitsModel m_circuits;
     LogModel m_log;
     ApplicationChoices m_choices;
+    ReportModel m_report;
     WindowPlaces m_places;
     FileChooser m_torChooser;
     FileChooser m_entryChooser;
+    FileChooser m_reportChooser;
     QQmlApplicationEngine m_engine;
     std::map<QString, std::unique_ptr<QQuickWindow>> m_windows; // destroyed before the engine
 };

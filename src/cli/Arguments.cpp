@@ -36,7 +36,8 @@ QString usageOf(const Verb &verb)
     if (verb.takesProgram)
         line += QStringLiteral(" -- PROGRAM");
     for (const Verb::Option &option : verb.options)
-        line += QStringLiteral(" [%1]").arg(option.name);
+        line += QStringLiteral(" [%1]").arg(
+            option.value.isEmpty() ? option.name : option.name + u' ' + option.value);
     const QString margin(column, u' ');
     line = line.size() < column ? line.leftJustified(column) : line + u'\n' + margin;
     return line + verb.help.translated().replace(u'\n', u'\n' + margin) + u'\n';
@@ -57,7 +58,8 @@ Result<Invocation, Text> parseArguments(const QStringList &arguments)
     invocation.verb = verb->id;
     QStringList operands;
     bool optionsEnded = false;
-    for (const QString &argument : arguments.mid(1)) {
+    for (qsizetype at = 1; at < arguments.size(); ++at) {
+        const QString &argument = arguments[at];
         // A value may begin with a dash; a key does not.
         const bool isOption = !optionsEnded && argument.startsWith(QLatin1String("--"))
             && !(verb->id == Verb::Id::set && operands.size() == 1);
@@ -69,11 +71,18 @@ Result<Invocation, Text> parseArguments(const QStringList &arguments)
             optionsEnded = true;
             continue;
         }
-        if (std::none_of(
-                verb->options.begin(), verb->options.end(),
-                [&argument](const Verb::Option &option) { return option.name == argument; }))
+        const auto option = std::find_if(
+            verb->options.begin(), verb->options.end(),
+            [&argument](const Verb::Option &known) { return known.name == argument; });
+        if (option == verb->options.end())
             return Failure(
                 Text::tr("%1 has no option %2.").arg(arguments.first(), quoted(argument)));
+        if (!option->value.isEmpty()) {
+            invocation.output = arguments.value(++at);
+            if (invocation.output.isEmpty())
+                return Failure(Text::tr("%1 needs the name of a file.").arg(option->name));
+            continue;
+        }
         invocation.connectNow |= argument == QLatin1String("--connect");
         invocation.json |= argument == QLatin1String("--json");
         invocation.watch |= argument == QLatin1String("--watch");

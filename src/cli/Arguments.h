@@ -13,13 +13,14 @@ namespace veldmark {
 struct Invocation {
     Verb::Id verb = Verb::Id::help;
     bool connectNow = false; // run --connect
-    bool json = false;       // status, circuits, bridges, apps, doctor
+    bool json = false;       // status, circuits, bridges, apps, doctor, report
     bool watch = false;      // status
     bool follow = false;     // log
     bool problems = false;   // log
     // the first operand: get, set; close-circuit's id; launch's application
     QString key;
     QString value;       // the second: set
+    QString output;      // report: the file, or empty
     QStringList program; // run-as: the program with its own arguments
 };
 

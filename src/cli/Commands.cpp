@@ -8,6 +8,7 @@
 #include "cli/LogCommand.h"
 #include "cli/ProgressLine.h"
 #include "cli/Report.h"
+#include "cli/ReportCommand.h"
 #include "controller/PublishedState.h"
 #include "controller/RealController.h"
 #include "instance/InstanceClient.h"
@@ -232,6 +233,8 @@ QCoro::Task<ExitStatus> execute(Invocation invocation, PlatformProfile profile)
         return showBridges(invocation, profile);
     if (invocation.verb == Verb::Id::doctor)
         return showDoctor(invocation, profile);
+    if (invocation.verb == Verb::Id::report)
+        return showReport(invocation, profile);
     if (invocation.verb == Verb::Id::apps)
         return showApplications(invocation, profile);
     if (invocation.verb == Verb::Id::identities)

@@ -62,6 +62,9 @@ void TorController::enter(ConnectionPhase next)
     std::vector<ResumeOnce<bool>> waiters;
     if (phase() == ConnectionPhase::disconnecting)
         waiters.swap(m_restoreWaiters);
+    if (m_phaseChanges.size() >= mostPhaseChanges)
+        m_phaseChanges.erase(m_phaseChanges.begin());
+    m_phaseChanges.push_back({next, QDateTime::currentDateTimeUtc()});
     phase = next; // an observer may destroy this object
     endWaits(waiters);
 }

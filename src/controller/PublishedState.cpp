@@ -63,6 +63,11 @@ QJsonObject publishedState(const TorController &controller)
     state.insert(controller.killSwitch.name(), json(rules));
     state.insert(QStringLiteral("killSwitchSince"),
                  rules ? json(rules->since.toString(Qt::ISODate)) : QJsonValue(QJsonValue::Null));
+    QJsonArray changes;
+    for (const auto &change : controller.phaseChanges())
+        changes.append(QJsonObject{{controller.phase.name(), json(change.phase)},
+                                   {QStringLiteral("at"), change.at.toString(Qt::ISODateWithMs)}});
+    state.insert(QStringLiteral("phaseChanges"), changes);
     return state;
 }
 

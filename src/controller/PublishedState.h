@@ -15,7 +15,8 @@ class TorController;
 // scripts.
 
 // Every published field under its name. The verdict adds "title", "menuBarSymbol" and "level", and
-// replaces "statusDetail" by a known danger. "killSwitchSince" goes with "killSwitch".
+// replaces "statusDetail" by a known danger. "killSwitchSince" goes with "killSwitch",
+// "phaseChanges" ([{"phase": …, "at": …}]) with "phase".
 QJsonObject publishedState(const TorController &controller);
 
 // The state's texts, each as Text::toJson(). The state itself has them in English.

@@ -26,6 +26,7 @@
 #include "system/SessionMark.h"
 #include "system/SessionOwner.h"
 
+#include <QDateTime>
 #include <QObject>
 #include <QPointer>
 #include <QStringList>
@@ -238,6 +239,15 @@ public:
     // may hang.
     void wake();
 
+    // When the phase changed, the latest last; the first entry is the start of the program or what
+    // is left of the history.
+    struct PhaseChange {
+        ConnectionPhase phase = ConnectionPhase::disconnected;
+        QDateTime at; // UTC
+    };
+    static constexpr std::size_t mostPhaseChanges = 40;
+    const std::vector<PhaseChange> &phaseChanges() const { return m_phaseChanges; }
+
     // The last failed operation's message, without messages about the kill switch and Tor's own
     // network.
     std::optional<Text> failure() const;
@@ -426,6 +436,8 @@ private:
     QCoro::Task<void> installForSsh(Run run);
 
     Services m_services;
+    std::vector<PhaseChange> m_phaseChanges{
+        {ConnectionPhase::disconnected, QDateTime::currentDateTimeUtc()}};
     quint64 m_attempt = 0;     // the running connect or disconnect; older ones end silently
     quint64 m_monitor = 0;     // the running monitor loop
     quint64 m_terminalRun = 0; // the run that last applied terminal mode

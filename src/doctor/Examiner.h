@@ -28,12 +28,12 @@ public:
 
     QCoro::Task<Findings> examine();
 
-private:
     // The program's standard output and standard error; absent when it can't start, fails or
     // exceeds the time limit.
     static QCoro::Task<std::optional<ProcessResult>> run(ProcessRunner *processes, QString program,
                                                          QStringList arguments);
 
+private:
     const PlatformProfile m_profile;
     SettingsStore &m_settings;
     ProcessRunner &m_processes;

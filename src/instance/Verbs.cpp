@@ -132,6 +132,13 @@ std::vector<Verb> makeTable()
          .options = {json},
          .help = Text::tr(
              "check what a connect needs on this computer, what blocks it and how to fix\nit. Changes nothing; the exit status is 0 when a connect can work")},
+        {.id = Id::report,
+         .name = QStringLiteral("report"),
+         .options = {json,
+                     {QStringLiteral("--output"), Text::tr("write it into a new file too"),
+                      QStringLiteral("FILE")}},
+         .help = Text::tr(
+             "a report for those who help you: settings, findings and log without addresses,\nnames, bridges and keys. Nothing sends it. Look through it before you give it\naway")},
         {.id = Id::get,
          .name = QStringLiteral("get"),
          .operands = {QStringLiteral("KEY")},

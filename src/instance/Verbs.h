@@ -49,6 +49,7 @@ struct Verb {
         renew,
         runAs,
         doctor,
+        report,
         get,
         set,
         help,
@@ -59,6 +60,8 @@ struct Verb {
     struct Option {
         QString name; // "--json"
         Text help;    // a few words
+        // How the usage text names the word that must follow; empty: none does.
+        QString value = {};
     };
     using Handler = QCoro::Task<Outcome> (*)(Call call);
 

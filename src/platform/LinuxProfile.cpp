@@ -75,6 +75,7 @@ PlatformProfile PlatformProfile::linux(const Places &places)
 
     profile.sessionMarker = at("/var/lib/veldmark/state/active");
     profile.sessionOwner = at("/var/lib/veldmark/state/owner");
+    profile.journalDirectory = at("/var/lib/veldmark/journal");
     profile.killSwitchNote = at("/run/veldmark.watch");
     profile.othersNote = at("/run/veldmark.others");
     profile.identitiesNote = at("/run/veldmark.identities");

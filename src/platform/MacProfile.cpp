@@ -20,6 +20,7 @@ PlatformProfile PlatformProfile::macos(const Places &places)
         "sudo bash /Applications/Veldmark.app/Contents/Resources/veldmark-helper.sh disconnect");
 
     profile.sessionMarker = at("/Library/Application Support/Veldmark/state/active");
+    profile.journalDirectory = at("/Library/Application Support/Veldmark/journal");
     profile.killSwitchNote = at("/var/run/veldmark.watch");
     profile.applicationSuffix = QStringLiteral(".app");
     profile.installedHelper = at("/Library/Application Support/Veldmark/bin/veldmark-helper.sh");

@@ -58,6 +58,8 @@ struct PlatformProfile {
     QString sessionMarker;
     // beside the marker: the session's owner; empty where no helper writes it
     QString sessionOwner;
+    // the helper's notes on what it has changed, a file each; only root reads them
+    QString journalDirectory;
     // other firewalls that deny outgoing traffic, according to the helper, see OtherFirewalls;
     // removed by a restart of the computer
     QString othersNote;

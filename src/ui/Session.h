@@ -44,7 +44,9 @@ public:
     // the login item.
     virtual void lookAgain() = 0;
     virtual void lookForTransports() = 0;
-    virtual void examine() = 0; // checks what a connect needs on this computer
+    virtual void examine() = 0;    // checks what a connect needs on this computer
+    virtual void makeReport() = 0; // a report without secrets, for others; it is not sent
+    virtual void saveReport(const QString &file) = 0; // the last one; the user has chosen the file
     virtual void downloadTransports() = 0;
     virtual void installPasswordless() = 0;
     virtual void removePasswordless() = 0;

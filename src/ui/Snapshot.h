@@ -82,11 +82,16 @@ struct Snapshot {
     bool terminalInstalled = false; // the shell reads the integration's files
     bool terminalForSsh = false;    // ssh does, too
 
-    std::optional<QString> torPath;  // absent: no tor was found
-    bool isTorRefused = false;       // the chosen location is no place for one; a connect says why
-    bool markerPresent = false;      // the network is set up for Tor
-    Findings findings;               // of the last examination
-    bool isExamining = false;        // an examination is running
+    std::optional<QString> torPath; // absent: no tor was found
+    bool isTorRefused = false;      // the chosen location is no place for one; a connect says why
+    bool markerPresent = false;     // the network is set up for Tor
+    Findings findings;              // of the last examination
+    bool isExamining = false;       // an examination is running
+    QString report;                 // the last one made; empty while one is being made
+    bool isReporting = false;       // a report is being made
+    // The file that the report was saved in, or why it was not.
+    std::optional<QString> reportSaved;
+    std::optional<Text> reportProblem;
     std::optional<bool> openAtLogin; // absent: this build cannot change it
 
     // A connect finds a tor, or says what is wrong with its location.

@@ -66,7 +66,8 @@ private Q_SLOTS:
         QTest::addColumn<bool>("dark");
         for (const char *file :
              {"main/MainWindow.qml", "main/QuitDialog.qml", "circuits/CircuitsWindow.qml",
-              "log/LogWindow.qml", "settings/SettingsWindow.qml", "chooser/ChooserWindow.qml"})
+              "log/LogWindow.qml", "settings/SettingsWindow.qml", "chooser/ChooserWindow.qml",
+              "report/ReportWindow.qml"})
             for (const bool dark : {false, true})
                 QTest::addRow("%s %s", file, dark ? "dark" : "light")
                     << QString::fromLatin1(file) << dark;
@@ -81,6 +82,7 @@ private Q_SLOTS:
         snapshot.torPath = QStringLiteral("/usr/bin/tor");
         if (file != QLatin1String("main/MainWindow.qml"))
             snapshot = Scenes::protectedSession();
+        snapshot.report = Scenes::report();
         stage.session.show(snapshot);
         stage.log.show(LogFeed::State::lines, Scenes::log(20));
         QVariantMap properties = panel(stage);
@@ -90,6 +92,8 @@ private Q_SLOTS:
             properties = with(&stage.lines);
         else if (file.startsWith(QLatin1String("settings")))
             properties = with(&stage.settings);
+        else if (file.startsWith(QLatin1String("report")))
+            properties = with(&stage.report);
         else if (file.startsWith(QLatin1String("chooser")))
             properties = with(&stage.choices);
         else if (file.endsWith(QLatin1String("QuitDialog.qml")))
@@ -132,7 +136,7 @@ private Q_SLOTS:
         for (const char *file :
              {"main/MainWindow.qml", "main/PanelPopup.qml", "main/QuitDialog.qml",
               "circuits/CircuitsWindow.qml", "log/LogWindow.qml", "settings/SettingsWindow.qml",
-              "chooser/ChooserWindow.qml"})
+              "chooser/ChooserWindow.qml", "report/ReportWindow.qml"})
             QTest::newRow(file) << QString::fromLatin1(file);
     }
     void theSameKeysCloseAndQuitInEveryWindow()
@@ -149,6 +153,8 @@ private Q_SLOTS:
                 properties = with(&stage.lines);
             else if (file.startsWith(QLatin1String("settings")))
                 properties = with(&stage.settings);
+            else if (file.startsWith(QLatin1String("report")))
+                properties = with(&stage.report);
             else if (file.startsWith(QLatin1String("chooser")))
                 properties = with(&stage.choices);
             else if (isQuestion)

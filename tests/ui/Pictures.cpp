@@ -159,6 +159,22 @@ void drawWindows(Stage &stage, const QDir &folder, const QString &suffix)
     stage.log.show(LogFeed::State::unreadable);
     save(stage, folder, QStringLiteral("log-unreadable") + suffix);
 
+    for (const bool saved : {false, true}) {
+        Snapshot s = idle;
+        s.report = Scenes::report();
+        if (saved)
+            s.reportSaved = QStringLiteral("/home/user/veldmark-report.txt");
+        stage.session.show(s);
+        stage.open(QStringLiteral("report/ReportWindow.qml"),
+                   {{QStringLiteral("model"), QVariant::fromValue(&stage.report)}});
+        save(stage, folder,
+             (saved ? QStringLiteral("report-saved") : QStringLiteral("report")) + suffix);
+    }
+    stage.session.show(idle);
+    stage.open(QStringLiteral("report/ReportWindow.qml"),
+               {{QStringLiteral("model"), QVariant::fromValue(&stage.report)}});
+    save(stage, folder, QStringLiteral("report-looking") + suffix);
+
     for (const bool rich : {false, true}) {
         Snapshot s = idle;
         if (rich) {

@@ -298,6 +298,21 @@ std::vector<Scene> panel()
     return scenes;
 }
 
+QString report()
+{
+    return QStringLiteral(
+        "Veldmark report, 2026-11-23T06:19:54Z\n\n"
+        "Addresses, names, bridges, fingerprints, links, keys and paths in a home are\n"
+        "replaced.\n\n== Settings ==\nstrictMode: true\ncustomTorPath: path-1\n"
+        "customBridges: obfs4 bridge-1\n\n== Session ==\n"
+        "errorMessage: Tor at ~/path-2 didn't start: bridge-1:443 doesn't answer\n"
+        "exitIP: address-1\n\n== Phases, in UTC ==\n"
+        "2026-11-23T06:19:54.123Z connecting\n2026-11-23T06:21:04.500Z stale\n\n"
+        "== Rules ==\nnot readable without root\n\n== Tor's log ==\n"
+        "Nov 23 06:19:58.000 [warn] Proxy Client: unable to connect OR connection "
+        "(handshaking (proxy)) with bridge-1:443 (\"general SOCKS server failure\")\n");
+}
+
 QList<TorLogLine> log(int count)
 {
     static const std::array<std::pair<TorLogLine::Level, const char *>, 7> texts{{

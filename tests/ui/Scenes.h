@@ -20,5 +20,6 @@ Findings findings(); // of a computer on which a connect can't work
 // `count` circuits over a few dozen relays, the first two of them linked legs.
 std::vector<CircuitInfo> circuits(int count);
 QList<TorLogLine> log(int count);
+QString report(); // a short one
 
 } // namespace veldmark::Scenes

@@ -38,6 +38,8 @@ QVariantMap propertiesOf(Stage &stage, const QString &name)
         return model(&stage.choices);
     if (name == QLatin1String("settings/SettingsWindow.qml"))
         return model(&stage.settings);
+    if (name == QLatin1String("report/ReportWindow.qml"))
+        return model(&stage.report);
     if (name == QLatin1String("main/QuitDialog.qml"))
         return {{QStringLiteral("strict"), true}, {QStringLiteral("busy"), false}};
     return {{QStringLiteral("panelModel"), QVariant::fromValue(&stage.panel)},
@@ -49,6 +51,7 @@ void setUp(Stage &stage, bool connected)
     Snapshot snapshot = connected ? Scenes::protectedSession() : Snapshot();
     snapshot.torPath = QStringLiteral("/usr/bin/tor");
     snapshot.openAtLogin = true;
+    snapshot.report = Scenes::report();
     snapshot.choices.exitCountry = QStringLiteral("de");
     snapshot.choices.bypassApps = {QStringLiteral("/usr/share/applications/games.desktop")};
     snapshot.choices.bridgeChoice = BridgeChoice::custom;

@@ -50,7 +50,8 @@ Stage::Stage()
       settings(session),
       circuits(session),
       lines(log, profile),
-      choices(session)
+      choices(session),
+      report(session)
 {
     prepareEngine(engine);
     if (const QString sources = qEnvironmentVariable("VELDMARK_QML"); !sources.isEmpty()) {

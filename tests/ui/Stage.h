@@ -6,6 +6,7 @@
 #include "ui/LogModel.h"
 #include "ui/OptionsModel.h"
 #include "ui/PanelModel.h"
+#include "ui/ReportModel.h"
 #include "ui/SettingsModel.h"
 
 #include <QQmlApplicationEngine>
@@ -45,6 +46,7 @@ public:
     CircuitsModel circuits;
     LogModel lines;
     ApplicationChoices choices;
+    ReportModel report;
     QQmlApplicationEngine engine;
 
 private:

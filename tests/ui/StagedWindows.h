@@ -34,6 +34,7 @@ inline std::vector<Shown> windows(Stage &stage)
                             {"panel", "main/PanelPopup.qml", panel},
                             {"circuits", "circuits/CircuitsWindow.qml", model(&stage.circuits)},
                             {"log", "log/LogWindow.qml", model(&stage.lines)},
+                            {"report", "report/ReportWindow.qml", model(&stage.report)},
                             {"quit",
                              "main/QuitDialog.qml",
                              {{QStringLiteral("strict"), true}, {QStringLiteral("busy"), false}}}};
@@ -51,6 +52,7 @@ inline void prepare(Stage &stage)
     Snapshot snapshot = Scenes::protectedSession();
     snapshot.dns = DNSStatus::leak({QStringLiteral("192.168.1.1 on eth0")});
     snapshot.errorMessage = QStringLiteral("Tor closed the control connection.");
+    snapshot.report = Scenes::report();
     stage.session.show(snapshot);
     stage.log.show(LogFeed::State::lines, Scenes::log(20));
 }

@@ -76,6 +76,8 @@ public:
     void lookAgain() override { asked << QStringLiteral("lookAgain"); }
     void lookForTransports() override { asked << QStringLiteral("lookForTransports"); }
     void examine() override { asked << QStringLiteral("examine"); }
+    void makeReport() override { asked << QStringLiteral("makeReport"); }
+    void saveReport(const QString &file) override { asked << QStringLiteral("saveReport ") + file; }
     void downloadTransports() override { asked << QStringLiteral("downloadTransports"); }
     void installPasswordless() override { asked << QStringLiteral("installPasswordless"); }
     void removePasswordless() override { asked << QStringLiteral("removePasswordless"); }

@@ -198,6 +198,26 @@ inline void addDialogScenes(std::vector<WindowScene> &scenes)
     failed.findings.clear();
     sheet("doctor/looking", "doctor", failed);
 
+    const auto report = [&scenes](const char *name, const Snapshot &session) {
+        scenes.push_back({QLatin1String(name), [session](Stage &stage) {
+                              stage.session.show(session);
+                              return stage.open(QStringLiteral("report/ReportWindow.qml"),
+                                                modelProperty(&stage.report));
+                          }});
+    };
+    Snapshot told = idleSession();
+    told.isReporting = true;
+    report("report/looking", told);
+    told.isReporting = false;
+    told.report = Scenes::report();
+    report("report", told);
+    told.reportSaved = QStringLiteral("/home/user/veldmark-report.txt");
+    report("report/saved", told);
+    told.reportSaved.reset();
+    told.reportProblem = QStringLiteral(
+        "The report can't be written to /media/stick/report.txt: No space left on device");
+    report("report/failed", told);
+
     scenes.push_back({QStringLiteral("chooser"), [](Stage &stage) {
                           stage.session.show(idleSession());
                           return stage.open(QStringLiteral("chooser/ChooserWindow.qml"),

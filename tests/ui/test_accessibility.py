@@ -47,6 +47,7 @@ WINDOWS = [
     "circuits/CircuitsWindow.qml",
     "log/LogWindow.qml",
     "chooser/ChooserWindow.qml",
+    "report/ReportWindow.qml",
     *(f"settings/SettingsWindow.qml pane={pane}" for pane in range(6)),
 ]
 

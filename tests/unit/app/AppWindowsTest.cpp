@@ -70,13 +70,45 @@ private Q_SLOTS:
         Shown shown;
         QSignalSpy failed(shown.windows.get(), &Windows::failed);
         for (const QString &name :
-             {u"main"_s, u"circuits"_s, u"log"_s, u"settings"_s, u"chooser"_s}) {
+             {u"main"_s, u"circuits"_s, u"log"_s, u"settings"_s, u"chooser"_s, u"report"_s}) {
             QVERIFY2(shown.windows->open(name), qPrintable(name));
             QVERIFY(shown.windows->find(name)->isVisible());
             QVERIFY(!shown.windows->find(name)->title().isEmpty());
         }
         QCOMPARE(failed.count(), 0);
         QVERIFY(!shown.windows->open(u"nothing"_s));
+    }
+
+    void theSettingsOpenTheReport()
+    {
+        Shown shown;
+        QVERIFY(shown.windows->open(u"settings"_s));
+        QVERIFY(!shown.windows->find(u"report"_s));
+        QMetaObject::invokeMethod(shown.windows->find(u"settings"_s), "windowWanted",
+                                  Q_ARG(QString, u"report"_s));
+        QVERIFY(shown.windows->find(u"report"_s));
+        QVERIFY(shown.windows->find(u"report"_s)->isVisible());
+        QCOMPARE(shown.session.asked.count(u"makeReport"_s), 1);
+    }
+
+    void theReportIsSavedInTheFileThatTheUserChooses()
+    {
+        Shown shown;
+        QVERIFY(shown.windows->open(u"report"_s));
+        QMetaObject::invokeMethod(shown.windows->find(u"report"_s), "saveWanted");
+        QFileDialog *dialog = nullptr;
+        QVERIFY(until([&dialog] {
+            for (QWidget *widget : QApplication::topLevelWidgets()) {
+                if (widget->isVisible() && qobject_cast<QFileDialog *>(widget))
+                    dialog = qobject_cast<QFileDialog *>(widget);
+            }
+            return dialog != nullptr;
+        }));
+        QCOMPARE(dialog->windowTitle(), u"Save the report"_s);
+        QCOMPARE(dialog->acceptMode(), QFileDialog::AcceptSave);
+        Q_EMIT dialog->filesSelected({u"/nowhere/report.txt"_s});
+        QVERIFY(shown.session.asked.contains(u"saveReport /nowhere/report.txt"_s));
+        dialog->close();
     }
 
     void aWindowThatCannotBeMadeIsToldAndNeverShownBlank()

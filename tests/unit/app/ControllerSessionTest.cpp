@@ -354,6 +354,47 @@ private Q_SLOTS:
         QCOMPARE(runs(), 2);
     }
 
+    void makesAReportAndSavesIt()
+    {
+        Workbench bench;
+        ControllerSession session(bench.controller(), *bench.settings, bench.applications);
+        const QString file = bench.folder.filePath(u"report.txt"_s);
+        session.saveReport(file); // there is none yet
+        QVERIFY(!QFile::exists(file));
+        bench.controller().showProblem(Text(u"Tor at 203.0.113.9 is gone"_s));
+        session.makeReport();
+        session.makeReport();
+        QVERIFY(until([&] { return !session.now().report.isEmpty(); }));
+        QVERIFY(!session.now().isReporting);
+        QVERIFY2(session.now().report.contains(u"\nerrorMessage: Tor at address-1 is gone\n"_s),
+                 qPrintable(session.now().report));
+        QVERIFY(session.now().report.contains(u"\nbridgeChoice: off\n"_s));
+
+        bench.writeFile(file, "old");
+        session.saveReport(file);
+        QVERIFY(until([&] { return session.now().reportSaved == file; }));
+        QFile written(file);
+        QVERIFY(written.open(QIODevice::ReadOnly));
+        QCOMPARE(QString::fromUtf8(written.readAll()), session.now().report);
+
+        session.saveReport(bench.folder.path());
+        QVERIFY(until([&] { return session.now().reportProblem.has_value(); }));
+        QVERIFY(!session.now().reportSaved);
+        session.makeReport(); // a new report is saved nowhere yet
+        QVERIFY(until([&] { return !session.now().reportProblem; }));
+        QVERIFY(until([&] { return !session.now().report.isEmpty(); }));
+    }
+
+    void goesWhileItMakesAReport()
+    {
+        Workbench bench;
+        auto session = std::make_unique<ControllerSession>(bench.controller(), *bench.settings,
+                                                           bench.applications);
+        session->makeReport();
+        session.reset();
+        settle();
+    }
+
     void goesWhileItLooksAtTheComputer()
     {
         Workbench bench;

@@ -44,11 +44,26 @@ public:
     QString title;
     QVariantMap options;
     QString request;
-    bool old = false; // a portal that chooses another path for its request
+    bool isForNew = false; // the last question was for a file to write
+    bool old = false;      // a portal that chooses another path for its request
 
 public Q_SLOTS:
-    Q_SCRIPTABLE QDBusObjectPath OpenFile(const QString &, const QString &wantedTitle,
+    Q_SCRIPTABLE QDBusObjectPath OpenFile(const QString &parent, const QString &wantedTitle,
                                           const QVariantMap &wanted, const QDBusMessage &message)
+    {
+        isForNew = false;
+        return ask(parent, wantedTitle, wanted, message);
+    }
+    Q_SCRIPTABLE QDBusObjectPath SaveFile(const QString &parent, const QString &wantedTitle,
+                                          const QVariantMap &wanted, const QDBusMessage &message)
+    {
+        isForNew = true;
+        return ask(parent, wantedTitle, wanted, message);
+    }
+
+private:
+    QDBusObjectPath ask(const QString &, const QString &wantedTitle, const QVariantMap &wanted,
+                        const QDBusMessage &message)
     {
         title = wantedTitle;
         options = wanted;
@@ -59,7 +74,6 @@ public Q_SLOTS:
         return QDBusObjectPath(request);
     }
 
-private:
     QDBusConnection m_bus;
 };
 
@@ -140,6 +154,20 @@ private Q_SLOTS:
         QVERIFY(!qtDialog());
     }
 
+    void asksForAFileToWrite()
+    {
+        Portal portal(bus.connection());
+        FileChooser chooser(bus.connection());
+        QSignalSpy chosen(&chooser, &FileChooser::chosen);
+        chooser.ask({.title = u"Save"_s, .folder = u"/tmp"_s, .newName = u"report.txt"_s});
+        QVERIFY(until([&] { return !portal.request.isEmpty(); }));
+        QVERIFY(portal.isForNew);
+        QCOMPARE(portal.options.value(u"current_name"_s).toString(), u"report.txt"_s);
+        portal.answer(0, {u"file:///tmp/mine.txt"_s});
+        QVERIFY(until([&] { return chosen.count() == 1; }));
+        QCOMPARE(chosen.at(0).at(0).toStringList(), QStringList(u"/tmp/mine.txt"_s));
+    }
+
     void aCancelledDialogueChoosesNothing()
     {
         Portal portal(bus.connection());
@@ -165,6 +193,17 @@ private Q_SLOTS:
         QCOMPARE(qtDialog()->windowTitle(), u"Choose"_s);
         Q_EMIT qtDialog()->filesSelected({u"/usr/bin/tor"_s});
         QCOMPARE(chosen.count(), 1);
+        qtDialog()->close();
+    }
+
+    void qtsDialogueWritesAsWell()
+    {
+        FileChooser chooser(bus.connection());
+        chooser.ask({.title = u"Save"_s, .folder = u"/tmp"_s, .newName = u"report.txt"_s});
+        QVERIFY(until([&] { return qtDialog(); }));
+        QCOMPARE(qtDialog()->acceptMode(), QFileDialog::AcceptSave);
+        QCOMPARE(qtDialog()->fileMode(), QFileDialog::AnyFile);
+        QCOMPARE(qtDialog()->selectedFiles(), QStringList(u"/tmp/report.txt"_s));
         qtDialog()->close();
     }
 

@@ -37,6 +37,9 @@ private Q_SLOTS:
             << words("download-transports|--json") << "has no option";
         QTest::newRow("an option of launch")
             << words("launch|--json|a") << "launch has no option \"--json\"";
+        QTest::newRow("a report without its file")
+            << words("report|--json|--output") << "--output needs the name of a file";
+        QTest::newRow("a report with a word") << words("report|all") << "report doesn't take";
         QTest::newRow("line break in a verb") << words("a\nb") << "Unknown command \"a b\"";
         QTest::newRow("escape in a verb") << words("\x1b[31m") << "Unknown command \"?[31m\"";
         QTest::newRow("endless verb") << QStringList(QString(100000, u'x')) << "Unknown command";
@@ -81,6 +84,15 @@ private Q_SLOTS:
                  QStringLiteral("--odd"));
     }
 
+    void readsTheFileOfAReport()
+    {
+        const auto parsed = parseArguments({QStringLiteral("report"), QStringLiteral("--output"),
+                                            QStringLiteral("--odd"), QStringLiteral("--json")});
+        QVERIFY(parsed && parsed->verb == Id::report && parsed->json);
+        QCOMPARE(parsed->output, QStringLiteral("--odd"));
+        QVERIFY(usageText().contains(QStringLiteral("\n  report [--json] [--output FILE]\n")));
+    }
+
     void aValueMayLookLikeAnOption()
     {
         const auto parsed = parseArguments(
@@ -96,9 +108,10 @@ private Q_SLOTS:
 
     void theUsageNamesEveryCommand()
     {
-        for (const char *verb : {"run", "status", "connect", "disconnect", "restore", "check",
-                                 "fix-dns", "circuits", "close-circuit", "new-identity", "log",
-                                 "bridges", "download-transports", "apps", "launch", "get", "set"})
+        for (const char *verb :
+             {"run", "status", "connect", "disconnect", "restore", "check", "fix-dns", "circuits",
+              "close-circuit", "new-identity", "log", "bridges", "download-transports", "apps",
+              "launch", "report", "get", "set"})
             QVERIFY2(usageText().contains(QStringLiteral("\n  ") + QLatin1String(verb)), verb);
     }
 };

@@ -32,7 +32,7 @@ private Q_SLOTS:
         const QStringList fields
             = u"strictMode allowLocalNetwork separateApps exitCountry customTorPath bridgeChoice customBridges "
               "bypassApps autoConnect optimizeSpeed latencyMs optimizeStatus isOptimizing transports activeBridge "
-              "terminalMode phase activeMode bootstrapProgress statusDetail bootstrapProblem killSwitch killSwitchSince exitIP torVerified leakStatus "
+              "terminalMode phase phaseChanges activeMode bootstrapProgress statusDetail bootstrapProblem killSwitch killSwitchSince exitIP torVerified leakStatus "
               "bytesRead bytesWritten stall denyingFirewalls isChecking otherSession canCancel errorMessage dnsStatus passwordlessInstalled startupError circuits "
               "circuitError transportDownload terminalError terminalHint settingsProblems title menuBarSymbol level"_s
                   .split(u' ');
@@ -42,10 +42,40 @@ private Q_SLOTS:
         QCOMPARE(state.size(), fields.size());
         // Each field has a change signal.
         const QStringList derived = {u"title"_s, u"menuBarSymbol"_s, u"level"_s,
-                                     u"killSwitchSince"_s};
+                                     u"killSwitchSince"_s, u"phaseChanges"_s};
         for (const QString &field : fields)
             QVERIFY2(derived.contains(field) != (bench.controller().fieldNamed(field) != nullptr),
                      qPrintable(field));
+    }
+
+    void thePhasesHaveTheirTimes()
+    {
+        const auto before = QDateTime::currentDateTimeUtc();
+        Workbench bench;
+        const auto phases = [&bench] {
+            QStringList names;
+            for (const QJsonValue &change :
+                 publishedState(bench.controller())[u"phaseChanges"_s].toArray())
+                names << change[u"phase"_s].toString();
+            return names.join(u' ');
+        };
+        QCOMPARE(phases(), u"disconnected"_s);
+        QVERIFY(bench.connect());
+        bench.disconnect();
+        QCOMPARE(phases(), u"disconnected connecting connected disconnecting disconnected"_s);
+        QDateTime last = before.addMSecs(-1);
+        for (const QJsonValue &change :
+             publishedState(bench.controller())[u"phaseChanges"_s].toArray()) {
+            const auto at = QDateTime::fromString(change[u"at"_s].toString(), Qt::ISODateWithMs);
+            QVERIFY(at.isValid() && at >= last && at <= QDateTime::currentDateTimeUtc());
+            last = at;
+        }
+        for (int i = 0; i < 12; ++i) {
+            QVERIFY(bench.connect());
+            bench.disconnect();
+        }
+        QCOMPARE(bench.controller().phaseChanges().size(), TorController::mostPhaseChanges);
+        QVERIFY(phases().endsWith(u" disconnecting disconnected"_s));
     }
 
     void withoutASession()

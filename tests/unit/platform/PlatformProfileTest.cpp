@@ -45,6 +45,7 @@ QString table(const PlatformProfile &p)
         {"manualRestoreCommand", p.manualRestoreCommand},
         {"sessionMarker", p.sessionMarker},
         {"sessionOwner", p.sessionOwner},
+        {"journalDirectory", p.journalDirectory},
         {"killSwitchNote", p.killSwitchNote},
         {"othersNote", p.othersNote},
         {"approvedPrograms", p.approvedPrograms},
@@ -162,6 +163,7 @@ homePage:
 manualRestoreCommand: sudo bash /nowhere/usr/share/veldmark/veldmark-helper.sh disconnect
 sessionMarker: /nowhere/var/lib/veldmark/state/active
 sessionOwner: /nowhere/var/lib/veldmark/state/owner
+journalDirectory: /nowhere/var/lib/veldmark/journal
 killSwitchNote: /nowhere/run/veldmark.watch
 othersNote: /nowhere/run/veldmark.others
 approvedPrograms: /nowhere/var/lib/veldmark/programs
@@ -205,6 +207,7 @@ homePage:
 manualRestoreCommand: sudo bash /Applications/Veldmark.app/Contents/Resources/veldmark-helper.sh disconnect
 sessionMarker: /nowhere/Library/Application Support/Veldmark/state/active
 sessionOwner: 
+journalDirectory: /nowhere/Library/Application Support/Veldmark/journal
 killSwitchNote: /nowhere/var/run/veldmark.watch
 othersNote: 
 approvedPrograms: /nowhere/var/db/veldmark/programs

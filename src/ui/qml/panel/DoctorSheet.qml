@@ -7,6 +7,7 @@ import Veldmark
 Sheet {
     id: sheet
     required property DoctorModel model
+    signal reportWanted()
 
     title: qsTr("This computer")
     onAboutToShow: model.examine()
@@ -78,6 +79,15 @@ Sheet {
             symbol: "arrow.triangle.2.circlepath"
             enabled: !sheet.model.busy
             onClicked: sheet.model.examine()
+        },
+        PushButton {
+            text: qsTr("Show Report")
+            symbol: "doc.text"
+            help: qsTr("What others need to help you, without addresses, names and bridges")
+            onClicked: {
+                sheet.close()
+                sheet.reportWanted()
+            }
         }
     ]
 }

@@ -9,7 +9,7 @@ Rectangle {
     required property OptionsModel options
     readonly property int wantedHeight: column.implicitHeight + 2 * area.margin + footer.implicitHeight + 16
     readonly property bool escapes: !doctor.visible && !bridges.visible && !applications.visible && !card.choosing // no item uses Escape
-    signal windowWanted(string name) // "circuits", "log", "settings"
+    signal windowWanted(string name) // "circuits", "log", "settings", "report"
     signal chooserWanted()
     signal quitWanted()
 
@@ -110,7 +110,12 @@ Rectangle {
         onLogWanted: panel.windowWanted("log")
         onQuitWanted: panel.quitWanted()
     }
-    DoctorSheet { id: doctor; objectName: "doctor"; model: panel.model.doctor }
+    DoctorSheet {
+        id: doctor
+        objectName: "doctor"
+        model: panel.model.doctor
+        onReportWanted: panel.windowWanted("report")
+    }
     BridgesSheet { id: bridges; objectName: "bridges"; model: panel.options }
     ApplicationsSheet {
         id: applications

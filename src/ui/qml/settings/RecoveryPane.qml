@@ -5,6 +5,7 @@ import Veldmark
 Pane {
     id: pane
     required property SettingsModel model
+    signal reportWanted()
     title: qsTr("Recovery")
     subtitle: qsTr("Get your normal connection back")
     Component.onCompleted: model.lookAgain()
@@ -39,6 +40,19 @@ Pane {
             Layout.fillWidth: true
             text: pane.model.restoreCommand
             onCopied: text => pane.model.copy(text)
+        }
+    }
+    Card {
+        Layout.fillWidth: true
+        contentSpacing: 12
+        SettingRow {
+            symbol: "stethoscope"
+            title: qsTr("Report for others")
+            subtitle: qsTr("What they need to help you, without addresses, names and bridges. You read it first, and nothing sends it.")
+            PushButton {
+                text: qsTr("Show Report")
+                onClicked: pane.reportWanted()
+            }
         }
     }
 }

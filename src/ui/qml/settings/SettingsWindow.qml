@@ -9,6 +9,7 @@ Window {
     required property SettingsModel model
     property int pane: 0
     signal torChooserWanted()
+    signal windowWanted(string name) // "report"
     signal quitWanted()
 
     title: qsTr("Settings")
@@ -32,7 +33,7 @@ Window {
     Component { id: tor; TorPane { model: window.model; onChooserWanted: window.torChooserWanted() } }
     Component { id: bridges; BridgesPane { model: window.model } }
     Component { id: terminal; TerminalPane { model: window.model } }
-    Component { id: recovery; RecoveryPane { model: window.model } }
+    Component { id: recovery; RecoveryPane { model: window.model; onReportWanted: window.windowWanted("report") } }
     Component { id: about; AboutPane { model: window.model } }
 
     RowLayout {
