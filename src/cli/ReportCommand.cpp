@@ -20,9 +20,9 @@ using namespace std::chrono_literals;
 constexpr auto instanceLimit = 5s;
 
 // The instance's state, or a sentence that says why it gave none.
-using Answer = Result<QJsonObject, Text>;
+using GivenState = Result<QJsonObject, Text>;
 
-QCoro::Task<void> ask(std::shared_ptr<InstanceClient> instance, ResumeOnce<Answer> answered)
+QCoro::Task<void> ask(std::shared_ptr<InstanceClient> instance, ResumeOnce<GivenState> answered)
 {
     const auto last = std::make_shared<QJsonObject>();
     const InstanceClient::OnState onState = [last](const QJsonObject &state, const QJsonObject &) {
@@ -31,7 +31,7 @@ QCoro::Task<void> ask(std::shared_ptr<InstanceClient> instance, ResumeOnce<Answe
     const QJsonObject request{{QStringLiteral("command"), QStringLiteral("status")}};
     auto running = instance->run(request, onState);
     const auto ended = co_await running;
-    answered.complete(ended ? Answer(*last) : Answer(Failure(ended.error().description())));
+    answered.complete(ended ? GivenState(*last) : GivenState(Failure(ended.error().description())));
 }
 
 QCoro::Task<QJsonObject> ownState(std::shared_ptr<RealController> real)
@@ -49,7 +49,7 @@ QCoro::Task<ReportMaker::Given> givenBy(std::shared_ptr<InstanceClient> instance
     ReportMaker::Given given;
     given.settings = settingNames(real->controller());
     if (instance) {
-        const ResumeOnce<Answer> answered;
+        const ResumeOnce<GivenState> answered;
         QTimer limit;
         limit.setSingleShot(true);
         QObject::connect(&limit, &QTimer::timeout, &limit, [answered] {
@@ -57,7 +57,7 @@ QCoro::Task<ReportMaker::Given> givenBy(std::shared_ptr<InstanceClient> instance
         });
         limit.start(instanceLimit);
         ask(instance, answered);
-        const Answer answer = co_await answered;
+        const GivenState answer = co_await answered;
         if (answer) {
             given.state = *answer;
             co_return given;

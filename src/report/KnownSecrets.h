@@ -20,8 +20,8 @@ struct KnownSecrets {
     // (PublishedState.h).
     static KnownSecrets of(const PlatformProfile &profile, const QJsonObject &state);
 
-    // Words that every report has, so that they tell nothing as somebody's name. Replacing them
-    // would tell.
+    // Words that every report has, so that they tell nothing as a user's name. Replacing them would
+    // tell.
     static bool isOrdinary(const QString &name);
 };
 
