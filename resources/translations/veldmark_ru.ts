@@ -595,7 +595,7 @@
     <name>ProgramRow</name>
     <message>
         <source>Found %1</source>
-        <translation>Найдено: %1</translation>
+        <translation>Найдено %1</translation>
     </message>
     <message>
         <source>Not found</source>
@@ -991,7 +991,7 @@
     </message>
     <message>
         <source>Leads to an onion service. The last relay is the meeting point.</source>
-        <translation>Ведёт к onion-сервису, который соединяется с ней на её последнем узле</translation>
+        <translation>Ведёт к onion-сервису. Последний узел — точка встречи.</translation>
     </message>
     <message>
         <source>Meeting point</source>
@@ -1066,7 +1066,7 @@
     </message>
     <message>
         <source>The check gave no result.</source>
-        <translation>Ничего выяснить не удалось.</translation>
+        <translation>Проверка не дала результата.</translation>
     </message>
     <message>
         <source>No problem was found that keeps Veldmark from connecting.</source>
@@ -1211,11 +1211,11 @@
     </message>
     <message>
         <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
-        <translation>Прямое соединение в обход Tor осталось без ответа, но неизвестно, перекрывает ли kill switch этот путь</translation>
+        <translation>Прямое соединение в обход Tor осталось без ответа, но неизвестно, блокирует ли kill switch такие соединения</translation>
     </message>
     <message>
         <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
-        <translation>Прямое соединение в обход Tor осталось без ответа, но режим прокси не перекрывает этот путь</translation>
+        <translation>Прямое соединение в обход Tor осталось без ответа, но режим прокси не блокирует такие соединения</translation>
     </message>
     <message>
         <source>Connect to Tor</source>
@@ -1341,7 +1341,7 @@
     </message>
     <message>
         <source>Missing</source>
-        <translation>Нет</translation>
+        <translation>Отсутствует</translation>
     </message>
     <message>
         <source>Not found</source>
@@ -1373,7 +1373,7 @@
     </message>
     <message>
         <source>signature verified</source>
-        <translation>подпись проверена</translation>
+        <translation>подпись подтверждена</translation>
     </message>
     <message>
         <source>Adds one line to ~/.zshrc (and ~/.bash_profile if you have one) and an Include line at the top of ~/.ssh/config. Its files live in ~/.veldmark. Nothing is routed unless Veldmark is connected with Terminal mode on.</source>
@@ -1487,7 +1487,7 @@
     </message>
     <message>
         <source>Waiting for an administrator to approve a program…</source>
-        <translation>Администратор должен разрешить программу…</translation>
+        <translation>Ожидание, пока администратор одобрит программу…</translation>
     </message>
     <message>
         <source>Starting Tor…</source>
@@ -1707,7 +1707,7 @@
     </message>
     <message>
         <source>This computer has no network. Traffic around Tor stays blocked.</source>
-        <translation>На этом компьютере нет сети. При этом мимо Tor ничего не уходит.</translation>
+        <translation>На этом компьютере нет сети. Трафик мимо Tor по-прежнему блокируется.</translation>
     </message>
     <message>
         <source>This computer has no network. Veldmark goes on when it is back.</source>
@@ -1715,7 +1715,7 @@
     </message>
     <message>
         <source>Tor has no working circuit and keeps trying. Traffic around Tor stays blocked.</source>
-        <translation>У Tor нет работающей цепочки, он продолжает попытки. При этом мимо Tor ничего не уходит.</translation>
+        <translation>У Tor нет работающей цепочки, он продолжает попытки. Трафик мимо Tor по-прежнему блокируется.</translation>
     </message>
     <message>
         <source>Tor has no working circuit and keeps trying.</source>
@@ -1723,7 +1723,7 @@
     </message>
     <message>
         <source>Tor gets no answer from the network and keeps trying. Traffic around Tor stays blocked.</source>
-        <translation>Tor не получает ответа из сети и продолжает попытки. При этом мимо Tor ничего не уходит.</translation>
+        <translation>Tor не получает ответа из сети и продолжает попытки. Трафик мимо Tor по-прежнему блокируется.</translation>
     </message>
     <message>
         <source>Tor gets no answer from the network and keeps trying.</source>
@@ -1839,11 +1839,11 @@
     </message>
     <message>
         <source>Another Veldmark of yours has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
-        <translation>С тех пор сеанс начал другой ваш экземпляр Veldmark, поэтому ничего не завершено. Чтобы завершить этот сеанс, отключитесь ещё раз.</translation>
+        <translation>С тех пор сеанс начал другой ваш экземпляр Veldmark, поэтому ни один сеанс не завершён. Чтобы завершить тот сеанс, отключитесь ещё раз.</translation>
     </message>
     <message>
         <source>Another user&apos;s Veldmark has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
-        <translation>С тех пор сеанс начал Veldmark другого пользователя, поэтому ничего не завершено. Чтобы завершить этот сеанс, отключитесь ещё раз.</translation>
+        <translation>С тех пор сеанс начал Veldmark другого пользователя, поэтому ни один сеанс не завершён. Чтобы завершить тот сеанс, отключитесь ещё раз.</translation>
     </message>
     <message>
         <source>Your network is set up for Tor by another Veldmark of yours, process %1</source>
@@ -1919,7 +1919,7 @@
     </message>
     <message>
         <source>The connection was lost before the download ended.</source>
-        <translation>Соединение оборвалось раньше времени.</translation>
+        <translation>Соединение прервалось до окончания загрузки.</translation>
     </message>
     <message>
         <source>Not connected to Tor&apos;s control port.</source>
@@ -1995,7 +1995,7 @@
     </message>
     <message>
         <source>Bridge programs %1 installed over HTTPS. Install GnuPG (%2) and download again to also verify the Tor Project&apos;s signature.</source>
-        <translation>Программы для мостов %1 загружены по HTTPS и установлены. Чтобы проверить и подпись Проекта Tor, установите GnuPG (%2) и загрузите их ещё раз.</translation>
+        <translation>Программы для мостов версии %1 загружены по HTTPS и установлены. Чтобы проверить и подпись Проекта Tor, установите GnuPG (%2) и загрузите их ещё раз.</translation>
     </message>
     <message>
         <source>The download&apos;s signature didn&apos;t verify, so it was discarded. %1</source>
@@ -2063,7 +2063,7 @@
     </message>
     <message>
         <source>The clock is behind: it shows %1, but the file %2 was written on %3. Tor needs a clock that is right to within minutes.</source>
-        <translation>Часы отстают: они показывают %1, но файл %2 записан %3. Tor нужны часы, верные с точностью до минут.</translation>
+        <translation>Часы отстают: они показывают %1, но файл %2 записан %3. Tor нужны часы, верные с точностью до нескольких минут.</translation>
     </message>
     <message>
         <source>The clock is set from the network. It shows %1.</source>
@@ -2071,7 +2071,7 @@
     </message>
     <message>
         <source>It isn&apos;t known whether the clock is right: no time service seems to set it. It shows %1. Tor needs it right to within minutes.</source>
-        <translation>Верны ли часы, неизвестно: не видно, чтобы что-то синхронизировало их по сети. Они показывают %1. Tor нужны часы, верные с точностью до минут.</translation>
+        <translation>Верны ли часы, неизвестно: не видно, чтобы что-то синхронизировало их по сети. Они показывают %1. Tor нужны часы, верные с точностью до нескольких минут.</translation>
     </message>
     <message>
         <source>nftables isn&apos;t installed. Veldmark&apos;s firewall needs it.</source>
@@ -2111,7 +2111,7 @@
     </message>
     <message>
         <source>No other firewall that Veldmark knows runs. Only root can read the rules themselves.</source>
-        <translation>Других брандмауэров, известных по имени, не запущено. Сами правила видны только root.</translation>
+        <translation>Других известных Veldmark брандмауэров не запущено. Прочитать сами правила может только root.</translation>
     </message>
     <message>
         <source>Another firewall on this computer blocks outgoing traffic that its rules don&apos;t allow, so Tor may not get through: %1.</source>
@@ -2135,11 +2135,11 @@
     </message>
     <message>
         <source>No known polkit agent, the program that asks for the password, runs in your session. Use sudo, or start an agent such as lxpolkit.</source>
-        <translation>В вашем сеансе не запущено ни одной известной программы, запрашивающей пароли для polkit (агента). Без неё используйте sudo или запустите агент, например lxpolkit.</translation>
+        <translation>В вашем сеансе не запущен ни один известный агент polkit — программа, запрашивающая пароль. Используйте sudo или запустите агент, например lxpolkit.</translation>
     </message>
     <message>
         <source>polkit is installed, and an agent that asks for the password runs in your session.</source>
-        <translation>polkit есть, и в вашем сеансе запущена программа, запрашивающая для него пароли.</translation>
+        <translation>polkit установлен, и в вашем сеансе запущен агент, запрашивающий пароль.</translation>
     </message>
     <message>
         <source>Veldmark runs as root here and asks for no password.</source>
@@ -2207,11 +2207,11 @@
     </message>
     <message>
         <source>The helper is missing. Reinstall Veldmark.</source>
-        <translation>Нет вспомогательного скрипта Veldmark. Установите Veldmark заново.</translation>
+        <translation>Нет вспомогательной программы Veldmark. Установите Veldmark заново.</translation>
     </message>
     <message>
         <source>Accounts other than root can change Veldmark&apos;s helper, %1, and with it what the administrator&apos;s password runs.</source>
-        <translation>Вспомогательная программа Veldmark, %1, лежит там, куда может писать не только root. Другие могут изменить её, а с ней и то, что запускается по паролю администратора.</translation>
+        <translation>Не только root, но и другие учётные записи могут изменить вспомогательную программу Veldmark, %1, а с ней и то, что запускается по паролю администратора.</translation>
     </message>
     <message>
         <source>Veldmark&apos;s helper, %1, is not installed: the account %2 can change it, and with it what the administrator&apos;s password runs.</source>
@@ -2243,7 +2243,7 @@
     </message>
     <message>
         <source>%1 manages DNS. Veldmark changes that while connected and restores it afterwards.</source>
-        <translation>DNS-имена ищутся так, как указано в %1. Veldmark переключает это и возвращает обратно.</translation>
+        <translation>За DNS отвечает %1. На время подключения Veldmark меняет это, а потом восстанавливает.</translation>
     </message>
     <message>
         <source>Veldmark wrote %1. It points DNS at Tor.</source>
@@ -2251,11 +2251,11 @@
     </message>
     <message>
         <source>The file %1 is missing, so DNS may not work at all.</source>
-        <translation>Файла %1 нет, поэтому DNS-имена могут не находиться совсем.</translation>
+        <translation>Файла %1 нет, поэтому DNS может не работать совсем.</translation>
     </message>
     <message>
         <source>A resolver on this computer answers DNS. Veldmark changes that while connected and restores it afterwards.</source>
-        <translation>DNS-имена ищет резолвер на этом компьютере. Veldmark переключает это и возвращает обратно.</translation>
+        <translation>На DNS-запросы отвечает резолвер на этом компьютере. На время подключения Veldmark меняет это, а потом восстанавливает.</translation>
     </message>
     <message>
         <source>No earlier session is left open.</source>
@@ -2291,7 +2291,7 @@
     </message>
     <message>
         <source>%1 of %2 MB (%3%)</source>
-        <translation>%1 из %2 МБ (%3 %)</translation>
+        <translation>%1 из %2 МБ (%3 %)</translation>
     </message>
     <message>
         <source>Veldmark needs administrator access to manage Tor routing on this computer. While connected, Veldmark stops the system&apos;s own Tor service.</source>
@@ -2419,7 +2419,7 @@
     </message>
     <message>
         <source>A command is missing. &quot;veldmarkctl help&quot; lists the commands.</source>
-        <translation>Что нужно сделать? Список команд выводит «veldmarkctl help».</translation>
+        <translation>Не указана команда. Список команд выводит «veldmarkctl help».</translation>
     </message>
     <message>
         <source>Unknown command %1. &quot;veldmarkctl help&quot; lists the commands.</source>
@@ -2461,7 +2461,7 @@
     </message>
     <message>
         <source>doesn&apos;t say which transports it serves</source>
-        <translation>не сообщает, что поддерживает</translation>
+        <translation>не сообщает, какие транспорты поддерживает</translation>
     </message>
     <message>
         <source>serves %1</source>
@@ -2481,7 +2481,7 @@
     </message>
     <message>
         <source>signature verified</source>
-        <translation>подпись проверена</translation>
+        <translation>подпись подтверждена</translation>
     </message>
     <message>
         <source>signature not verified</source>
@@ -2501,7 +2501,7 @@
     </message>
     <message>
         <source>Installed Tor Expert Bundle %1, signature verified.</source>
-        <translation>Tor Expert Bundle %1 установлен, подпись проверена.</translation>
+        <translation>Tor Expert Bundle %1 установлен, подпись подтверждена.</translation>
     </message>
     <message>
         <source>Veldmark isn&apos;t running. Start it with: veldmarkctl run --connect</source>
@@ -2597,11 +2597,11 @@
     </message>
     <message>
         <source>no answer, but it isn&apos;t known whether the kill switch blocks it</source>
-        <translation>нет ответа, но неизвестно, перекрывает ли его kill switch</translation>
+        <translation>нет ответа, но неизвестно, блокирует ли его kill switch</translation>
     </message>
     <message>
         <source>no answer, but proxy mode doesn&apos;t block it</source>
-        <translation>нет ответа, но режим прокси его не перекрывает</translation>
+        <translation>нет ответа, но режим прокси его не блокирует</translation>
     </message>
     <message>
         <source>checking…</source>
@@ -2769,7 +2769,7 @@
     </message>
     <message>
         <source>strict mode with the kill switch, else proxy mode</source>
-        <translation>kill switch, иначе режим прокси</translation>
+        <translation>строгий режим с kill switch, иначе режим прокси</translation>
     </message>
     <message>
         <source>strict mode lets the local network through</source>
@@ -2781,7 +2781,7 @@
     </message>
     <message>
         <source>the path of the tor to use, or nothing to search for tor</source>
-        <translation>какой tor использовать, или пусто — искать его</translation>
+        <translation>путь к нужному tor или пусто — искать его</translation>
     </message>
     <message>
         <source>which bridges</source>
@@ -2909,7 +2909,7 @@
     </message>
     <message>
         <source>restore the network and stop Tor, also after a crash</source>
-        <translation>то же самое, в том числе после сбоя</translation>
+        <translation>восстановить сеть и остановить Tor, в том числе после сбоя</translation>
     </message>
     <message>
         <source>check the exit address, the direct path and DNS now</source>
@@ -2925,7 +2925,7 @@
     </message>
     <message>
         <source>close a circuit; its sites get a fresh path on their next request</source>
-        <translation>закрыть одну; при следующем запросе её сайты получат новый путь</translation>
+        <translation>закрыть цепочку; при следующем запросе её сайты получат новый путь</translation>
     </message>
     <message>
         <source>close-circuit needs a circuit&apos;s number; &quot;veldmarkctl circuits&quot; shows them.</source>
@@ -3093,7 +3093,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>An administrator password is needed to approve %1.</source>
-        <translation>Чтобы разрешить %1, нужен пароль администратора.</translation>
+        <translation>Чтобы одобрить %1, нужен пароль администратора.</translation>
     </message>
     <message>
         <source>An administrator password is needed to change the running strict session.</source>
@@ -3133,7 +3133,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>Passwordless mode can be set up only for the user who asks.</source>
-        <translation>Доступ можно дать только тому пользователю, который его запрашивает.</translation>
+        <translation>Режим без пароля можно настроить только для того пользователя, который об этом просит.</translation>
     </message>
     <message>
         <source>Another program is changing the firewall. Try again in a moment.</source>
@@ -3217,7 +3217,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>The firewall rules cannot be read, so nothing was done.</source>
-        <translation>Не удаётся проверить брандмауэр, поэтому ничего не сделано.</translation>
+        <translation>Не удаётся прочитать правила брандмауэра, поэтому ничего не сделано.</translation>
     </message>
     <message>
         <source>The firewall cannot be switched on (%1).</source>
@@ -3305,7 +3305,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>The former network settings could not all be restored.</source>
-        <translation>Не удалось восстановить все прежние настройки сети.</translation>
+        <translation>Восстановлены не все прежние настройки сети.</translation>
     </message>
     <message>
         <source>The hashed control password is not valid.</source>
@@ -3481,7 +3481,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>The SHA-256 of the program %1 is not the one to approve.</source>
-        <translation>Программа %1 — не та, которую нужно было разрешить.</translation>
+        <translation>SHA-256 программы %1 — не тот, который нужно было одобрить.</translation>
     </message>
     <message>
         <source>The program given with %1 is not an executable file.</source>
@@ -3733,7 +3733,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>The program systemd-run is missing. Veldmark needs it to make a group for a program.</source>
-        <translation>Нет программы systemd-run, создающей группы для программ.</translation>
+        <translation>Нет программы systemd-run. Она нужна Veldmark, чтобы создать группу для программы.</translation>
     </message>
     <message>
         <source>The program could not be started: %1.</source>
@@ -3783,7 +3783,7 @@ name in the same session has the same ones</source>
     </message>
     <message>
         <source>No package of the system installed %1. The next connect asks an administrator to approve it.</source>
-        <translation>%1 не входит ни в один пакет системы. При следующем подключении администратора попросят его одобрить.</translation>
+        <translation>%1 не входит ни в один пакет системы. При следующем подключении администратора попросят одобрить этот файл.</translation>
     </message>
     <message>
         <source>It isn&apos;t known whether a connect can work.</source>
@@ -3839,7 +3839,7 @@ name in the same session has the same ones</source>
     </message>
     <message>
         <source>The running instance gave no state: %1</source>
-        <translation>Запущенный экземпляр не сообщил своё состояние: %1</translation>
+        <translation>Запущенный экземпляр не сообщил о своём состоянии: %1</translation>
     </message>
     <message>
         <source>a report for those who help you: settings, findings and log without addresses,
