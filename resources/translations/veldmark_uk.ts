@@ -595,7 +595,7 @@
     <name>ProgramRow</name>
     <message>
         <source>Found %1</source>
-        <translation>Знайдено: %1</translation>
+        <translation>Знайдено %1</translation>
     </message>
     <message>
         <source>Not found</source>
@@ -991,7 +991,7 @@
     </message>
     <message>
         <source>Leads to an onion service. The last relay is the meeting point.</source>
-        <translation>Веде до onion-сервісу, який сполучається з цим ланцюгом на його останньому вузлі</translation>
+        <translation>Веде до onion-сервісу. Останній вузол — точка зустрічі.</translation>
     </message>
     <message>
         <source>Meeting point</source>
@@ -1066,7 +1066,7 @@
     </message>
     <message>
         <source>The check gave no result.</source>
-        <translation>Нічого з’ясувати не вдалося.</translation>
+        <translation>Перевірка не дала результату.</translation>
     </message>
     <message>
         <source>No problem was found that keeps Veldmark from connecting.</source>
@@ -1211,11 +1211,11 @@
     </message>
     <message>
         <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
-        <translation>Пряме з’єднання повз Tor лишилося без відповіді, але невідомо, чи аварійне блокування перекриває цей шлях</translation>
+        <translation>Пряме з’єднання повз Tor лишилося без відповіді, але невідомо, чи аварійне блокування перекриває такі з’єднання</translation>
     </message>
     <message>
         <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
-        <translation>Пряме з’єднання повз Tor лишилося без відповіді, але режим проксі не перекриває цей шлях</translation>
+        <translation>Пряме з’єднання повз Tor лишилося без відповіді, але режим проксі не перекриває таких з’єднань</translation>
     </message>
     <message>
         <source>Connect to Tor</source>
@@ -1307,7 +1307,7 @@
     </message>
     <message>
         <source>Exposed: %1</source>
-        <translation>Видно: %1</translation>
+        <translation>Розкрито: %1</translation>
     </message>
     <message>
         <source>Tries a direct connection that skips Tor</source>
@@ -1373,7 +1373,7 @@
     </message>
     <message>
         <source>signature verified</source>
-        <translation>підпис перевірено</translation>
+        <translation>підпис підтверджено</translation>
     </message>
     <message>
         <source>Adds one line to ~/.zshrc (and ~/.bash_profile if you have one) and an Include line at the top of ~/.ssh/config. Its files live in ~/.veldmark. Nothing is routed unless Veldmark is connected with Terminal mode on.</source>
@@ -1707,7 +1707,7 @@
     </message>
     <message>
         <source>This computer has no network. Traffic around Tor stays blocked.</source>
-        <translation>На цьому комп’ютері немає мережі. Тим часом нічого не виходить назовні повз Tor.</translation>
+        <translation>На цьому комп’ютері немає мережі. Трафік повз Tor і далі блокується.</translation>
     </message>
     <message>
         <source>This computer has no network. Veldmark goes on when it is back.</source>
@@ -1715,7 +1715,7 @@
     </message>
     <message>
         <source>Tor has no working circuit and keeps trying. Traffic around Tor stays blocked.</source>
-        <translation>Tor не має робочого ланцюга й продовжує спроби. Тим часом нічого не виходить назовні повз нього.</translation>
+        <translation>Tor не має робочого ланцюга й продовжує спроби. Трафік повз Tor і далі блокується.</translation>
     </message>
     <message>
         <source>Tor has no working circuit and keeps trying.</source>
@@ -1723,7 +1723,7 @@
     </message>
     <message>
         <source>Tor gets no answer from the network and keeps trying. Traffic around Tor stays blocked.</source>
-        <translation>Tor не отримує відповіді з мережі й продовжує спроби. Тим часом нічого не виходить назовні повз нього.</translation>
+        <translation>Tor не отримує відповіді з мережі й продовжує спроби. Трафік повз Tor і далі блокується.</translation>
     </message>
     <message>
         <source>Tor gets no answer from the network and keeps trying.</source>
@@ -1839,11 +1839,11 @@
     </message>
     <message>
         <source>Another Veldmark of yours has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
-        <translation>Інший ваш Veldmark тим часом почав сеанс, тому нічого не завершено. Щоб завершити той сеанс, від’єднайтеся ще раз.</translation>
+        <translation>Інший ваш Veldmark тим часом почав сеанс, тому жодного сеансу не завершено. Щоб завершити той сеанс, від’єднайтеся ще раз.</translation>
     </message>
     <message>
         <source>Another user&apos;s Veldmark has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
-        <translation>Veldmark іншого користувача тим часом почав сеанс, тому нічого не завершено. Щоб завершити той сеанс, від’єднайтеся ще раз.</translation>
+        <translation>Veldmark іншого користувача тим часом почав сеанс, тому жодного сеансу не завершено. Щоб завершити той сеанс, від’єднайтеся ще раз.</translation>
     </message>
     <message>
         <source>Your network is set up for Tor by another Veldmark of yours, process %1</source>
@@ -1919,7 +1919,7 @@
     </message>
     <message>
         <source>The connection was lost before the download ended.</source>
-        <translation>З’єднання перервалося до завершення.</translation>
+        <translation>З’єднання перервалося до завершення завантаження.</translation>
     </message>
     <message>
         <source>Not connected to Tor&apos;s control port.</source>
@@ -1995,7 +1995,7 @@
     </message>
     <message>
         <source>Bridge programs %1 installed over HTTPS. Install GnuPG (%2) and download again to also verify the Tor Project&apos;s signature.</source>
-        <translation>Програми для мостів %1 завантажено через HTTPS і встановлено. Щоб перевірити ще й підпис Проєкту Tor, установіть GnuPG (%2) і завантажте їх знову.</translation>
+        <translation>Програми для мостів версії %1 завантажено через HTTPS і встановлено. Щоб перевірити ще й підпис Проєкту Tor, установіть GnuPG (%2) і завантажте їх знову.</translation>
     </message>
     <message>
         <source>The download&apos;s signature didn&apos;t verify, so it was discarded. %1</source>
@@ -2111,7 +2111,7 @@
     </message>
     <message>
         <source>No other firewall that Veldmark knows runs. Only root can read the rules themselves.</source>
-        <translation>Інших брандмауерів, відомих за назвою, не запущено. Самі правила відомі лише root.</translation>
+        <translation>Інших відомих Veldmark брандмауерів не запущено. Прочитати самі правила може лише root.</translation>
     </message>
     <message>
         <source>Another firewall on this computer blocks outgoing traffic that its rules don&apos;t allow, so Tor may not get through: %1.</source>
@@ -2135,11 +2135,11 @@
     </message>
     <message>
         <source>No known polkit agent, the program that asks for the password, runs in your session. Use sudo, or start an agent such as lxpolkit.</source>
-        <translation>У вашому сеансі не запущено жодної відомої програми, що запитує паролі для polkit (агента). Без неї користуйтеся sudo або запустіть агент, наприклад lxpolkit.</translation>
+        <translation>У вашому сеансі не запущено жодного відомого агента polkit — програми, що запитує пароль. Скористайтеся sudo або запустіть агент, наприклад lxpolkit.</translation>
     </message>
     <message>
         <source>polkit is installed, and an agent that asks for the password runs in your session.</source>
-        <translation>polkit є, і у вашому сеансі запущено програму, що запитує для нього паролі.</translation>
+        <translation>polkit встановлено, і у вашому сеансі запущено агент, що запитує пароль.</translation>
     </message>
     <message>
         <source>Veldmark runs as root here and asks for no password.</source>
@@ -2207,11 +2207,11 @@
     </message>
     <message>
         <source>The helper is missing. Reinstall Veldmark.</source>
-        <translation>Бракує допоміжного скрипту Veldmark. Установіть Veldmark знову.</translation>
+        <translation>Бракує допоміжної програми Veldmark. Установіть Veldmark знову.</translation>
     </message>
     <message>
         <source>Accounts other than root can change Veldmark&apos;s helper, %1, and with it what the administrator&apos;s password runs.</source>
-        <translation>Допоміжна програма Veldmark, %1, міститься там, куди може писати не лише root. Інші можуть змінити її, а отже й те, що запускається з паролем адміністратора.</translation>
+        <translation>Не лише root, а й інші облікові записи можуть змінити допоміжну програму Veldmark, %1, а отже й те, що запускається з паролем адміністратора.</translation>
     </message>
     <message>
         <source>Veldmark&apos;s helper, %1, is not installed: the account %2 can change it, and with it what the administrator&apos;s password runs.</source>
@@ -2243,7 +2243,7 @@
     </message>
     <message>
         <source>%1 manages DNS. Veldmark changes that while connected and restores it afterwards.</source>
-        <translation>Імена DNS визначаються так, як указано в %1. Veldmark перемикає це й повертає назад.</translation>
+        <translation>За DNS відповідає %1. На час під’єднання Veldmark змінює це, а потім відновлює.</translation>
     </message>
     <message>
         <source>Veldmark wrote %1. It points DNS at Tor.</source>
@@ -2251,11 +2251,11 @@
     </message>
     <message>
         <source>The file %1 is missing, so DNS may not work at all.</source>
-        <translation>Файлу %1 немає, тому імена DNS можуть не визначатися взагалі.</translation>
+        <translation>Файлу %1 немає, тому DNS може не працювати взагалі.</translation>
     </message>
     <message>
         <source>A resolver on this computer answers DNS. Veldmark changes that while connected and restores it afterwards.</source>
-        <translation>Імена DNS визначає служба на цьому комп’ютері. Veldmark перемикає це й повертає назад.</translation>
+        <translation>На DNS-запити відповідає служба на цьому комп’ютері. На час під’єднання Veldmark змінює це, а потім відновлює.</translation>
     </message>
     <message>
         <source>No earlier session is left open.</source>
@@ -2291,7 +2291,7 @@
     </message>
     <message>
         <source>%1 of %2 MB (%3%)</source>
-        <translation>%1 із %2 МБ (%3 %)</translation>
+        <translation>%1 із %2 МБ (%3 %)</translation>
     </message>
     <message>
         <source>Veldmark needs administrator access to manage Tor routing on this computer. While connected, Veldmark stops the system&apos;s own Tor service.</source>
@@ -2419,7 +2419,7 @@
     </message>
     <message>
         <source>A command is missing. &quot;veldmarkctl help&quot; lists the commands.</source>
-        <translation>Що зробити? Список команд показує «veldmarkctl help».</translation>
+        <translation>Не вказано команди. Список команд показує «veldmarkctl help».</translation>
     </message>
     <message>
         <source>Unknown command %1. &quot;veldmarkctl help&quot; lists the commands.</source>
@@ -2461,7 +2461,7 @@
     </message>
     <message>
         <source>doesn&apos;t say which transports it serves</source>
-        <translation>не повідомляє, що підтримує</translation>
+        <translation>не повідомляє, які транспорти підтримує</translation>
     </message>
     <message>
         <source>serves %1</source>
@@ -2481,7 +2481,7 @@
     </message>
     <message>
         <source>signature verified</source>
-        <translation>підпис перевірено</translation>
+        <translation>підпис підтверджено</translation>
     </message>
     <message>
         <source>signature not verified</source>
@@ -2501,7 +2501,7 @@
     </message>
     <message>
         <source>Installed Tor Expert Bundle %1, signature verified.</source>
-        <translation>Tor Expert Bundle %1 встановлено, підпис перевірено.</translation>
+        <translation>Tor Expert Bundle %1 встановлено, підпис підтверджено.</translation>
     </message>
     <message>
         <source>Veldmark isn&apos;t running. Start it with: veldmarkctl run --connect</source>
@@ -2769,7 +2769,7 @@
     </message>
     <message>
         <source>strict mode with the kill switch, else proxy mode</source>
-        <translation>аварійне блокування, інакше режим проксі</translation>
+        <translation>суворий режим з аварійним блокуванням, інакше режим проксі</translation>
     </message>
     <message>
         <source>strict mode lets the local network through</source>
@@ -2781,7 +2781,7 @@
     </message>
     <message>
         <source>the path of the tor to use, or nothing to search for tor</source>
-        <translation>який tor використовувати, або порожньо — шукати його</translation>
+        <translation>шлях до потрібного tor або порожньо — шукати його</translation>
     </message>
     <message>
         <source>which bridges</source>
@@ -2813,7 +2813,7 @@
     </message>
     <message>
         <source>Starting…</source>
-        <translation>Початок…</translation>
+        <translation>Запуск…</translation>
     </message>
     <message>
         <source>&quot;set&quot; needs a &quot;key&quot; and a &quot;value&quot;, both strings.</source>
@@ -2909,7 +2909,7 @@
     </message>
     <message>
         <source>restore the network and stop Tor, also after a crash</source>
-        <translation>те саме, зокрема й після збою</translation>
+        <translation>відновити мережу й зупинити Tor, зокрема й після збою</translation>
     </message>
     <message>
         <source>check the exit address, the direct path and DNS now</source>
@@ -2925,7 +2925,7 @@
     </message>
     <message>
         <source>close a circuit; its sites get a fresh path on their next request</source>
-        <translation>закрити один; його сайти отримають новий шлях під час наступного запиту</translation>
+        <translation>закрити ланцюг; за наступного запиту його сайти отримають новий шлях</translation>
     </message>
     <message>
         <source>close-circuit needs a circuit&apos;s number; &quot;veldmarkctl circuits&quot; shows them.</source>
@@ -3133,7 +3133,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>Passwordless mode can be set up only for the user who asks.</source>
-        <translation>Дозвіл можна надати лише користувачеві, який його просить.</translation>
+        <translation>Режим без пароля можна налаштувати лише для користувача, який про це просить.</translation>
     </message>
     <message>
         <source>Another program is changing the firewall. Try again in a moment.</source>
@@ -3217,7 +3217,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>The firewall rules cannot be read, so nothing was done.</source>
-        <translation>Не вдається перевірити брандмауер, тому нічого не зроблено.</translation>
+        <translation>Не вдається прочитати правила брандмауера, тому нічого не зроблено.</translation>
     </message>
     <message>
         <source>The firewall cannot be switched on (%1).</source>
@@ -3305,7 +3305,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>The former network settings could not all be restored.</source>
-        <translation>Не вдалося відновити всі попередні налаштування мережі.</translation>
+        <translation>Відновлено не всі попередні налаштування мережі.</translation>
     </message>
     <message>
         <source>The hashed control password is not valid.</source>
@@ -3481,7 +3481,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>The SHA-256 of the program %1 is not the one to approve.</source>
-        <translation>Програма %1 — не та, яку треба було схвалити.</translation>
+        <translation>SHA-256 програми %1 — не той, який треба було схвалити.</translation>
     </message>
     <message>
         <source>The program given with %1 is not an executable file.</source>
@@ -3733,7 +3733,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>The program systemd-run is missing. Veldmark needs it to make a group for a program.</source>
-        <translation>Бракує програми systemd-run, яка створює групи для програм.</translation>
+        <translation>Бракує програми systemd-run. Вона потрібна Veldmark, щоб створити групу для програми.</translation>
     </message>
     <message>
         <source>The program could not be started: %1.</source>
@@ -3783,7 +3783,7 @@ name in the same session has the same ones</source>
     </message>
     <message>
         <source>No package of the system installed %1. The next connect asks an administrator to approve it.</source>
-        <translation>%1 не походить із жодного пакунка системи. Під час наступного з’єднання адміністратора попросять це схвалити.</translation>
+        <translation>%1 не походить із жодного пакунка системи. Під час наступного під’єднання адміністратора попросять схвалити цю програму.</translation>
     </message>
     <message>
         <source>It isn&apos;t known whether a connect can work.</source>
@@ -3803,7 +3803,7 @@ name in the same session has the same ones</source>
     </message>
     <message>
         <source>%1 was not approved.</source>
-        <translation>Файл %1 не схвалено.</translation>
+        <translation>Програму %1 не схвалено.</translation>
     </message>
     <message>
         <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
@@ -3839,7 +3839,7 @@ name in the same session has the same ones</source>
     </message>
     <message>
         <source>The running instance gave no state: %1</source>
-        <translation>Запущений екземпляр не повідомив свій стан: %1</translation>
+        <translation>Запущений екземпляр не повідомив про свій стан: %1</translation>
     </message>
     <message>
         <source>a report for those who help you: settings, findings and log without addresses,
