@@ -78,7 +78,7 @@
     </message>
     <message>
         <source>Programs that disguise your Tor connection</source>
-        <translation>برنامه‌هایی که اتصال شما به Tor را پنهان می‌کنند</translation>
+        <translation>برنامه‌هایی که ظاهر اتصال شما به Tor را تغییر می‌دهند</translation>
     </message>
     <message>
         <source>Built-in bridges</source>
@@ -595,7 +595,7 @@
     <name>ProgramRow</name>
     <message>
         <source>Found %1</source>
-        <translation>پیدا شد: ⁨%1⁩</translation>
+        <translation>%1 پیدا شد</translation>
     </message>
     <message>
         <source>Not found</source>
@@ -696,7 +696,7 @@
     </message>
     <message>
         <source>For those who help you. Addresses, names, bridges, keys and paths in your home are replaced. Look through it before you give it away: Veldmark sends it to nobody.</source>
-        <translation>برای کسانی که به شما کمک می‌کنند. نشانی‌ها، نام‌ها، پل‌ها، کلیدها و مسیرهای پوشهٔ خانگی شما جایگزین شده‌اند. پیش از آنکه آن را به کسی بدهید مرورش کنید: Veldmark آن را برای هیچ کس نمی‌فرستد.</translation>
+        <translation>برای کسانی که به شما کمک می‌کنند. نشانی‌ها، نام‌ها، پل‌ها، کلیدها و مسیرهای پوشهٔ خانگی شما جایگزین شده‌اند. پیش از آن‌که آن را به کسی بدهید مرورش کنید: Veldmark آن را برای هیچ کس نمی‌فرستد.</translation>
     </message>
     <message>
         <source>Save…</source>
@@ -873,7 +873,7 @@
     </message>
     <message>
         <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>
-        <translation>کیل‌سوییچ مسدود نمی‌کند. Veldmark را باز کنید، اتصال را قطع کنید و دوباره وصل شوید.</translation>
+        <translation>کیل‌سوییچ ترافیک را مسدود نمی‌کند. Veldmark را باز کنید، اتصال را قطع کنید و دوباره وصل شوید.</translation>
     </message>
     <message>
         <source>The kill switch is not watched</source>
@@ -881,7 +881,7 @@
     </message>
     <message>
         <source>Veldmark can&apos;t tell whether the kill switch blocks traffic. Open Veldmark, disconnect and connect again.</source>
-        <translation>معلوم نیست کیل‌سوییچ برقرار است یا نه. Veldmark را باز کنید، اتصال را قطع کنید و دوباره وصل شوید.</translation>
+        <translation>معلوم نیست کیل‌سوییچ ترافیک را مسدود می‌کند یا نه. Veldmark را باز کنید، اتصال را قطع کنید و دوباره وصل شوید.</translation>
     </message>
 </context>
 <context>
@@ -991,7 +991,7 @@
     </message>
     <message>
         <source>Leads to an onion service. The last relay is the meeting point.</source>
-        <translation>به یک سرویس پیازی می‌رسد؛ آن سرویس در آخرین رلهٔ این مدار به آن می‌پیوندد</translation>
+        <translation>به یک سرویس پیازی می‌رسد. آخرین رله محل دیدار است.</translation>
     </message>
     <message>
         <source>Meeting point</source>
@@ -1066,7 +1066,7 @@
     </message>
     <message>
         <source>The check gave no result.</source>
-        <translation>چیزی معلوم نشد.</translation>
+        <translation>بررسی نتیجه‌ای نداد.</translation>
     </message>
     <message>
         <source>No problem was found that keeps Veldmark from connecting.</source>
@@ -1211,11 +1211,11 @@
     </message>
     <message>
         <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
-        <translation>یک اتصال مستقیم بدون Tor پاسخی نگرفت، اما معلوم نیست کیل‌سوییچ آن مسیر را بسته باشد</translation>
+        <translation>یک اتصال مستقیم بدون Tor پاسخی نگرفت، اما معلوم نیست کیل‌سوییچ چنین اتصال‌هایی را مسدود می‌کند یا نه</translation>
     </message>
     <message>
         <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
-        <translation>یک اتصال مستقیم بدون Tor پاسخی نگرفت، اما حالت پروکسی آن مسیر را نمی‌بندد</translation>
+        <translation>یک اتصال مستقیم بدون Tor پاسخی نگرفت، اما حالت پروکسی چنین اتصال‌هایی را مسدود نمی‌کند</translation>
     </message>
     <message>
         <source>Connect to Tor</source>
@@ -1330,7 +1330,7 @@
     <name>veldmark::ReportModel</name>
     <message>
         <source>Saved in %1</source>
-        <translation>در %1 ذخیره شد</translation>
+        <translation>در ⁨%1⁩ ذخیره شد</translation>
     </message>
 </context>
 <context>
@@ -1389,11 +1389,11 @@
     </message>
     <message>
         <source>Fetched over HTTPS. Its signature isn&apos;t checked, since GnuPG isn&apos;t installed.</source>
-        <translation>با HTTPS گرفته شده است. امضای آن بررسی نمی‌شود، چون GnuPG نصب نیست.</translation>
+        <translation>با HTTPS گرفته می‌شود. امضای آن بررسی نمی‌شود، چون GnuPG نصب نیست.</translation>
     </message>
     <message>
         <source>Fetched over HTTPS and checked against the Tor Project&apos;s signature.</source>
-        <translation>با HTTPS گرفته و با امضای پروژهٔ Tor سنجیده شده است.</translation>
+        <translation>با HTTPS گرفته و با امضای پروژهٔ Tor سنجیده می‌شود.</translation>
     </message>
     <message>
         <source>Not installed</source>
@@ -1439,7 +1439,7 @@
     <name>veldmark::Text</name>
     <message>
         <source>Tor hasn&apos;t confirmed that it uses the network again, so traffic may not get through. Veldmark keeps telling Tor to. If this lasts, disconnect and connect again.</source>
-        <translation>برنامهٔ Tor تأیید نکرده است که دوباره به شبکه وصل است، پس شاید هیچ چیز رد نشود. Veldmark همچنان این را از آن می‌خواهد؛ اگر نشد، اتصال را قطع کنید و دوباره وصل شوید.</translation>
+        <translation>برنامهٔ Tor تأیید نکرده است که دوباره به شبکه وصل است، پس شاید هیچ چیز عبور نکند. Veldmark همچنان این را از آن می‌خواهد؛ اگر نشد، اتصال را قطع کنید و دوباره وصل شوید.</translation>
     </message>
     <message>
         <source>Version %1 is offered, which is older than the installed %2. Nothing was changed.</source>
@@ -1627,7 +1627,7 @@
     </message>
     <message>
         <source>Tor stopped running, and the kill switch doesn&apos;t block traffic: another program removed its rules. Traffic may leave this computer directly. Reconnect, or Restore Network.</source>
-        <translation>اجرای Tor متوقف شد و کیل‌سوییچ مسدود نمی‌کند: برنامهٔ دیگری قاعده‌هایش را برداشت. ممکن است ترافیک مستقیماً از این رایانه بیرون برود. دوباره وصل شوید یا «بازگرداندن شبکه» را بزنید.</translation>
+        <translation>اجرای Tor متوقف شد و کیل‌سوییچ ترافیک را مسدود نمی‌کند: برنامهٔ دیگری قاعده‌هایش را برداشت. ممکن است ترافیک مستقیماً از این رایانه بیرون برود. دوباره وصل شوید یا «بازگرداندن شبکه» را بزنید.</translation>
     </message>
     <message>
         <source>Tor stopped running, and it isn&apos;t known whether the kill switch is still blocking traffic. Reconnect, or Restore Network to go online without Tor.</source>
@@ -1635,7 +1635,7 @@
     </message>
     <message>
         <source>The watcher of Veldmark&apos;s firewall rules has stopped reporting, so it isn&apos;t known whether the kill switch blocks traffic. Disconnect and connect again.</source>
-        <translation>ناظر قاعده‌های دیوار آتش Veldmark دیگر خبری نمی‌دهد، پس معلوم نیست کیل‌سوییچ برقرار است یا نه. اتصال را قطع کنید و دوباره وصل شوید.</translation>
+        <translation>ناظر قاعده‌های دیوار آتش Veldmark دیگر خبری نمی‌دهد، پس معلوم نیست کیل‌سوییچ ترافیک را مسدود می‌کند یا نه. اتصال را قطع کنید و دوباره وصل شوید.</translation>
     </message>
     <message>
         <source>Not Protected</source>
@@ -1667,7 +1667,7 @@
     </message>
     <message>
         <source>Kill Switch Failed</source>
-        <translation>کیل‌سوییچ مسدود نمی‌کند</translation>
+        <translation>کیل‌سوییچ کار نمی‌کند</translation>
     </message>
     <message>
         <source>Traffic may leave this computer directly</source>
@@ -1687,7 +1687,7 @@
     </message>
     <message>
         <source>Veldmark can&apos;t tell whether the kill switch blocks traffic. Disconnect and connect again.</source>
-        <translation>معلوم نیست کیل‌سوییچ برقرار است یا نه. اتصال را قطع کنید و دوباره وصل شوید.</translation>
+        <translation>معلوم نیست کیل‌سوییچ ترافیک را مسدود می‌کند یا نه. اتصال را قطع کنید و دوباره وصل شوید.</translation>
     </message>
     <message>
         <source>All traffic is locked to Tor, but the exit could not be confirmed</source>
@@ -1703,11 +1703,11 @@
     </message>
     <message>
         <source>Nothing Gets Through</source>
-        <translation>هیچ چیز رد نمی‌شود</translation>
+        <translation>هیچ چیز عبور نمی‌کند</translation>
     </message>
     <message>
         <source>This computer has no network. Traffic around Tor stays blocked.</source>
-        <translation>این رایانه شبکه ندارد. در این میان چیزی با دور زدن Tor بیرون نمی‌رود.</translation>
+        <translation>این رایانه شبکه ندارد. ترافیک خارج از Tor همچنان مسدود است.</translation>
     </message>
     <message>
         <source>This computer has no network. Veldmark goes on when it is back.</source>
@@ -1715,7 +1715,7 @@
     </message>
     <message>
         <source>Tor has no working circuit and keeps trying. Traffic around Tor stays blocked.</source>
-        <translation>هیچ مدار Tor کار نمی‌کند و Tor همچنان تلاش می‌کند. در این میان چیزی با دور زدن آن بیرون نمی‌رود.</translation>
+        <translation>هیچ مدار Tor کار نمی‌کند و Tor همچنان تلاش می‌کند. ترافیک خارج از Tor همچنان مسدود است.</translation>
     </message>
     <message>
         <source>Tor has no working circuit and keeps trying.</source>
@@ -1723,7 +1723,7 @@
     </message>
     <message>
         <source>Tor gets no answer from the network and keeps trying. Traffic around Tor stays blocked.</source>
-        <translation>شبکه به Tor پاسخ نمی‌دهد و Tor همچنان تلاش می‌کند. در این میان چیزی با دور زدن آن بیرون نمی‌رود.</translation>
+        <translation>شبکه به Tor پاسخ نمی‌دهد و Tor همچنان تلاش می‌کند. ترافیک خارج از Tor همچنان مسدود است.</translation>
     </message>
     <message>
         <source>Tor gets no answer from the network and keeps trying.</source>
@@ -1839,11 +1839,11 @@
     </message>
     <message>
         <source>Another Veldmark of yours has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
-        <translation>در این میان Veldmark دیگری از خود شما نشستی آغاز کرده است، پس چیزی پایان داده نشد. برای پایان دادن به آن، اتصال را دوباره قطع کنید.</translation>
+        <translation>در این میان Veldmark دیگری از خود شما نشستی آغاز کرده است، پس هیچ نشستی پایان داده نشد. برای پایان دادن به آن نشست، اتصال را دوباره قطع کنید.</translation>
     </message>
     <message>
         <source>Another user&apos;s Veldmark has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
-        <translation>در این میان Veldmark کاربر دیگری نشستی آغاز کرده است، پس چیزی پایان داده نشد. برای پایان دادن به آن، اتصال را دوباره قطع کنید.</translation>
+        <translation>در این میان Veldmark کاربر دیگری نشستی آغاز کرده است، پس هیچ نشستی پایان داده نشد. برای پایان دادن به آن نشست، اتصال را دوباره قطع کنید.</translation>
     </message>
     <message>
         <source>Your network is set up for Tor by another Veldmark of yours, process %1</source>
@@ -1887,7 +1887,7 @@
     </message>
     <message>
         <source>ssh doesn&apos;t go through Tor yet: it needs a netcat that speaks SOCKS. Install one with: %1</source>
-        <translation>ترافیک ssh هنوز از Tor نمی‌گذرد: netcat سازگار با SOCKS لازم دارد. آن را نصب کنید با: ⁨%1⁩</translation>
+        <translation>ترافیک ssh هنوز از Tor نمی‌گذرد: netcat سازگار با SOCKS لازم دارد. آن را نصب کنید با: %1</translation>
     </message>
     <message>
         <source>Connect in strict mode to open apps without Tor</source>
@@ -1919,7 +1919,7 @@
     </message>
     <message>
         <source>The connection was lost before the download ended.</source>
-        <translation>اتصال پیش از پایان از دست رفت.</translation>
+        <translation>اتصال پیش از پایان بارگیری قطع شد.</translation>
     </message>
     <message>
         <source>Not connected to Tor&apos;s control port.</source>
@@ -1955,7 +1955,7 @@
     </message>
     <message>
         <source>The password could not be checked: polkit accepts no password from this terminal. Run the command with sudo.</source>
-        <translation>بررسی گذرواژه ممکن نشد: polkit از این پایانه گذرواژه نمی‌پذیرد. آن را با sudo اجرا کنید.</translation>
+        <translation>بررسی گذرواژه ممکن نشد: polkit از این پایانه گذرواژه نمی‌پذیرد. دستور را با sudo اجرا کنید.</translation>
     </message>
     <message>
         <source>Couldn&apos;t fix DNS: %1</source>
@@ -2059,7 +2059,7 @@
     </message>
     <message>
         <source>A session is open, and its kill switch doesn&apos;t block traffic: its watcher couldn&apos;t put the rules back. Traffic may leave this computer directly. Restore the network, and connect again.</source>
-        <translation>نشستی باز است و کیل‌سوییچ آن مسدود نمی‌کند: ناظرش نتوانست قاعده‌ها را برگرداند. ممکن است ترافیک مستقیماً از این رایانه بیرون برود. شبکه را بازگردانید و دوباره وصل شوید.</translation>
+        <translation>نشستی باز است و کیل‌سوییچ آن ترافیک را مسدود نمی‌کند: ناظرش نتوانست قاعده‌ها را برگرداند. ممکن است ترافیک مستقیماً از این رایانه بیرون برود. شبکه را بازگردانید و دوباره وصل شوید.</translation>
     </message>
     <message>
         <source>The clock is behind: it shows %1, but the file %2 was written on %3. Tor needs a clock that is right to within minutes.</source>
@@ -2111,11 +2111,11 @@
     </message>
     <message>
         <source>No other firewall that Veldmark knows runs. Only root can read the rules themselves.</source>
-        <translation>هیچ دیوار آتش دیگری که نامش شناخته‌شده باشد در حال اجرا نیست. خود قاعده‌ها را فقط root می‌داند.</translation>
+        <translation>هیچ دیوار آتش دیگری که Veldmark بشناسد در حال اجرا نیست. خود قاعده‌ها را فقط root می‌تواند بخواند.</translation>
     </message>
     <message>
         <source>Another firewall on this computer blocks outgoing traffic that its rules don&apos;t allow, so Tor may not get through: %1.</source>
-        <translation>دیوار آتش دیگری در این رایانه جلوی هر ترافیک خروجی را می‌گیرد، مگر آن‌که یکی از قاعده‌هایش اجازه دهد؛ پس شاید Tor رد نشود: ⁨%1⁩.</translation>
+        <translation>دیوار آتش دیگری در این رایانه جلوی هر ترافیک خروجی را می‌گیرد، مگر آن‌که یکی از قاعده‌هایش اجازه دهد؛ پس شاید Tor نتواند عبور کند: ⁨%1⁩.</translation>
     </message>
     <message>
         <source>Other programs set firewall rules here: %1. Veldmark leaves their rules alone. Rules that drop packets can block Tor.</source>
@@ -2135,11 +2135,11 @@
     </message>
     <message>
         <source>No known polkit agent, the program that asks for the password, runs in your session. Use sudo, or start an agent such as lxpolkit.</source>
-        <translation>در نشست شما هیچ برنامهٔ شناخته‌شده‌ای که گذرواژه‌های polkit را بپرسد (عامل) در حال اجرا نیست. بدون آن، sudo را به کار ببرید یا عاملی مانند lxpolkit را شروع کنید.</translation>
+        <translation>در نشست شما هیچ عامل شناخته‌شدهٔ polkit، یعنی برنامه‌ای که گذرواژه را می‌پرسد، در حال اجرا نیست. sudo را به کار ببرید یا عاملی مانند lxpolkit را شروع کنید.</translation>
     </message>
     <message>
         <source>polkit is installed, and an agent that asks for the password runs in your session.</source>
-        <translation>برنامهٔ polkit هست و برنامه‌ای که گذرواژه‌های آن را می‌پرسد در نشست شما اجرا می‌شود.</translation>
+        <translation>برنامهٔ polkit نصب است و عاملی که گذرواژه را می‌پرسد در نشست شما اجرا می‌شود.</translation>
     </message>
     <message>
         <source>Veldmark runs as root here and asks for no password.</source>
@@ -2207,11 +2207,11 @@
     </message>
     <message>
         <source>The helper is missing. Reinstall Veldmark.</source>
-        <translation>اسکریپت کمکی Veldmark وجود ندارد. Veldmark را دوباره نصب کنید.</translation>
+        <translation>برنامهٔ کمکی Veldmark وجود ندارد. Veldmark را دوباره نصب کنید.</translation>
     </message>
     <message>
         <source>Accounts other than root can change Veldmark&apos;s helper, %1, and with it what the administrator&apos;s password runs.</source>
-        <translation>برنامهٔ کمکی Veldmark (⁨%1⁩) جایی است که کسانی جز root هم می‌توانند در آن بنویسند. آن‌ها می‌توانند این برنامه و در نتیجه آنچه را با گذرواژهٔ مدیر اجرا می‌شود تغییر دهند.</translation>
+        <translation>حساب‌هایی جز root می‌توانند برنامهٔ کمکی Veldmark (⁨%1⁩) و در نتیجه آنچه را با گذرواژهٔ مدیر اجرا می‌شود تغییر دهند.</translation>
     </message>
     <message>
         <source>Veldmark&apos;s helper, %1, is not installed: the account %2 can change it, and with it what the administrator&apos;s password runs.</source>
@@ -2243,7 +2243,7 @@
     </message>
     <message>
         <source>%1 manages DNS. Veldmark changes that while connected and restores it afterwards.</source>
-        <translation>نام‌های دامنه طبق ⁨%1⁩ پرس‌وجو می‌شوند. Veldmark آن را عوض می‌کند و سپس برمی‌گرداند.</translation>
+        <translation>مدیریت DNS با ⁨%1⁩ است. Veldmark تا وقتی وصل است آن را تغییر می‌دهد و سپس به حالت پیشین برمی‌گرداند.</translation>
     </message>
     <message>
         <source>Veldmark wrote %1. It points DNS at Tor.</source>
@@ -2251,11 +2251,11 @@
     </message>
     <message>
         <source>The file %1 is missing, so DNS may not work at all.</source>
-        <translation>پروندهٔ ⁨%1⁩ وجود ندارد، پس شاید نام‌های دامنه اصلاً پرس‌وجو نشوند.</translation>
+        <translation>پروندهٔ ⁨%1⁩ وجود ندارد، پس شاید DNS اصلاً کار نکند.</translation>
     </message>
     <message>
         <source>A resolver on this computer answers DNS. Veldmark changes that while connected and restores it afterwards.</source>
-        <translation>نام‌های دامنه را یک برنامهٔ نام‌یاب در این رایانه پرس‌وجو می‌کند. Veldmark آن را عوض می‌کند و سپس برمی‌گرداند.</translation>
+        <translation>به پرس‌وجوهای DNS یک برنامهٔ نام‌یاب در این رایانه پاسخ می‌دهد. Veldmark تا وقتی وصل است آن را تغییر می‌دهد و سپس به حالت پیشین برمی‌گرداند.</translation>
     </message>
     <message>
         <source>No earlier session is left open.</source>
@@ -2279,7 +2279,7 @@
     </message>
     <message>
         <source>A session is open, and it isn&apos;t known whether its kill switch blocks traffic: no watcher watches the rules. Restore the network, and connect again.</source>
-        <translation>نشستی باز است و معلوم نیست کیل‌سوییچ آن برقرار است یا نه: قاعده‌ها ناظری ندارند. شبکه را بازگردانید و دوباره وصل شوید.</translation>
+        <translation>نشستی باز است و معلوم نیست کیل‌سوییچ آن ترافیک را مسدود می‌کند یا نه: قاعده‌ها ناظری ندارند. شبکه را بازگردانید و دوباره وصل شوید.</translation>
     </message>
     <message>
         <source>Cancelled.</source>
@@ -2419,7 +2419,7 @@
     </message>
     <message>
         <source>A command is missing. &quot;veldmarkctl help&quot; lists the commands.</source>
-        <translation>چه باید کرد؟ «veldmarkctl help» فهرست دستورها را نشان می‌دهد.</translation>
+        <translation>دستوری داده نشده است. «veldmarkctl help» فهرست دستورها را نشان می‌دهد.</translation>
     </message>
     <message>
         <source>Unknown command %1. &quot;veldmarkctl help&quot; lists the commands.</source>
@@ -2461,7 +2461,7 @@
     </message>
     <message>
         <source>doesn&apos;t say which transports it serves</source>
-        <translation>نمی‌گوید چه چیزی ارائه می‌کند</translation>
+        <translation>نمی‌گوید کدام حامل‌ها را ارائه می‌کند</translation>
     </message>
     <message>
         <source>serves %1</source>
@@ -2557,19 +2557,19 @@
     </message>
     <message>
         <source>blocks traffic, since %1</source>
-        <translation>برقرار است، از ⁨%1⁩</translation>
+        <translation>ترافیک را مسدود می‌کند، از ⁨%1⁩</translation>
     </message>
     <message>
         <source>blocks traffic; put back at %1 after another program had removed it</source>
-        <translation>برقرار است؛ برنامهٔ دیگری آن را برداشته بود و در ⁨%1⁩ برگردانده شد</translation>
+        <translation>ترافیک را مسدود می‌کند؛ برنامهٔ دیگری آن را برداشته بود و در ⁨%1⁩ برگردانده شد</translation>
     </message>
     <message>
         <source>NOT BLOCKING since %1: traffic may leave this computer directly</source>
-        <translation>مسدود نمی‌کند، از ⁨%1⁩: ممکن است ترافیک مستقیماً از این رایانه بیرون برود</translation>
+        <translation>ترافیک را مسدود نمی‌کند، از ⁨%1⁩: ممکن است ترافیک مستقیماً از این رایانه بیرون برود</translation>
     </message>
     <message>
         <source>isn&apos;t known to block traffic, since %1</source>
-        <translation>معلوم نیست برقرار باشد، از ⁨%1⁩</translation>
+        <translation>معلوم نیست ترافیک را مسدود کند، از ⁨%1⁩</translation>
     </message>
     <message>
         <source>not checked yet</source>
@@ -2597,11 +2597,11 @@
     </message>
     <message>
         <source>no answer, but it isn&apos;t known whether the kill switch blocks it</source>
-        <translation>بی‌پاسخ، اما معلوم نیست کیل‌سوییچ آن را بسته باشد</translation>
+        <translation>بی‌پاسخ، اما معلوم نیست کیل‌سوییچ آن را مسدود می‌کند یا نه</translation>
     </message>
     <message>
         <source>no answer, but proxy mode doesn&apos;t block it</source>
-        <translation>بی‌پاسخ، اما حالت پروکسی آن را نمی‌بندد</translation>
+        <translation>بی‌پاسخ، اما حالت پروکسی آن را مسدود نمی‌کند</translation>
     </message>
     <message>
         <source>checking…</source>
@@ -2713,7 +2713,7 @@
     </message>
     <message>
         <source>The network is still set up for Tor. Restore it with: %1</source>
-        <translation>شبکه هنوز برای Tor تنظیم است. برای بازگرداندن آن: ⁨%1⁩</translation>
+        <translation>شبکه هنوز برای Tor تنظیم است. برای بازگرداندن آن: %1</translation>
     </message>
     <message>
         <source>The network is still set up for Tor. Press Ctrl-C to try again.</source>
@@ -2769,7 +2769,7 @@
     </message>
     <message>
         <source>strict mode with the kill switch, else proxy mode</source>
-        <translation>کیل‌سوییچ، وگرنه حالت پروکسی</translation>
+        <translation>حالت سخت‌گیرانه با کیل‌سوییچ، وگرنه حالت پروکسی</translation>
     </message>
     <message>
         <source>strict mode lets the local network through</source>
@@ -2781,7 +2781,7 @@
     </message>
     <message>
         <source>the path of the tor to use, or nothing to search for tor</source>
-        <translation>برنامهٔ tor که به کار می‌رود، یا خالی تا جستجو شود</translation>
+        <translation>مسیر tor مورد استفاده، یا خالی تا جستجو شود</translation>
     </message>
     <message>
         <source>which bridges</source>
@@ -2909,7 +2909,7 @@
     </message>
     <message>
         <source>restore the network and stop Tor, also after a crash</source>
-        <translation>همان، برای آنچه از یک فروپاشی مانده نیز</translation>
+        <translation>بازگرداندن شبکه و توقف Tor، پس از فروپاشی برنامه نیز</translation>
     </message>
     <message>
         <source>check the exit address, the direct path and DNS now</source>
@@ -3041,7 +3041,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>Veldmark replaces the running strict session. The new session may protect you less.</source>
-        <translation>نشست سخت‌گیرانهٔ در حال اجرا جایگزین می‌شود و شاید از شما کمتر محافظت کند.</translation>
+        <translation>برنامهٔ Veldmark نشست سخت‌گیرانهٔ در حال اجرا را جایگزین می‌کند. نشست تازه شاید کمتر از شما محافظت کند.</translation>
     </message>
     <message>
         <source>Veldmark wants to run %1 as a part of Tor. No package of the system installed it. Its SHA-256 is %2.</source>
@@ -3133,7 +3133,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>Passwordless mode can be set up only for the user who asks.</source>
-        <translation>فقط به کاربری که درخواست می‌کند می‌توان اجازه داد.</translation>
+        <translation>حالت بدون گذرواژه را فقط برای کاربری که درخواست می‌کند می‌توان راه‌اندازی کرد.</translation>
     </message>
     <message>
         <source>Another program is changing the firewall. Try again in a moment.</source>
@@ -3217,7 +3217,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>The firewall rules cannot be read, so nothing was done.</source>
-        <translation>نمی‌توان دیوار آتش را بررسی کرد، پس کاری انجام نشد.</translation>
+        <translation>نمی‌توان قاعده‌های دیوار آتش را خواند، پس کاری انجام نشد.</translation>
     </message>
     <message>
         <source>The firewall cannot be switched on (%1).</source>
@@ -3245,7 +3245,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>The firewall leaves out the network device %1 (&quot;set skip&quot; in /etc/pf.conf), where nothing would be blocked.</source>
-        <translation>دیوار آتش دستگاه شبکهٔ %1 را کنار می‌گذارد («set skip» در ⁨/etc/pf.conf⁩) و روی آن هیچ چیز مسدود نمی‌شود.</translation>
+        <translation>دیوار آتش دستگاه شبکهٔ %1 را کنار می‌گذارد («set skip» در ⁨/etc/pf.conf⁩) که روی آن هیچ چیز مسدود نمی‌شد.</translation>
     </message>
     <message>
         <source>The firewall rules were not accepted (%1).</source>
@@ -3481,7 +3481,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>The SHA-256 of the program %1 is not the one to approve.</source>
-        <translation>برنامهٔ ⁨%1⁩ همانی نیست که قرار بود تأیید شود.</translation>
+        <translation>مقدار SHA-256 برنامهٔ ⁨%1⁩ همانی نیست که قرار بود تأیید شود.</translation>
     </message>
     <message>
         <source>The program given with %1 is not an executable file.</source>
@@ -3689,7 +3689,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>Ended because the display is gone. Your network is still set up for Tor: start Veldmark again, or restore the network with: %1</source>
-        <translation>به‌خاطر از دست رفتن نمایشگر پایان یافت. شبکهٔ شما هنوز برای Tor تنظیم است: Veldmark را دوباره شروع کنید، یا شبکه را با این دستور بازگردانید: ⁨%1⁩</translation>
+        <translation>به‌خاطر از دست رفتن نمایشگر پایان یافت. شبکهٔ شما هنوز برای Tor تنظیم است: Veldmark را دوباره شروع کنید، یا شبکه را با این دستور بازگردانید: %1</translation>
     </message>
     <message>
         <source>your package manager</source>
@@ -3733,7 +3733,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>The program systemd-run is missing. Veldmark needs it to make a group for a program.</source>
-        <translation>برنامهٔ systemd-run که برای برنامه‌ها گروه می‌سازد وجود ندارد.</translation>
+        <translation>برنامهٔ systemd-run وجود ندارد. Veldmark آن را لازم دارد تا برای یک برنامه گروه بسازد.</translation>
     </message>
     <message>
         <source>The program could not be started: %1.</source>
@@ -3783,7 +3783,7 @@ name in the same session has the same ones</source>
     </message>
     <message>
         <source>No package of the system installed %1. The next connect asks an administrator to approve it.</source>
-        <translation>هیچ‌یک از بسته‌های سیستم ⁨%1⁩ را نیاورده است. در اتصال بعدی از مدیر سیستم خواسته می‌شود آن را تأیید کند.</translation>
+        <translation>هیچ‌یک از بسته‌های سیستم ⁨%1⁩ را نیاورده است. در اتصال بعدی از مدیر خواسته می‌شود آن را تأیید کند.</translation>
     </message>
     <message>
         <source>It isn&apos;t known whether a connect can work.</source>
@@ -3791,7 +3791,7 @@ name in the same session has the same ones</source>
     </message>
     <message>
         <source>Another firewall on this computer blocks outgoing traffic, and none of its rules allows any, so Tor can&apos;t get through: %1.</source>
-        <translation>دیوار آتش دیگری در این رایانه جلوی ترافیک خروجی را می‌گیرد و هیچ‌یک از قاعده‌هایش چیزی را مجاز نمی‌کند، پس Tor نمی‌تواند رد شود: ⁨%1⁩.</translation>
+        <translation>دیوار آتش دیگری در این رایانه جلوی ترافیک خروجی را می‌گیرد و هیچ‌یک از قاعده‌هایش چیزی را مجاز نمی‌کند، پس Tor نمی‌تواند عبور کند: ⁨%1⁩.</translation>
     </message>
     <message>
         <source>Users other than root can change %1, so root doesn&apos;t run it to ask for its version.</source>
@@ -3811,7 +3811,7 @@ name in the same session has the same ones</source>
     </message>
     <message>
         <source>%1 needs the name of a file.</source>
-        <translation>گزینهٔ %1 نام یک پرونده را لازم دارد.</translation>
+        <translation>گزینهٔ ⁨%1⁩ نام یک پرونده را لازم دارد.</translation>
     </message>
     <message>
         <source>It doesn&apos;t answer.</source>
@@ -3819,7 +3819,7 @@ name in the same session has the same ones</source>
     </message>
     <message>
         <source>This report goes to %1.</source>
-        <translation>این گزارش در %1 نوشته می‌شود.</translation>
+        <translation>این گزارش در ⁨%1⁩ نوشته می‌شود.</translation>
     </message>
     <message>
         <source>write it into a new file too</source>
@@ -3827,26 +3827,26 @@ name in the same session has the same ones</source>
     </message>
     <message>
         <source>The report can&apos;t be written to %1: %2</source>
-        <translation>گزارش را نمی‌توان در %1 نوشت: %2</translation>
+        <translation>گزارش را نمی‌توان در ⁨%1⁩ نوشت: ⁨%2⁩</translation>
     </message>
     <message>
         <source>%1 isn&apos;t a regular file. Choose another name for the report.</source>
-        <translation>%1 یک پروندهٔ معمولی نیست. نام دیگری برای گزارش برگزینید.</translation>
+        <translation>مسیر ⁨%1⁩ یک پروندهٔ معمولی نیست. نام دیگری برای گزارش برگزینید.</translation>
     </message>
     <message>
         <source>%1 exists already. Choose another name for the report.</source>
-        <translation>%1 از پیش وجود دارد. نام دیگری برای گزارش برگزینید.</translation>
+        <translation>پروندهٔ ⁨%1⁩ از پیش وجود دارد. نام دیگری برای گزارش برگزینید.</translation>
     </message>
     <message>
         <source>The running instance gave no state: %1</source>
-        <translation>نمونهٔ در حال اجرا وضعیت خود را نداد: %1</translation>
+        <translation>نمونهٔ در حال اجرا وضعیت خود را نداد: ⁨%1⁩</translation>
     </message>
     <message>
         <source>a report for those who help you: settings, findings and log without addresses,
 names, bridges and keys. Nothing sends it. Look through it before you give it
 away</source>
         <translation>گزارشی برای کسانی که به شما کمک می‌کنند: تنظیمات، یافته‌ها و گزارش Tor بدون
-نشانی‌ها، نام‌ها، پل‌ها و کلیدها. هیچ چیزی آن را نمی‌فرستد. پیش از آنکه آن را
+نشانی‌ها، نام‌ها، پل‌ها و کلیدها. هیچ چیزی آن را نمی‌فرستد. پیش از آن‌که آن را
 به کسی بدهید مرورش کنید</translation>
     </message>
 </context>
