@@ -932,7 +932,7 @@
     <name>veldmark::CircuitGraphView</name>
     <message>
         <source>%1: your real IP only ever reaches the entry relay</source>
-        <translation>%1: عنوان IP الحقيقي لا يصل إلا إلى مرحّل الدخول</translation>
+        <translation>%1: لا يصل عنوان IP الحقيقي الخاص بك إلا إلى مرحّل الدخول</translation>
     </message>
     <message>
         <source>Used by 1 circuit</source>
@@ -991,7 +991,7 @@
     </message>
     <message>
         <source>Leads to an onion service. The last relay is the meeting point.</source>
-        <translation>تؤدي إلى خدمة onion تلتقي بها عند مرحّلها الأخير</translation>
+        <translation>تؤدي إلى خدمة onion. المرحّل الأخير هو نقطة اللقاء.</translation>
     </message>
     <message>
         <source>Meeting point</source>
@@ -1066,7 +1066,7 @@
     </message>
     <message>
         <source>The check gave no result.</source>
-        <translation>لم يُتوصَّل إلى شيء.</translation>
+        <translation>لم يُسفر الفحص عن نتيجة.</translation>
     </message>
     <message>
         <source>No problem was found that keeps Veldmark from connecting.</source>
@@ -1156,7 +1156,7 @@
     </message>
     <message>
         <source>Built-in bridges from %1</source>
-        <translation>جسور مدمجة من %1</translation>
+        <translation>جسور مدمجة من ⁨%1⁩</translation>
     </message>
     <message>
         <source>(line %1)</source>
@@ -1196,11 +1196,11 @@
     </message>
     <message>
         <source>In strict mode, these apps can connect directly instead of through Tor, using your real IP address. Everything else stays locked. Open them with &lt;b&gt;Open without Tor&lt;/b&gt; (not from the Dock) so Veldmark can tag them. A running copy is quit and reopened.</source>
-        <translation>في الوضع الصارم، تستطيع هذه التطبيقات الاتصال مباشرة بدل المرور عبر Tor، مستخدمةً عنوان IP الحقيقي لك. ويبقى كل ما عداها محصورًا في Tor. افتحها بزر &lt;b&gt;فتح بدون Tor&lt;/b&gt; (لا من Dock) كي يستطيع Veldmark وسمها. إذا كانت نسخة منها تعمل فستُغلق ويُعاد فتحها.</translation>
+        <translation>في الوضع الصارم، تستطيع هذه التطبيقات الاتصال مباشرة بدل المرور عبر Tor، مستخدمةً عنوان IP الحقيقي الخاص بك. ويبقى كل ما عداها محصورًا في Tor. افتحها بزر &lt;b&gt;فتح بدون Tor&lt;/b&gt; (لا من Dock) كي يستطيع Veldmark وسمها. إذا كانت نسخة منها تعمل فستُغلق ويُعاد فتحها.</translation>
     </message>
     <message>
         <source>In strict mode, these apps can connect directly instead of through Tor, using your real IP address. Everything else stays locked. Open them with &lt;b&gt;Open without Tor&lt;/b&gt; (not from the desktop&apos;s menu) so Veldmark can tag them. A running copy is quit and reopened.</source>
-        <translation>في الوضع الصارم، تستطيع هذه التطبيقات الاتصال مباشرة بدل المرور عبر Tor، مستخدمةً عنوان IP الحقيقي لك. ويبقى كل ما عداها محصورًا في Tor. افتحها بزر &lt;b&gt;فتح بدون Tor&lt;/b&gt; (لا من قائمة سطح المكتب) كي يستطيع Veldmark وسمها. إذا كانت نسخة منها تعمل فستُغلق ويُعاد فتحها.</translation>
+        <translation>في الوضع الصارم، تستطيع هذه التطبيقات الاتصال مباشرة بدل المرور عبر Tor، مستخدمةً عنوان IP الحقيقي الخاص بك. ويبقى كل ما عداها محصورًا في Tor. افتحها بزر &lt;b&gt;فتح بدون Tor&lt;/b&gt; (لا من قائمة سطح المكتب) كي يستطيع Veldmark وسمها. إذا كانت نسخة منها تعمل فستُغلق ويُعاد فتحها.</translation>
     </message>
 </context>
 <context>
@@ -1211,11 +1211,11 @@
     </message>
     <message>
         <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
-        <translation>لم يتلقَّ الاتصال المباشر المتجاوز لـ Tor ردًا، لكن لا يُعرف هل يسد مفتاح القطع هذا المسار</translation>
+        <translation>لم يتلقَّ الاتصال المباشر المتجاوز لـ Tor ردًا، لكن لا يُعرف هل يحجب مفتاح القطع اتصالات كهذه</translation>
     </message>
     <message>
         <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
-        <translation>لم يتلقَّ الاتصال المباشر المتجاوز لـ Tor ردًا، لكن وضع الوكيل لا يسد هذا المسار</translation>
+        <translation>لم يتلقَّ الاتصال المباشر المتجاوز لـ Tor ردًا، لكن وضع الوكيل لا يحجب اتصالات كهذه</translation>
     </message>
     <message>
         <source>Connect to Tor</source>
@@ -1275,7 +1275,7 @@
     </message>
     <message>
         <source>Checked against %1</source>
-        <translation>جرى الفحص لدى %1</translation>
+        <translation>جرى الفحص لدى ⁨%1⁩</translation>
     </message>
     <message>
         <source>Verified</source>
@@ -1319,7 +1319,7 @@
     </message>
     <message>
         <source>Apps that ignore proxy settings show your real IP (%1). Turn on Strict mode to block them.</source>
-        <translation>التطبيقات التي تتجاهل إعدادات الوكيل تكشف عنوان IP الحقيقي لك (⁨%1⁩). فعّل الوضع الصارم لحجبها.</translation>
+        <translation>التطبيقات التي تتجاهل إعدادات الوكيل تكشف عنوان IP الحقيقي الخاص بك (⁨%1⁩). فعّل الوضع الصارم لحجبها.</translation>
     </message>
     <message>
         <source>%1 more</source>
@@ -1330,7 +1330,7 @@
     <name>veldmark::ReportModel</name>
     <message>
         <source>Saved in %1</source>
-        <translation>حُفظ في %1</translation>
+        <translation>حُفظ في ⁨%1⁩</translation>
     </message>
 </context>
 <context>
@@ -1361,7 +1361,7 @@
     </message>
     <message>
         <source>Loaded from %1</source>
-        <translation>حُمّل من %1</translation>
+        <translation>حُمّل من ⁨%1⁩</translation>
     </message>
     <message>
         <source>Not downloaded</source>
@@ -1389,11 +1389,11 @@
     </message>
     <message>
         <source>Fetched over HTTPS. Its signature isn&apos;t checked, since GnuPG isn&apos;t installed.</source>
-        <translation>نُزّل عبر HTTPS. لا يُتحقق من توقيعه لأن GnuPG غير مثبت.</translation>
+        <translation>يُنزَّل عبر HTTPS. لا يُتحقق من توقيعه لأن GnuPG غير مثبت.</translation>
     </message>
     <message>
         <source>Fetched over HTTPS and checked against the Tor Project&apos;s signature.</source>
-        <translation>نُزّل عبر HTTPS وجرى التحقق منه بتوقيع مشروع Tor.</translation>
+        <translation>يُنزَّل عبر HTTPS ويُتحقق منه بتوقيع مشروع Tor.</translation>
     </message>
     <message>
         <source>Not installed</source>
@@ -1417,7 +1417,7 @@
     </message>
     <message>
         <source>Veldmark is free software and independent of the Tor Project. It contains no Tor: it runs the tor that is installed here, and where bridges are used lyrebird, snowflake-client or webtunnel-client.</source>
-        <translation>برنامج Veldmark حر ومستقل عن مشروع Tor. وهو لا يحتوي Tor: بل يشغّل برنامج tor المثبت هنا، وعند استخدام الجسور يشغّل lyrebird أو snowflake-client أو webtunnel-client.</translation>
+        <translation>برنامج Veldmark حر ومستقل عن مشروع Tor. وهو لا يتضمن Tor نفسه: بل يشغّل برنامج tor المثبت هنا، وعند استخدام الجسور يشغّل lyrebird أو snowflake-client أو webtunnel-client.</translation>
     </message>
     <message>
         <source>It sets up the network with macOS&apos;s own programs, asks for the administrator with sudo, and checks downloads with GnuPG where that is installed.</source>
@@ -1707,7 +1707,7 @@
     </message>
     <message>
         <source>This computer has no network. Traffic around Tor stays blocked.</source>
-        <translation>هذا الحاسوب بلا شبكة. ولا يمر شيء خارج Tor في هذه الأثناء.</translation>
+        <translation>هذا الحاسوب بلا شبكة. وتبقى حركة البيانات خارج Tor محجوبة.</translation>
     </message>
     <message>
         <source>This computer has no network. Veldmark goes on when it is back.</source>
@@ -1715,7 +1715,7 @@
     </message>
     <message>
         <source>Tor has no working circuit and keeps trying. Traffic around Tor stays blocked.</source>
-        <translation>ليس لدى Tor دائرة عاملة وهو يواصل المحاولة. ولا يمر شيء خارجه في هذه الأثناء.</translation>
+        <translation>ليس لدى Tor دائرة عاملة وهو يواصل المحاولة. وتبقى حركة البيانات خارج Tor محجوبة.</translation>
     </message>
     <message>
         <source>Tor has no working circuit and keeps trying.</source>
@@ -1723,7 +1723,7 @@
     </message>
     <message>
         <source>Tor gets no answer from the network and keeps trying. Traffic around Tor stays blocked.</source>
-        <translation>لا يتلقى Tor ردًا من الشبكة وهو يواصل المحاولة. ولا يمر شيء خارجه في هذه الأثناء.</translation>
+        <translation>لا يتلقى Tor ردًا من الشبكة وهو يواصل المحاولة. وتبقى حركة البيانات خارج Tor محجوبة.</translation>
     </message>
     <message>
         <source>Tor gets no answer from the network and keeps trying.</source>
@@ -1783,7 +1783,7 @@
     </message>
     <message>
         <source>Another firewall on this computer blocks outgoing traffic, so Tor can&apos;t connect: %1.</source>
-        <translation>يمنع جدار حماية آخر على هذا الحاسوب الاتصالات الصادرة، لذا لا يستطيع Tor الاتصال: %1.</translation>
+        <translation>يمنع جدار حماية آخر على هذا الحاسوب الاتصالات الصادرة، لذا لا يستطيع Tor الاتصال: ⁨%1⁩.</translation>
     </message>
     <message>
         <source>Setup ran but the helper wasn&apos;t installed. Try again.</source>
@@ -1835,15 +1835,15 @@
     </message>
     <message>
         <source>Couldn&apos;t open %1 without Tor: %2</source>
-        <translation>تعذر فتح %1 بدون Tor: %2</translation>
+        <translation>تعذر فتح %1 بدون Tor: ⁨%2⁩</translation>
     </message>
     <message>
         <source>Another Veldmark of yours has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
-        <translation>بدأت نسخة أخرى من Veldmark لديك جلسة منذ ذلك الحين، لذا لم يُنهَ شيء. افصل الاتصال مرة أخرى لإنهائها.</translation>
+        <translation>بدأت نسخة أخرى من Veldmark لديك جلسة منذ ذلك الحين، لذا لم تُنهَ أي جلسة. افصل الاتصال مرة أخرى لإنهائها.</translation>
     </message>
     <message>
         <source>Another user&apos;s Veldmark has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
-        <translation>بدأت نسخة Veldmark لمستخدم آخر جلسة منذ ذلك الحين، لذا لم يُنهَ شيء. افصل الاتصال مرة أخرى لإنهائها.</translation>
+        <translation>بدأت نسخة Veldmark لمستخدم آخر جلسة منذ ذلك الحين، لذا لم تُنهَ أي جلسة. افصل الاتصال مرة أخرى لإنهائها.</translation>
     </message>
     <message>
         <source>Your network is set up for Tor by another Veldmark of yours, process %1</source>
@@ -1859,7 +1859,7 @@
     </message>
     <message>
         <source>%1 is connected with Veldmark (process %2). That session must be ended first.</source>
-        <translation>المستخدم %1 متصل باستخدام Veldmark (العملية %2). يجب إنهاء تلك الجلسة أولًا.</translation>
+        <translation>المستخدم ⁨%1⁩ متصل باستخدام Veldmark (العملية %2). يجب إنهاء تلك الجلسة أولًا.</translation>
     </message>
     <message>
         <source>%1 Your network is still pointed at Tor. Click Restore Network to undo.</source>
@@ -1871,19 +1871,19 @@
     </message>
     <message>
         <source>Couldn&apos;t set up terminal mode: %1</source>
-        <translation>تعذر إعداد وضع الطرفية: %1</translation>
+        <translation>تعذر إعداد وضع الطرفية: ⁨%1⁩</translation>
     </message>
     <message>
         <source>Couldn&apos;t remove terminal integration: %1</source>
-        <translation>تعذرت إزالة تكامل الطرفية: %1</translation>
+        <translation>تعذرت إزالة تكامل الطرفية: ⁨%1⁩</translation>
     </message>
     <message>
         <source>Couldn&apos;t set up passwordless mode: %1</source>
-        <translation>تعذر إعداد الوضع بلا كلمة سر: %1</translation>
+        <translation>تعذر إعداد الوضع بلا كلمة سر: ⁨%1⁩</translation>
     </message>
     <message>
         <source>Couldn&apos;t remove passwordless mode: %1</source>
-        <translation>تعذرت إزالة الوضع بلا كلمة سر: %1</translation>
+        <translation>تعذرت إزالة الوضع بلا كلمة سر: ⁨%1⁩</translation>
     </message>
     <message>
         <source>ssh doesn&apos;t go through Tor yet: it needs a netcat that speaks SOCKS. Install one with: %1</source>
@@ -1919,7 +1919,7 @@
     </message>
     <message>
         <source>The connection was lost before the download ended.</source>
-        <translation>انقطع الاتصال قبل النهاية.</translation>
+        <translation>انقطع الاتصال قبل اكتمال التنزيل.</translation>
     </message>
     <message>
         <source>Not connected to Tor&apos;s control port.</source>
@@ -1959,19 +1959,19 @@
     </message>
     <message>
         <source>Couldn&apos;t fix DNS: %1</source>
-        <translation>تعذر إصلاح DNS: %1</translation>
+        <translation>تعذر إصلاح DNS: ⁨%1⁩</translation>
     </message>
     <message>
         <source>Couldn&apos;t request a new identity: %1</source>
-        <translation>تعذر طلب هوية جديدة: %1</translation>
+        <translation>تعذر طلب هوية جديدة: ⁨%1⁩</translation>
     </message>
     <message>
         <source>Couldn&apos;t read circuits: %1</source>
-        <translation>تعذرت قراءة الدوائر: %1</translation>
+        <translation>تعذرت قراءة الدوائر: ⁨%1⁩</translation>
     </message>
     <message>
         <source>Couldn&apos;t change the login-item setting: %1</source>
-        <translation>تعذر تغيير إعداد الفتح عند تسجيل الدخول: %1</translation>
+        <translation>تعذر تغيير إعداد الفتح عند تسجيل الدخول: ⁨%1⁩</translation>
     </message>
     <message>
         <source>Login items can&apos;t be changed here.</source>
@@ -1987,15 +1987,15 @@
     </message>
     <message>
         <source>Couldn&apos;t write %1: %2</source>
-        <translation>تعذرت كتابة ⁨%1⁩: %2</translation>
+        <translation>تعذرت كتابة ⁨%1⁩: ⁨%2⁩</translation>
     </message>
     <message>
         <source>Couldn&apos;t download bridge programs: %1</source>
-        <translation>تعذر تنزيل برامج الجسور: %1</translation>
+        <translation>تعذر تنزيل برامج الجسور: ⁨%1⁩</translation>
     </message>
     <message>
         <source>Bridge programs %1 installed over HTTPS. Install GnuPG (%2) and download again to also verify the Tor Project&apos;s signature.</source>
-        <translation>ثُبّتت برامج الجسور %1 عبر HTTPS. ثبّت GnuPG (%2) وأعد التنزيل للتحقق أيضًا من توقيع مشروع Tor.</translation>
+        <translation>ثُبّت الإصدار %1 من برامج الجسور عبر HTTPS. ثبّت GnuPG (%2) وأعد التنزيل للتحقق أيضًا من توقيع مشروع Tor.</translation>
     </message>
     <message>
         <source>The download&apos;s signature didn&apos;t verify, so it was discarded. %1</source>
@@ -2007,27 +2007,27 @@
     </message>
     <message>
         <source>Tor can&apos;t reach the bridge program: %1.</source>
-        <translation>لا يستطيع Tor الوصول إلى برنامج الجسور: %1.</translation>
+        <translation>لا يستطيع Tor الوصول إلى برنامج الجسور: ⁨%1⁩.</translation>
     </message>
     <message>
         <source>Tor reports: %1 (%2).</source>
-        <translation>يفيد Tor بما يلي: %1 (%2).</translation>
+        <translation>يفيد Tor بما يلي: ⁨%1⁩ (⁨%2⁩).</translation>
     </message>
     <message>
         <source>Tor reports: %1.</source>
-        <translation>يفيد Tor بما يلي: %1.</translation>
+        <translation>يفيد Tor بما يلي: ⁨%1⁩.</translation>
     </message>
     <message>
         <source>Tor replied: %1</source>
-        <translation>ردّ Tor: %1</translation>
+        <translation>ردّ Tor: ⁨%1⁩</translation>
     </message>
     <message>
         <source>Tor has trouble with the bridge program: %1</source>
-        <translation>يواجه Tor مشكلة مع برنامج الجسور: %1</translation>
+        <translation>يواجه Tor مشكلة مع برنامج الجسور: ⁨%1⁩</translation>
     </message>
     <message>
         <source>The bridge program printed something that Tor doesn&apos;t understand: &quot;%1&quot;.</source>
-        <translation>أخرج برنامج الجسور شيئًا لا يفهمه Tor: «%1».</translation>
+        <translation>أخرج برنامج الجسور شيئًا لا يفهمه Tor: «⁨%1⁩».</translation>
     </message>
     <message>
         <source>Using the %1 fastest of %2 bridges</source>
@@ -2083,11 +2083,11 @@
     </message>
     <message>
         <source>The system&apos;s firewall can&apos;t be used: %1</source>
-        <translation>لا يمكن استخدام جدار حماية النظام: %1</translation>
+        <translation>لا يمكن استخدام جدار حماية النظام: ⁨%1⁩</translation>
     </message>
     <message>
         <source>The running kernel (%1) has no nftables. After an upgrade of the kernel, restart the computer.</source>
-        <translation>النواة العاملة (%1) بدون nftables. أعد تشغيل الحاسوب بعد ترقية النواة.</translation>
+        <translation>النواة العاملة (⁨%1⁩) بدون nftables. أعد تشغيل الحاسوب بعد ترقية النواة.</translation>
     </message>
     <message>
         <source>nftables is installed. Only root can tell whether the running kernel can use it.</source>
@@ -2103,7 +2103,7 @@
     </message>
     <message>
         <source>The kernel (%1) is older than 5.13, so no application can be opened without Tor, and the kill switch knows Tor by its account alone. Everything else works.</source>
-        <translation>النواة (%1) أقدم من 5.13، لذا لا يمكن فتح أي تطبيق بدون Tor، ولا يتعرف مفتاح القطع على Tor إلا بحسابه. كل ما عدا ذلك يعمل.</translation>
+        <translation>النواة (⁨%1⁩) أقدم من 5.13، لذا لا يمكن فتح أي تطبيق بدون Tor، ولا يتعرف مفتاح القطع على Tor إلا بحسابه. كل ما عدا ذلك يعمل.</translation>
     </message>
     <message>
         <source>Applications can be opened without Tor: control groups of version 2 are there.</source>
@@ -2111,15 +2111,15 @@
     </message>
     <message>
         <source>No other firewall that Veldmark knows runs. Only root can read the rules themselves.</source>
-        <translation>لا يعمل أي جدار حماية آخر معروف بالاسم. أما القواعد نفسها فلا يعلمها إلا root.</translation>
+        <translation>لا يعمل أي جدار حماية آخر يعرفه Veldmark. أما القواعد نفسها فلا يستطيع قراءتها إلا root.</translation>
     </message>
     <message>
         <source>Another firewall on this computer blocks outgoing traffic that its rules don&apos;t allow, so Tor may not get through: %1.</source>
-        <translation>يمنع جدار حماية آخر على هذا الحاسوب كل اتصال صادر لا تسمح به إحدى قواعده، لذا قد لا يمر Tor: %1.</translation>
+        <translation>يمنع جدار حماية آخر على هذا الحاسوب كل اتصال صادر لا تسمح به إحدى قواعده، لذا قد لا يمر Tor: ⁨%1⁩.</translation>
     </message>
     <message>
         <source>Other programs set firewall rules here: %1. Veldmark leaves their rules alone. Rules that drop packets can block Tor.</source>
-        <translation>برامج أخرى تضع قواعد جدار حماية هنا: %1. لا يمسّ Veldmark قواعدها. القواعد التي تُسقط الحزم قد تحجب Tor.</translation>
+        <translation>برامج أخرى تضع قواعد جدار حماية هنا: ⁨%1⁩. لا يمسّ Veldmark قواعدها. القواعد التي تُسقط الحزم قد تحجب Tor.</translation>
     </message>
     <message>
         <source>pkexec isn&apos;t installed, so no window can ask for the administrator&apos;s password.</source>
@@ -2135,11 +2135,11 @@
     </message>
     <message>
         <source>No known polkit agent, the program that asks for the password, runs in your session. Use sudo, or start an agent such as lxpolkit.</source>
-        <translation>لا يعمل في جلستك أي برنامج معروف يطلب كلمات سر polkit (عميل مصادقة). بدونه استخدم sudo، أو شغّل عميلًا مثل lxpolkit.</translation>
+        <translation>لا يعمل في جلستك أي عميل polkit معروف، وهو البرنامج الذي يطلب كلمة السر. استخدم sudo، أو شغّل عميلًا مثل lxpolkit.</translation>
     </message>
     <message>
         <source>polkit is installed, and an agent that asks for the password runs in your session.</source>
-        <translation>برنامج polkit موجود، ويعمل في جلستك برنامج يطلب كلمات سره.</translation>
+        <translation>برنامج polkit مثبت، ويعمل في جلستك عميل يطلب كلمة السر.</translation>
     </message>
     <message>
         <source>Veldmark runs as root here and asks for no password.</source>
@@ -2199,7 +2199,7 @@
     </message>
     <message>
         <source>The program %1 is missing. Veldmark&apos;s helper needs it.</source>
-        <translation>البرنامج %1 مفقود. يحتاج إليه برنامج Veldmark المساعد.</translation>
+        <translation>البرنامج ⁨%1⁩ مفقود. يحتاج إليه برنامج Veldmark المساعد.</translation>
     </message>
     <message>
         <source>Every program that Veldmark&apos;s helper calls is installed.</source>
@@ -2207,11 +2207,11 @@
     </message>
     <message>
         <source>The helper is missing. Reinstall Veldmark.</source>
-        <translation>سكربت برنامج Veldmark المساعد مفقود. ثبّت Veldmark من جديد.</translation>
+        <translation>برنامج Veldmark المساعد مفقود. ثبّت Veldmark من جديد.</translation>
     </message>
     <message>
         <source>Accounts other than root can change Veldmark&apos;s helper, %1, and with it what the administrator&apos;s password runs.</source>
-        <translation>برنامج Veldmark المساعد، ⁨%1⁩، موجود حيث يستطيع غير root الكتابة. ويستطيع هؤلاء تغييره، فيتغير معه ما يُشغَّل بكلمة سر مدير النظام.</translation>
+        <translation>تستطيع حسابات غير root تغيير برنامج Veldmark المساعد، ⁨%1⁩، فيتغير معه ما يُشغَّل بكلمة سر مدير النظام.</translation>
     </message>
     <message>
         <source>Veldmark&apos;s helper, %1, is not installed: the account %2 can change it, and with it what the administrator&apos;s password runs.</source>
@@ -2231,7 +2231,7 @@
     </message>
     <message>
         <source>Bridges are off. Bridge programs were found: %1.</source>
-        <translation>الجسور معطّلة. برامج الجسور التي عُثر عليها: %1.</translation>
+        <translation>الجسور معطّلة. برامج الجسور التي عُثر عليها: ⁨%1⁩.</translation>
     </message>
     <message>
         <source>The chosen bridges can&apos;t be used. %1</source>
@@ -2239,11 +2239,11 @@
     </message>
     <message>
         <source>The chosen bridges (%1) can be used: %2.</source>
-        <translation>يمكن استخدام الجسور المختارة (%1): %2.</translation>
+        <translation>يمكن استخدام الجسور المختارة (%1): ⁨%2⁩.</translation>
     </message>
     <message>
         <source>%1 manages DNS. Veldmark changes that while connected and restores it afterwards.</source>
-        <translation>تُستعلم الأسماء كما يحدد ⁨%1⁩. يغيّر Veldmark ذلك ثم يعيده.</translation>
+        <translation>يدير ⁨%1⁩ إعدادات DNS. يغيّر Veldmark ذلك أثناء الاتصال ثم يعيده بعده إلى ما كان عليه.</translation>
     </message>
     <message>
         <source>Veldmark wrote %1. It points DNS at Tor.</source>
@@ -2251,11 +2251,11 @@
     </message>
     <message>
         <source>The file %1 is missing, so DNS may not work at all.</source>
-        <translation>لا يوجد ملف ⁨%1⁩، لذا قد لا تُستعلم الأسماء إطلاقًا.</translation>
+        <translation>الملف ⁨%1⁩ مفقود، لذا قد لا يعمل DNS إطلاقًا.</translation>
     </message>
     <message>
         <source>A resolver on this computer answers DNS. Veldmark changes that while connected and restores it afterwards.</source>
-        <translation>يُجري استعلامات الأسماء برنامج resolver على هذا الحاسوب. يغيّر Veldmark ذلك ثم يعيده.</translation>
+        <translation>يردّ على استعلامات DNS برنامج resolver على هذا الحاسوب. يغيّر Veldmark ذلك أثناء الاتصال ثم يعيده بعده إلى ما كان عليه.</translation>
     </message>
     <message>
         <source>No earlier session is left open.</source>
@@ -2343,19 +2343,19 @@
     </message>
     <message>
         <source>Couldn&apos;t make the folder %1: %2.</source>
-        <translation>تعذر إنشاء المجلد ⁨%1⁩: %2.</translation>
+        <translation>تعذر إنشاء المجلد ⁨%1⁩: ⁨%2⁩.</translation>
     </message>
     <message>
         <source>Couldn&apos;t open %1: %2.</source>
-        <translation>تعذر فتح ⁨%1⁩: %2.</translation>
+        <translation>تعذر فتح ⁨%1⁩: ⁨%2⁩.</translation>
     </message>
     <message>
         <source>Couldn&apos;t make a folder beside %1: %2.</source>
-        <translation>تعذر إنشاء مجلد بجانب ⁨%1⁩: %2.</translation>
+        <translation>تعذر إنشاء مجلد بجانب ⁨%1⁩: ⁨%2⁩.</translation>
     </message>
     <message>
         <source>Couldn&apos;t write %1: %2.</source>
-        <translation>تعذرت كتابة ⁨%1⁩: %2.</translation>
+        <translation>تعذرت كتابة ⁨%1⁩: ⁨%2⁩.</translation>
     </message>
     <message>
         <source>%1 didn&apos;t end within %2 minutes.</source>
@@ -2403,11 +2403,11 @@
     </message>
     <message>
         <source>There is no application &quot;%1&quot;; &quot;veldmarkctl apps&quot; lists them.</source>
-        <translation>لا يوجد تطبيق «%1»؛ يسرد «veldmarkctl apps» التطبيقات.</translation>
+        <translation>لا يوجد تطبيق «⁨%1⁩»؛ يسرد «veldmarkctl apps» التطبيقات.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; may be any of: %2. Give the path.</source>
-        <translation>قد يُقصد بـ «%1» أيٌّ مما يلي: ⁨%2⁩. أعطِ المسار.</translation>
+        <translation>قد يُقصد بـ «⁨%1⁩» أيٌّ مما يلي: ⁨%2⁩. أعطِ المسار.</translation>
     </message>
     <message>
         <source>%1 needs a key: veldmarkctl %1 KEY.</source>
@@ -2419,7 +2419,7 @@
     </message>
     <message>
         <source>A command is missing. &quot;veldmarkctl help&quot; lists the commands.</source>
-        <translation>ما المطلوب؟ يسرد «veldmarkctl help» الأوامر.</translation>
+        <translation>لم يُحدَّد أمر. يسرد «veldmarkctl help» الأوامر.</translation>
     </message>
     <message>
         <source>Unknown command %1. &quot;veldmarkctl help&quot; lists the commands.</source>
@@ -2461,7 +2461,7 @@
     </message>
     <message>
         <source>doesn&apos;t say which transports it serves</source>
-        <translation>لا يذكر ما يوفره</translation>
+        <translation>لا يذكر وسائل النقل التي يوفرها</translation>
     </message>
     <message>
         <source>serves %1</source>
@@ -2473,7 +2473,7 @@
     </message>
     <message>
         <source>Built-in bridges, from %1</source>
-        <translation>الجسور المدمجة، من %1</translation>
+        <translation>الجسور المدمجة، من ⁨%1⁩</translation>
     </message>
     <message>
         <source>none; get some with: veldmarkctl download-transports</source>
@@ -2597,11 +2597,11 @@
     </message>
     <message>
         <source>no answer, but it isn&apos;t known whether the kill switch blocks it</source>
-        <translation>لا رد، لكن لا يُعرف هل يسده مفتاح القطع</translation>
+        <translation>لا رد، لكن لا يُعرف هل يحجبه مفتاح القطع</translation>
     </message>
     <message>
         <source>no answer, but proxy mode doesn&apos;t block it</source>
-        <translation>لا رد، لكن وضع الوكيل لا يسده</translation>
+        <translation>لا رد، لكن وضع الوكيل لا يحجبه</translation>
     </message>
     <message>
         <source>checking…</source>
@@ -2741,7 +2741,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; is neither true nor false.</source>
-        <translation>القيمة «%1» ليست true ولا false.</translation>
+        <translation>القيمة «⁨%1⁩» ليست true ولا false.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a JSON array of strings.</source>
@@ -2749,19 +2749,19 @@
     </message>
     <message>
         <source>&quot;%1&quot; is not a bridge choice: off, obfs4, snowflake, meek or custom.</source>
-        <translation>القيمة «%1» ليست من خيارات الجسور: off أو obfs4 أو snowflake أو meek أو custom.</translation>
+        <translation>القيمة «⁨%1⁩» ليست من خيارات الجسور: off أو obfs4 أو snowflake أو meek أو custom.</translation>
     </message>
     <message>
         <source>There is no setting &quot;%1&quot;. Settings: %2.</source>
-        <translation>لا يوجد إعداد «%1». الإعدادات: ⁨%2⁩.</translation>
+        <translation>لا يوجد إعداد «⁨%1⁩». الإعدادات: ⁨%2⁩.</translation>
     </message>
     <message>
         <source>Tor didn&apos;t finish connecting within 5 minutes. (%1)</source>
-        <translation>لم يُكمل Tor الاتصال خلال 5 دقائق. (%1)</translation>
+        <translation>لم يُكمل Tor الاتصال خلال 5 دقائق. (⁨%1⁩)</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not an exit country: two lower-case letters such as &quot;de&quot;, or nothing for any.</source>
-        <translation>القيمة «%1» ليست بلد خروج: حرفان صغيران مثل «de»، أو لا شيء لأي بلد.</translation>
+        <translation>القيمة «⁨%1⁩» ليست بلد خروج: حرفان صغيران مثل «de»، أو لا شيء لأي بلد.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not an application: an absolute path that ends in &quot;%2&quot;.</source>
@@ -2769,7 +2769,7 @@
     </message>
     <message>
         <source>strict mode with the kill switch, else proxy mode</source>
-        <translation>مفتاح القطع، وإلا فوضع الوكيل</translation>
+        <translation>الوضع الصارم مع مفتاح القطع، وإلا فوضع الوكيل</translation>
     </message>
     <message>
         <source>strict mode lets the local network through</source>
@@ -2781,7 +2781,7 @@
     </message>
     <message>
         <source>the path of the tor to use, or nothing to search for tor</source>
-        <translation>برنامج tor المستخدم، أو لا شيء للبحث عنه</translation>
+        <translation>مسار برنامج tor المستخدم، أو لا شيء للبحث عنه</translation>
     </message>
     <message>
         <source>which bridges</source>
@@ -2825,7 +2825,7 @@
     </message>
     <message>
         <source>Not now: %1</source>
-        <translation>ليس الآن: %1</translation>
+        <translation>ليس الآن: ⁨%1⁩</translation>
     </message>
     <message>
         <source>A check is already running.</source>
@@ -2861,7 +2861,7 @@
     </message>
     <message>
         <source>Couldn&apos;t listen on %1: %2.</source>
-        <translation>تعذر الاستماع على ⁨%1⁩: %2.</translation>
+        <translation>تعذر الاستماع على ⁨%1⁩: ⁨%2⁩.</translation>
     </message>
     <message>
         <source>A command is a JSON object on one line.</source>
@@ -2869,7 +2869,7 @@
     </message>
     <message>
         <source>Unknown command &quot;%1&quot;.</source>
-        <translation>أمر غير معروف «%1».</translation>
+        <translation>أمر غير معروف «⁨%1⁩».</translation>
     </message>
     <message>
         <source>Not connected.</source>
@@ -2877,7 +2877,7 @@
     </message>
     <message>
         <source>The session has ended: %1</source>
-        <translation>انتهت الجلسة: %1</translation>
+        <translation>انتهت الجلسة: ⁨%1⁩</translation>
     </message>
     <message>
         <source>as JSON</source>
@@ -2909,7 +2909,7 @@
     </message>
     <message>
         <source>restore the network and stop Tor, also after a crash</source>
-        <translation>الشيء نفسه، ويشمل أيضًا ما خلّفه انهيار البرنامج</translation>
+        <translation>استعادة الشبكة وإيقاف Tor، حتى بعد انهيار البرنامج</translation>
     </message>
     <message>
         <source>check the exit address, the direct path and DNS now</source>
@@ -3005,7 +3005,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>No lines contain “%1”</source>
-        <translation>لا سطر يحتوي «%1»</translation>
+        <translation>لا سطر يحتوي «⁨%1⁩»</translation>
     </message>
     <message>
         <source>No warnings or errors. Tor is happy.</source>
@@ -3013,7 +3013,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>The bridge program %1 reports: %2</source>
-        <translation>يفيد برنامج الجسور %1 بما يلي: %2</translation>
+        <translation>يفيد برنامج الجسور %1 بما يلي: ⁨%2⁩</translation>
     </message>
     <message>
         <source>The bridge program %1 ended unexpectedly.</source>
@@ -3033,7 +3033,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>It said: &quot;%1&quot;.</source>
-        <translation>ورد منه: «%1».</translation>
+        <translation>ورد منه: «⁨%1⁩».</translation>
     </message>
     <message>
         <source>The program is quitting.</source>
@@ -3041,7 +3041,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>Veldmark replaces the running strict session. The new session may protect you less.</source>
-        <translation>تحل جلسة أخرى محل الجلسة الصارمة العاملة، وقد تقلّ حمايتك.</translation>
+        <translation>يُحلّ Veldmark جلسة جديدة محل الجلسة الصارمة العاملة. قد تحميك الجلسة الجديدة حماية أقل.</translation>
     </message>
     <message>
         <source>Veldmark wants to run %1 as a part of Tor. No package of the system installed it. Its SHA-256 is %2.</source>
@@ -3049,19 +3049,19 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>%1 can&apos;t be created: %2.</source>
-        <translation>لا يمكن إنشاء ⁨%1⁩: %2.</translation>
+        <translation>لا يمكن إنشاء ⁨%1⁩: ⁨%2⁩.</translation>
     </message>
     <message>
         <source>%1 can&apos;t be removed: %2.</source>
-        <translation>لا يمكن إزالة ⁨%1⁩: %2.</translation>
+        <translation>لا يمكن إزالة ⁨%1⁩: ⁨%2⁩.</translation>
     </message>
     <message>
         <source>%1 can&apos;t be read: %2.</source>
-        <translation>لا يمكن قراءة ⁨%1⁩: %2.</translation>
+        <translation>لا يمكن قراءة ⁨%1⁩: ⁨%2⁩.</translation>
     </message>
     <message>
         <source>%1 can&apos;t be written: %2.</source>
-        <translation>لا يمكن كتابة ⁨%1⁩: %2.</translation>
+        <translation>لا يمكن كتابة ⁨%1⁩: ⁨%2⁩.</translation>
     </message>
     <message>
         <source>%1 is not a file.</source>
@@ -3085,15 +3085,15 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>A note of what to restore was damaged (%1). The network is open again; check your network settings.</source>
-        <translation>كانت ملاحظة بما تجب استعادته تالفة (%1). رُفع الحجب عن الشبكة؛ تحقق من إعدادات شبكتك.</translation>
+        <translation>كانت ملاحظة بما تجب استعادته تالفة (⁨%1⁩). رُفع الحجب عن الشبكة؛ تحقق من إعدادات شبكتك.</translation>
     </message>
     <message>
         <source>A note of what to restore was damaged (%1). The network is open again; check your proxy settings.</source>
-        <translation>كانت ملاحظة بما تجب استعادته تالفة (%1). رُفع الحجب عن الشبكة؛ تحقق من إعدادات الوكيل.</translation>
+        <translation>كانت ملاحظة بما تجب استعادته تالفة (⁨%1⁩). رُفع الحجب عن الشبكة؛ تحقق من إعدادات الوكيل.</translation>
     </message>
     <message>
         <source>An administrator password is needed to approve %1.</source>
-        <translation>تلزم كلمة سر مدير النظام للموافقة على %1.</translation>
+        <translation>تلزم كلمة سر مدير النظام للموافقة على ⁨%1⁩.</translation>
     </message>
     <message>
         <source>An administrator password is needed to change the running strict session.</source>
@@ -3133,7 +3133,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>Passwordless mode can be set up only for the user who asks.</source>
-        <translation>لا يمكن منح الإذن إلا للمستخدم الذي يطلبه.</translation>
+        <translation>لا يمكن إعداد الوضع بلا كلمة سر إلا للمستخدم الذي يطلبه.</translation>
     </message>
     <message>
         <source>Another program is changing the firewall. Try again in a moment.</source>
@@ -3217,11 +3217,11 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>The firewall rules cannot be read, so nothing was done.</source>
-        <translation>لا يمكن فحص جدار الحماية، لذا لم يُفعل شيء.</translation>
+        <translation>لا يمكن قراءة قواعد جدار الحماية، لذا لم يُفعل شيء.</translation>
     </message>
     <message>
         <source>The firewall cannot be switched on (%1).</source>
-        <translation>لا يمكن تفعيل جدار الحماية (%1).</translation>
+        <translation>لا يمكن تفعيل جدار الحماية (⁨%1⁩).</translation>
     </message>
     <message>
         <source>The firewall cannot end the earlier connections.</source>
@@ -3249,7 +3249,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>The firewall rules were not accepted (%1).</source>
-        <translation>لم تُقبل قواعد جدار الحماية (%1).</translation>
+        <translation>لم تُقبل قواعد جدار الحماية (⁨%1⁩).</translation>
     </message>
     <message>
         <source>The firewall&apos;s devices cannot be read.</source>
@@ -3257,7 +3257,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>The firewall&apos;s main rules cannot be changed (%1).</source>
-        <translation>لا يمكن تغيير القواعد الرئيسية لجدار الحماية (%1).</translation>
+        <translation>لا يمكن تغيير القواعد الرئيسية لجدار الحماية (⁨%1⁩).</translation>
     </message>
     <message>
         <source>The firewall&apos;s main rules cannot be read.</source>
@@ -3305,7 +3305,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>The former network settings could not all be restored.</source>
-        <translation>تعذرت استعادة جميع إعدادات الشبكة السابقة.</translation>
+        <translation>تعذرت استعادة بعض إعدادات الشبكة السابقة.</translation>
     </message>
     <message>
         <source>The hashed control password is not valid.</source>
@@ -3453,7 +3453,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>The port %1, which Tor needs, is held by %2. End that program, then connect again.</source>
-        <translation>المنفذ %1 الذي يحتاج إليه Tor يحجزه %2. أنهِ ذلك، ثم اتصل من جديد.</translation>
+        <translation>المنفذ %1 الذي يحتاج إليه Tor يحجزه %2. أنهِ ذلك البرنامج، ثم اتصل من جديد.</translation>
     </message>
     <message>
         <source>a program (process %1)</source>
@@ -3477,11 +3477,11 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>The program %1 is missing on this system.</source>
-        <translation>البرنامج %1 مفقود على هذا النظام.</translation>
+        <translation>البرنامج ⁨%1⁩ مفقود على هذا النظام.</translation>
     </message>
     <message>
         <source>The SHA-256 of the program %1 is not the one to approve.</source>
-        <translation>البرنامج ⁨%1⁩ ليس البرنامج الذي كان يُراد الموافقة عليه.</translation>
+        <translation>قيمة SHA-256 للبرنامج ⁨%1⁩ ليست القيمة التي كان يُراد الموافقة عليها.</translation>
     </message>
     <message>
         <source>The program given with %1 is not an executable file.</source>
@@ -3509,7 +3509,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>The system&apos;s firewall cannot be used (%1).</source>
-        <translation>لا يمكن استخدام جدار حماية النظام (%1).</translation>
+        <translation>لا يمكن استخدام جدار حماية النظام (⁨%1⁩).</translation>
     </message>
     <message>
         <source>The system&apos;s own Tor service (%1) cannot be stopped.</source>
@@ -3593,7 +3593,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>Tor could not be started (%1).</source>
-        <translation>تعذر بدء Tor (%1).</translation>
+        <translation>تعذر بدء Tor (⁨%1⁩).</translation>
     </message>
     <message>
         <source>Tor could not be stopped.</source>
@@ -3605,11 +3605,11 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>Tor did not start: %1</source>
-        <translation>لم يبدأ Tor: %1</translation>
+        <translation>لم يبدأ Tor: ⁨%1⁩</translation>
     </message>
     <message>
         <source>Tor does not accept its configuration: %1</source>
-        <translation>لا يقبل Tor إعداداته: %1</translation>
+        <translation>لا يقبل Tor إعداداته: ⁨%1⁩</translation>
     </message>
     <message>
         <source>it ended without a message.</source>
@@ -3625,7 +3625,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>Veldmark is in use by %1. An administrator password is needed to end that session.</source>
-        <translation>يستخدم %1 برنامج Veldmark الآن. تلزم كلمة سر مدير النظام لإنهاء تلك الجلسة.</translation>
+        <translation>يستخدم ⁨%1⁩ برنامج Veldmark الآن. تلزم كلمة سر مدير النظام لإنهاء تلك الجلسة.</translation>
     </message>
     <message>
         <source>Veldmark is not connected, so the DNS settings were left alone.</source>
@@ -3645,7 +3645,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>The desktop entry cannot be read (%1).</source>
-        <translation>لا يمكن قراءة مدخلة سطح المكتب (%1).</translation>
+        <translation>لا يمكن قراءة مدخلة سطح المكتب (⁨%1⁩).</translation>
     </message>
     <message>
         <source>The desktop entry names no program that is installed.</source>
@@ -3653,7 +3653,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>The application could not be started (%1).</source>
-        <translation>تعذر بدء التطبيق (%1).</translation>
+        <translation>تعذر بدء التطبيق (⁨%1⁩).</translation>
     </message>
     <message>
         <source>There is no such application or program.</source>
@@ -3665,7 +3665,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>The program could not be started (%1).</source>
-        <translation>تعذر بدء البرنامج (%1).</translation>
+        <translation>تعذر بدء البرنامج (⁨%1⁩).</translation>
     </message>
     <message>
         <source>The user is not known on this system.</source>
@@ -3733,11 +3733,11 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>The program systemd-run is missing. Veldmark needs it to make a group for a program.</source>
-        <translation>البرنامج systemd-run مفقود، وهو الذي ينشئ مجموعات البرامج.</translation>
+        <translation>البرنامج systemd-run مفقود. يحتاج إليه Veldmark لإنشاء مجموعة لبرنامج.</translation>
     </message>
     <message>
         <source>The program could not be started: %1.</source>
-        <translation>تعذر بدء البرنامج: %1.</translation>
+        <translation>تعذر بدء البرنامج: ⁨%1⁩.</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -3775,7 +3775,7 @@ name in the same session has the same ones</source>
     </message>
     <message>
         <source>The table of the applications&apos; identities could not be removed (%1).</source>
-        <translation>تعذرت إزالة جدول هويات التطبيقات (%1).</translation>
+        <translation>تعذرت إزالة جدول هويات التطبيقات (⁨%1⁩).</translation>
     </message>
     <message>
         <source>The value of --separate must be 0 or 1.</source>
@@ -3783,7 +3783,7 @@ name in the same session has the same ones</source>
     </message>
     <message>
         <source>No package of the system installed %1. The next connect asks an administrator to approve it.</source>
-        <translation>لم تأتِ بـ ⁨%1⁩ أي حزمة من حزم النظام. يُطلب من مسؤول أن يوافق عليه عند الاتصال التالي.</translation>
+        <translation>لم تأتِ بـ ⁨%1⁩ أي حزمة من حزم النظام. يُطلب من مدير النظام أن يوافق عليه عند الاتصال التالي.</translation>
     </message>
     <message>
         <source>It isn&apos;t known whether a connect can work.</source>
@@ -3791,7 +3791,7 @@ name in the same session has the same ones</source>
     </message>
     <message>
         <source>Another firewall on this computer blocks outgoing traffic, and none of its rules allows any, so Tor can&apos;t get through: %1.</source>
-        <translation>يمنع جدار حماية آخر على هذا الحاسوب الاتصالات الصادرة، ولا تسمح أي من قواعده بشيء، لذا لا يمكن أن يمر Tor: %1.</translation>
+        <translation>يمنع جدار حماية آخر على هذا الحاسوب الاتصالات الصادرة، ولا تسمح أي من قواعده بشيء، لذا لا يمكن أن يمر Tor: ⁨%1⁩.</translation>
     </message>
     <message>
         <source>Users other than root can change %1, so root doesn&apos;t run it to ask for its version.</source>
@@ -3811,15 +3811,15 @@ name in the same session has the same ones</source>
     </message>
     <message>
         <source>%1 needs the name of a file.</source>
-        <translation>يحتاج %1 إلى اسم ملف.</translation>
+        <translation>يحتاج ⁨%1⁩ إلى اسم ملف.</translation>
     </message>
     <message>
         <source>It doesn&apos;t answer.</source>
-        <translation>إنها لا تجيب.</translation>
+        <translation>إنها لا تردّ.</translation>
     </message>
     <message>
         <source>This report goes to %1.</source>
-        <translation>يُكتب هذا التقرير في %1.</translation>
+        <translation>يُكتب هذا التقرير في ⁨%1⁩.</translation>
     </message>
     <message>
         <source>write it into a new file too</source>
@@ -3827,19 +3827,19 @@ name in the same session has the same ones</source>
     </message>
     <message>
         <source>The report can&apos;t be written to %1: %2</source>
-        <translation>تتعذر كتابة التقرير في %1: %2</translation>
+        <translation>تتعذر كتابة التقرير في ⁨%1⁩: ⁨%2⁩</translation>
     </message>
     <message>
         <source>%1 isn&apos;t a regular file. Choose another name for the report.</source>
-        <translation>%1 ليس ملفًا عاديًا. اختر اسمًا آخر للتقرير.</translation>
+        <translation>المسار ⁨%1⁩ ليس ملفًا عاديًا. اختر اسمًا آخر للتقرير.</translation>
     </message>
     <message>
         <source>%1 exists already. Choose another name for the report.</source>
-        <translation>%1 موجود بالفعل. اختر اسمًا آخر للتقرير.</translation>
+        <translation>الملف ⁨%1⁩ موجود بالفعل. اختر اسمًا آخر للتقرير.</translation>
     </message>
     <message>
         <source>The running instance gave no state: %1</source>
-        <translation>لم تعطِ النسخة العاملة حالتها: %1</translation>
+        <translation>لم تعطِ النسخة العاملة حالتها: ⁨%1⁩</translation>
     </message>
     <message>
         <source>a report for those who help you: settings, findings and log without addresses,
