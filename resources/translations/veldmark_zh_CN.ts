@@ -595,7 +595,7 @@
     <name>ProgramRow</name>
     <message>
         <source>Found %1</source>
-        <translation>已找到 %1</translation>
+        <translation>已%1找到</translation>
     </message>
     <message>
         <source>Not found</source>
@@ -991,7 +991,7 @@
     </message>
     <message>
         <source>Leads to an onion service. The last relay is the meeting point.</source>
-        <translation>通往洋葱服务，双方在此线路的最后一个中继会合</translation>
+        <translation>通往洋葱服务。最后一个中继是会合点。</translation>
     </message>
     <message>
         <source>Meeting point</source>
@@ -1066,7 +1066,7 @@
     </message>
     <message>
         <source>The check gave no result.</source>
-        <translation>未能查明任何情况。</translation>
+        <translation>检查没有得出结果。</translation>
     </message>
     <message>
         <source>No problem was found that keeps Veldmark from connecting.</source>
@@ -1211,11 +1211,11 @@
     </message>
     <message>
         <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
-        <translation>绕过 Tor 的直接连接没有得到应答，但无法确认断网保护是否已阻断该路径</translation>
+        <translation>绕过 Tor 的直接连接没有得到应答，但无法确认断网保护是否会阻断此类连接</translation>
     </message>
     <message>
         <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
-        <translation>绕过 Tor 的直接连接没有得到应答，但代理模式并不阻断该路径</translation>
+        <translation>绕过 Tor 的直接连接没有得到应答，但代理模式并不阻断此类连接</translation>
     </message>
     <message>
         <source>Connect to Tor</source>
@@ -1389,11 +1389,11 @@
     </message>
     <message>
         <source>Fetched over HTTPS. Its signature isn&apos;t checked, since GnuPG isn&apos;t installed.</source>
-        <translation>已通过 HTTPS 获取。由于未安装 GnuPG，未检查其签名。</translation>
+        <translation>通过 HTTPS 获取。由于未安装 GnuPG，不检查其签名。</translation>
     </message>
     <message>
         <source>Fetched over HTTPS and checked against the Tor Project&apos;s signature.</source>
-        <translation>已通过 HTTPS 获取，并已用 Tor 项目的签名验证。</translation>
+        <translation>通过 HTTPS 获取，并用 Tor 项目的签名验证。</translation>
     </message>
     <message>
         <source>Not installed</source>
@@ -1515,11 +1515,11 @@
     </message>
     <message>
         <source>Tor stopped running. The kill switch is still blocking traffic, so nothing leaked. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor 已停止运行。断网保护仍在阻断流量，因此没有发生泄露。请重新连接，或恢复网络，不经 Tor 重新上网。</translation>
+        <translation>Tor 已停止运行。断网保护仍在阻断流量，因此没有发生泄露。请重新连接，或恢复网络以不经 Tor 上网。</translation>
     </message>
     <message>
         <source>Tor stopped running. The kill switch is still blocking traffic, but the last checks saw traffic go around Tor. Reconnect, or Restore Network to go online without Tor.</source>
-        <translation>Tor 已停止运行。断网保护仍在阻断流量，但最近的检查发现有流量绕过了 Tor。请重新连接，或恢复网络，不经 Tor 重新上网。</translation>
+        <translation>Tor 已停止运行。断网保护仍在阻断流量，但最近的检查发现有流量绕过了 Tor。请重新连接，或恢复网络以不经 Tor 上网。</translation>
     </message>
     <message>
         <source>Tor stopped running. Apps using the proxy can&apos;t connect until you reconnect or Restore Network.</source>
@@ -1623,7 +1623,7 @@
     </message>
     <message>
         <source>Tor stopped running. The kill switch is blocking traffic again, but another program had removed its rules for a while. Reconnect, or Restore Network to go online without Tor.</source>
-        <translation>Tor 已停止运行。断网保护已重新开始阻断流量，但此前其规则曾一度被另一个程序移除。请重新连接，或恢复网络，不经 Tor 重新上网。</translation>
+        <translation>Tor 已停止运行。断网保护已重新开始阻断流量，但此前其规则曾一度被另一个程序移除。请重新连接，或恢复网络以不经 Tor 上网。</translation>
     </message>
     <message>
         <source>Tor stopped running, and the kill switch doesn&apos;t block traffic: another program removed its rules. Traffic may leave this computer directly. Reconnect, or Restore Network.</source>
@@ -1631,7 +1631,7 @@
     </message>
     <message>
         <source>Tor stopped running, and it isn&apos;t known whether the kill switch is still blocking traffic. Reconnect, or Restore Network to go online without Tor.</source>
-        <translation>Tor 已停止运行，并且无法确定断网保护是否仍在阻断流量。请重新连接，或恢复网络，不经 Tor 重新上网。</translation>
+        <translation>Tor 已停止运行，并且无法确定断网保护是否仍在阻断流量。请重新连接，或恢复网络以不经 Tor 上网。</translation>
     </message>
     <message>
         <source>The watcher of Veldmark&apos;s firewall rules has stopped reporting, so it isn&apos;t known whether the kill switch blocks traffic. Disconnect and connect again.</source>
@@ -1707,7 +1707,7 @@
     </message>
     <message>
         <source>This computer has no network. Traffic around Tor stays blocked.</source>
-        <translation>本机没有网络。在此期间，没有流量会绕过 Tor 流出。</translation>
+        <translation>本机没有网络。绕过 Tor 的流量仍被阻断。</translation>
     </message>
     <message>
         <source>This computer has no network. Veldmark goes on when it is back.</source>
@@ -1715,7 +1715,7 @@
     </message>
     <message>
         <source>Tor has no working circuit and keeps trying. Traffic around Tor stays blocked.</source>
-        <translation>Tor 没有可用的线路，正在继续尝试。在此期间，没有流量会绕过 Tor 流出。</translation>
+        <translation>Tor 没有可用的线路，正在继续尝试。绕过 Tor 的流量仍被阻断。</translation>
     </message>
     <message>
         <source>Tor has no working circuit and keeps trying.</source>
@@ -1723,7 +1723,7 @@
     </message>
     <message>
         <source>Tor gets no answer from the network and keeps trying. Traffic around Tor stays blocked.</source>
-        <translation>Tor 没有得到网络的应答，正在继续尝试。在此期间，没有流量会绕过 Tor 流出。</translation>
+        <translation>Tor 没有得到网络的应答，正在继续尝试。绕过 Tor 的流量仍被阻断。</translation>
     </message>
     <message>
         <source>Tor gets no answer from the network and keeps trying.</source>
@@ -1919,7 +1919,7 @@
     </message>
     <message>
         <source>The connection was lost before the download ended.</source>
-        <translation>连接在完成之前中断。</translation>
+        <translation>连接在下载完成之前中断。</translation>
     </message>
     <message>
         <source>Not connected to Tor&apos;s control port.</source>
@@ -1955,7 +1955,7 @@
     </message>
     <message>
         <source>The password could not be checked: polkit accepts no password from this terminal. Run the command with sudo.</source>
-        <translation>无法检查密码：polkit 不接受来自此终端的密码。请用 sudo 运行。</translation>
+        <translation>无法检查密码：polkit 不接受来自此终端的密码。请用 sudo 运行该命令。</translation>
     </message>
     <message>
         <source>Couldn&apos;t fix DNS: %1</source>
@@ -2111,7 +2111,7 @@
     </message>
     <message>
         <source>No other firewall that Veldmark knows runs. Only root can read the rules themselves.</source>
-        <translation>没有其他已知的防火墙程序在运行。规则本身只有 root 能查看。</translation>
+        <translation>没有 Veldmark 已知的其他防火墙在运行。规则本身只有 root 能读取。</translation>
     </message>
     <message>
         <source>Another firewall on this computer blocks outgoing traffic that its rules don&apos;t allow, so Tor may not get through: %1.</source>
@@ -2135,11 +2135,11 @@
     </message>
     <message>
         <source>No known polkit agent, the program that asks for the password, runs in your session. Use sudo, or start an agent such as lxpolkit.</source>
-        <translation>您的会话中没有运行已知的为 polkit 询问密码的程序（认证代理）。没有它时，请使用 sudo，或启动 lxpolkit 之类的认证代理。</translation>
+        <translation>您的会话中没有运行已知的 polkit 认证代理（询问密码的程序）。请使用 sudo，或启动 lxpolkit 之类的认证代理。</translation>
     </message>
     <message>
         <source>polkit is installed, and an agent that asks for the password runs in your session.</source>
-        <translation>polkit 可用，且您的会话中运行着为其询问密码的程序。</translation>
+        <translation>polkit 已安装，且您的会话中运行着询问密码的认证代理。</translation>
     </message>
     <message>
         <source>Veldmark runs as root here and asks for no password.</source>
@@ -2207,11 +2207,11 @@
     </message>
     <message>
         <source>The helper is missing. Reinstall Veldmark.</source>
-        <translation>缺少 Veldmark 的辅助脚本。请重新安装 Veldmark。</translation>
+        <translation>缺少 Veldmark 的辅助程序。请重新安装 Veldmark。</translation>
     </message>
     <message>
         <source>Accounts other than root can change Veldmark&apos;s helper, %1, and with it what the administrator&apos;s password runs.</source>
-        <translation>Veldmark 的辅助程序 %1 所在的位置，root 以外的用户也能写入。这些用户可以改动它，从而改动凭管理员密码运行的内容。</translation>
+        <translation>root 以外的账户可以改动 Veldmark 的辅助程序 %1，从而改动凭管理员密码运行的内容。</translation>
     </message>
     <message>
         <source>Veldmark&apos;s helper, %1, is not installed: the account %2 can change it, and with it what the administrator&apos;s password runs.</source>
@@ -2243,7 +2243,7 @@
     </message>
     <message>
         <source>%1 manages DNS. Veldmark changes that while connected and restores it afterwards.</source>
-        <translation>域名按 %1 的规定解析。Veldmark 会切换该设置，之后再还原。</translation>
+        <translation>DNS 由 %1 管理。Veldmark 在连接期间会更改该设置，之后再还原。</translation>
     </message>
     <message>
         <source>Veldmark wrote %1. It points DNS at Tor.</source>
@@ -2251,11 +2251,11 @@
     </message>
     <message>
         <source>The file %1 is missing, so DNS may not work at all.</source>
-        <translation>没有文件 %1，因此可能完全无法解析域名。</translation>
+        <translation>缺少文件 %1，因此 DNS 可能完全无法工作。</translation>
     </message>
     <message>
         <source>A resolver on this computer answers DNS. Veldmark changes that while connected and restores it afterwards.</source>
-        <translation>域名由本机上的解析器解析。Veldmark 会切换该设置，之后再还原。</translation>
+        <translation>本机上的解析器负责应答 DNS 查询。Veldmark 在连接期间会更改该设置，之后再还原。</translation>
     </message>
     <message>
         <source>No earlier session is left open.</source>
@@ -2419,7 +2419,7 @@
     </message>
     <message>
         <source>A command is missing. &quot;veldmarkctl help&quot; lists the commands.</source>
-        <translation>要执行什么操作？“veldmarkctl help”会列出所有命令。</translation>
+        <translation>缺少命令。“veldmarkctl help”会列出所有命令。</translation>
     </message>
     <message>
         <source>Unknown command %1. &quot;veldmarkctl help&quot; lists the commands.</source>
@@ -2597,7 +2597,7 @@
     </message>
     <message>
         <source>no answer, but it isn&apos;t known whether the kill switch blocks it</source>
-        <translation>无应答，但无法确认断网保护是否已将其阻断</translation>
+        <translation>无应答，但无法确认断网保护是否会将其阻断</translation>
     </message>
     <message>
         <source>no answer, but proxy mode doesn&apos;t block it</source>
@@ -2769,7 +2769,7 @@
     </message>
     <message>
         <source>strict mode with the kill switch, else proxy mode</source>
-        <translation>断网保护；否则为代理模式</translation>
+        <translation>带断网保护的严格模式；否则为代理模式</translation>
     </message>
     <message>
         <source>strict mode lets the local network through</source>
@@ -2781,7 +2781,7 @@
     </message>
     <message>
         <source>the path of the tor to use, or nothing to search for tor</source>
-        <translation>要使用的 tor；留空表示自动查找</translation>
+        <translation>要使用的 tor 的路径；留空表示自动查找</translation>
     </message>
     <message>
         <source>which bridges</source>
@@ -2909,7 +2909,7 @@
     </message>
     <message>
         <source>restore the network and stop Tor, also after a crash</source>
-        <translation>同上，也适用于崩溃后的遗留状态</translation>
+        <translation>恢复网络并停止 Tor，也适用于崩溃之后</translation>
     </message>
     <message>
         <source>check the exit address, the direct path and DNS now</source>
@@ -3041,7 +3041,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>Veldmark replaces the running strict session. The new session may protect you less.</source>
-        <translation>正在运行的严格模式会话将被取代，新会话对您的保护可能更弱。</translation>
+        <translation>Veldmark 将取代正在运行的严格模式会话。新会话对您的保护可能更弱。</translation>
     </message>
     <message>
         <source>Veldmark wants to run %1 as a part of Tor. No package of the system installed it. Its SHA-256 is %2.</source>
@@ -3133,7 +3133,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>Passwordless mode can be set up only for the user who asks.</source>
-        <translation>只能为提出请求的用户授权。</translation>
+        <translation>只能为提出请求的用户设置免密码模式。</translation>
     </message>
     <message>
         <source>Another program is changing the firewall. Try again in a moment.</source>
@@ -3217,7 +3217,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>The firewall rules cannot be read, so nothing was done.</source>
-        <translation>无法查看防火墙，因此未执行任何操作。</translation>
+        <translation>无法读取防火墙规则，因此未执行任何操作。</translation>
     </message>
     <message>
         <source>The firewall cannot be switched on (%1).</source>
@@ -3481,7 +3481,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>The SHA-256 of the program %1 is not the one to approve.</source>
-        <translation>程序 %1 不是原本要批准的那个程序。</translation>
+        <translation>程序 %1 的 SHA-256 与要批准的不符。</translation>
     </message>
     <message>
         <source>The program given with %1 is not an executable file.</source>
@@ -3733,7 +3733,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>The program systemd-run is missing. Veldmark needs it to make a group for a program.</source>
-        <translation>缺少程序 systemd-run，它用于为程序创建控制组。</translation>
+        <translation>缺少程序 systemd-run。Veldmark 需要它来为程序创建控制组。</translation>
     </message>
     <message>
         <source>The program could not be started: %1.</source>
