@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>Save</source>
-        <translation>Sichern</translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -148,7 +148,7 @@
     </message>
     <message>
         <source>Other…</source>
-        <translation>Andere …</translation>
+        <translation>Andere…</translation>
     </message>
     <message>
         <source>Choose the .desktop file of an application that is not listed</source>
@@ -345,7 +345,7 @@
     </message>
     <message>
         <source>Connect as soon as Veldmark opens</source>
-        <translation>Verbinden, sobald Veldmark öffnet</translation>
+        <translation>Verbinden, sobald sich Veldmark öffnet</translation>
     </message>
     <message>
         <source>Password prompts</source>
@@ -373,7 +373,7 @@
     </message>
     <message>
         <source>Setup asks for your admin password once. It installs a root-owned copy of Veldmark&apos;s helper and a rule in /etc/sudoers.d that lets your account run only that helper, so Connect and Disconnect stop asking. Turn it off any time.</source>
-        <translation>Das Einrichten fragt einmal nach Ihrem Administratorpasswort. Es legt eine Kopie von Veldmarks Hilfsprogramm an, die root gehört, und eine Regel in /etc/sudoers.d, die Ihrem Konto nur dieses Hilfsprogramm erlaubt; dann fragen Verbinden und Trennen nicht mehr. Sie können es jederzeit ausschalten.</translation>
+        <translation>Das Einrichten fragt einmal nach Ihrem Administratorpasswort. Es legt eine Kopie von Veldmarks Hilfsprogramm an, die root gehört, und eine Regel in /etc/sudoers.d, nach der Ihr Konto nur dieses Hilfsprogramm ausführen darf; dann fragen Verbinden und Trennen nicht mehr. Sie können es jederzeit ausschalten.</translation>
     </message>
 </context>
 <context>
@@ -565,11 +565,11 @@
     </message>
     <message>
         <source>Tor isn&apos;t installed. Install it with this command, then click Recheck.</source>
-        <translation>Tor ist nicht installiert. Installieren Sie es mit diesem Befehl und klicken Sie dann auf Erneut prüfen.</translation>
+        <translation>Tor ist nicht installiert. Installieren Sie es mit diesem Befehl und klicken Sie dann auf „Erneut prüfen“.</translation>
     </message>
     <message>
         <source>Tor isn&apos;t installed. Install it with %1, then click Recheck.</source>
-        <translation>Tor ist nicht installiert. Installieren Sie es mit %1 und klicken Sie dann auf Erneut prüfen.</translation>
+        <translation>Tor ist nicht installiert. Installieren Sie es mit %1 und klicken Sie dann auf „Erneut prüfen“.</translation>
     </message>
     <message>
         <source>Recheck</source>
@@ -595,7 +595,7 @@
     <name>ProgramRow</name>
     <message>
         <source>Found %1</source>
-        <translation>Gefunden %1</translation>
+        <translation>Gefunden: %1</translation>
     </message>
     <message>
         <source>Not found</source>
@@ -665,11 +665,11 @@
     </message>
     <message>
         <source>Use this if your internet stops working after a crash. It puts your DNS, proxy and firewall settings back the way they were and stops Tor.</source>
-        <translation>Benutzen Sie dies, wenn Ihr Internet nach einem Absturz nicht geht. Es setzt DNS, Proxy und Firewall auf den früheren Stand und beendet Tor.</translation>
+        <translation>Benutzen Sie dies, wenn Ihr Internet nach einem Absturz nicht mehr geht. Es setzt DNS, Proxy und Firewall auf den früheren Stand und beendet Tor.</translation>
     </message>
     <message>
         <source>If the app won&apos;t open</source>
-        <translation>Wenn die App nicht öffnet</translation>
+        <translation>Wenn sich die App nicht öffnet</translation>
     </message>
     <message>
         <source>Run this in Terminal to do the same thing without Veldmark.</source>
@@ -821,7 +821,7 @@
     </message>
     <message>
         <source>Sites cannot tell by the exit address that two applications are yours. Veldmark tells applications apart where the desktop starts each in a control group of its own, as GNOME and KDE do. Other programs share circuits with the rest of their login session or account.</source>
-        <translation>Seiten erkennen nicht an der Ausgangsadresse, dass zwei Anwendungen Ihre sind. Anwendungen werden unterschieden, wo die Arbeitsumgebung jede in einer eigenen Kontrollgruppe startet, wie GNOME und KDE. Andere Programme teilen sich Kanäle mit ihrer ganzen Anmeldesitzung oder ihrem Konto.</translation>
+        <translation>Websites können an der Ausgangsadresse nicht erkennen, dass zwei Anwendungen Ihre sind. Veldmark unterscheidet Anwendungen dort, wo die Arbeitsumgebung jede in einer eigenen Kontrollgruppe startet, wie GNOME und KDE. Andere Programme teilen sich Kanäle mit ihrer ganzen Anmeldesitzung oder ihrem Konto.</translation>
     </message>
 </context>
 <context>
@@ -869,11 +869,11 @@
     </message>
     <message>
         <source>Another program removed Veldmark&apos;s firewall rules; they are back in place.</source>
-        <translation>Ein anderes Programm hat Veldmarks Firewall-Regeln entfernt; sie stehen wieder.</translation>
+        <translation>Ein anderes Programm hat Veldmarks Firewall-Regeln entfernt; sie sind wiederhergestellt.</translation>
     </message>
     <message>
         <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>
-        <translation>Der Notschalter sperrt nicht. Öffnen Sie Veldmark, trennen Sie und verbinden Sie neu.</translation>
+        <translation>Der Notschalter sperrt nicht. Öffnen Sie Veldmark, trennen Sie und verbinden Sie sich neu.</translation>
     </message>
     <message>
         <source>The kill switch is not watched</source>
@@ -881,7 +881,7 @@
     </message>
     <message>
         <source>Veldmark can&apos;t tell whether the kill switch blocks traffic. Open Veldmark, disconnect and connect again.</source>
-        <translation>Es ist nicht bekannt, ob der Notschalter sperrt. Öffnen Sie Veldmark, trennen Sie und verbinden Sie neu.</translation>
+        <translation>Es ist nicht bekannt, ob der Notschalter sperrt. Öffnen Sie Veldmark, trennen Sie und verbinden Sie sich neu.</translation>
     </message>
 </context>
 <context>
@@ -914,7 +914,7 @@
     </message>
     <message>
         <source>Veldmark had to close and could not restore the network. Open Veldmark again to restore it.</source>
-        <translation>Veldmark sollte enden und konnte es nicht wiederherstellen. Öffnen Sie Veldmark erneut, um das zu tun.</translation>
+        <translation>Veldmark musste sich beenden und konnte das Netzwerk nicht wiederherstellen. Öffnen Sie Veldmark erneut, um es wiederherzustellen.</translation>
     </message>
 </context>
 <context>
@@ -991,7 +991,7 @@
     </message>
     <message>
         <source>Leads to an onion service. The last relay is the meeting point.</source>
-        <translation>Führt zu einem Onion-Dienst, der ihm an seinem letzten Relais begegnet</translation>
+        <translation>Führt zu einem Onion-Dienst. Das letzte Relais ist der Treffpunkt.</translation>
     </message>
     <message>
         <source>Meeting point</source>
@@ -1109,7 +1109,7 @@
     </message>
     <message>
         <source>Show the log files in the file manager</source>
-        <translation>Zeigt die Protokolldateien in der Dateiverwaltung</translation>
+        <translation>Zeigt die Protokolldateien im Dateimanager</translation>
     </message>
     <message>
         <source>There are no log files yet. Tor creates %1 when it first starts.</source>
@@ -1124,7 +1124,7 @@
     <name>veldmark::OptionsModel</name>
     <message>
         <source>Choosing a country means fewer exit relays, so it&apos;s slower and you&apos;re easier to single out.</source>
-        <translation>Mit einem Land bleiben weniger Ausgangsrelais: Es wird langsamer, und Sie fallen leichter auf.</translation>
+        <translation>Ein gewähltes Land lässt weniger Ausgangsrelais übrig: Es wird langsamer, und Sie fallen leichter auf.</translation>
     </message>
     <message>
         <source>Off</source>
@@ -1152,7 +1152,7 @@
     </message>
     <message>
         <source>Needs bridge programs: click Download</source>
-        <translation>Braucht Brückenprogramme: Klicken Sie auf Herunterladen</translation>
+        <translation>Braucht Brückenprogramme: Klicken Sie auf „Herunterladen“</translation>
     </message>
     <message>
         <source>Built-in bridges from %1</source>
@@ -1439,7 +1439,7 @@
     <name>veldmark::Text</name>
     <message>
         <source>Tor hasn&apos;t confirmed that it uses the network again, so traffic may not get through. Veldmark keeps telling Tor to. If this lasts, disconnect and connect again.</source>
-        <translation>Tor hat nicht bestätigt, dass es wieder im Netzwerk ist; womöglich kommt nichts durch. Veldmark fordert es weiter dazu auf; trennen Sie sonst, und verbinden Sie neu.</translation>
+        <translation>Tor hat nicht bestätigt, dass es das Netzwerk wieder benutzt; der Verkehr kommt womöglich nicht durch. Veldmark fordert es weiter dazu auf. Hält das an, trennen Sie und verbinden Sie sich neu.</translation>
     </message>
     <message>
         <source>Version %1 is offered, which is older than the installed %2. Nothing was changed.</source>
@@ -1447,19 +1447,19 @@
     </message>
     <message>
         <source>The download of version %1 contains another version, so it was discarded.</source>
-        <translation>Was als Version %1 kam, ist eine andere und wurde verworfen.</translation>
+        <translation>Der Download von Version %1 enthält eine andere Version und wurde verworfen.</translation>
     </message>
     <message>
         <source>The download begins again when Tor is connected…</source>
-        <translation>Der Download beginnt von vorn, wenn Tor verbunden ist …</translation>
+        <translation>Der Download beginnt von vorn, wenn Tor verbunden ist…</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a location of Tor. Give an absolute path, such as /usr/bin/tor.</source>
-        <translation>„%1“ ist kein Ort für Tor: Geben Sie den ganzen Pfad an, etwa /usr/bin/tor.</translation>
+        <translation>„%1“ ist kein Ort von Tor. Geben Sie einen absoluten Pfad an, etwa /usr/bin/tor.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be changed during a connection. Disconnect to change it.</source>
-        <translation>„%1“ gilt für die ganze Verbindung. Zum Ändern trennen.</translation>
+        <translation>„%1“ lässt sich während einer Verbindung nicht ändern. Zum Ändern trennen.</translation>
     </message>
     <message>
         <source>Your traffic is not going through Tor</source>
@@ -1471,11 +1471,11 @@
     </message>
     <message>
         <source>Your network is still set up for Tor from an earlier session</source>
-        <translation>Ihr Netzwerk ist noch von einer früheren Sitzung auf Tor eingestellt</translation>
+        <translation>Ihr Netzwerk ist noch von einer früheren Sitzung für Tor eingerichtet</translation>
     </message>
     <message>
         <source>Your network is still set up for Tor</source>
-        <translation>Ihr Netzwerk ist noch auf Tor eingestellt</translation>
+        <translation>Ihr Netzwerk ist noch für Tor eingerichtet</translation>
     </message>
     <message>
         <source>Preparing Tor…</source>
@@ -1515,15 +1515,15 @@
     </message>
     <message>
         <source>Tor stopped running. The kill switch is still blocking traffic, so nothing leaked. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor läuft nicht mehr. Der Notschalter sperrt weiter, also ist nichts nach außen gelangt. Verbinden Sie neu, oder stellen Sie das Netzwerk wieder her, um ohne Tor online zu gehen.</translation>
+        <translation>Tor läuft nicht mehr. Der Notschalter sperrt weiter, also gab es kein Leck. Verbinden Sie sich neu, oder stellen Sie das Netzwerk wieder her, um ohne Tor online zu gehen.</translation>
     </message>
     <message>
         <source>Tor stopped running. The kill switch is still blocking traffic, but the last checks saw traffic go around Tor. Reconnect, or Restore Network to go online without Tor.</source>
-        <translation>Tor läuft nicht mehr. Der Notschalter sperrt weiter, aber die letzten Prüfungen haben Verkehr an Tor vorbei gesehen. Verbinden Sie neu, oder stellen Sie das Netzwerk wieder her, um ohne Tor online zu gehen.</translation>
+        <translation>Tor läuft nicht mehr. Der Notschalter sperrt weiter, aber die letzten Prüfungen haben Verkehr an Tor vorbei gesehen. Verbinden Sie sich neu, oder stellen Sie das Netzwerk wieder her, um ohne Tor online zu gehen.</translation>
     </message>
     <message>
         <source>Tor stopped running. Apps using the proxy can&apos;t connect until you reconnect or Restore Network.</source>
-        <translation>Tor läuft nicht mehr. Apps, die den Proxy benutzen, verbinden sich erst wieder, wenn Sie neu verbinden oder das Netzwerk wiederherstellen.</translation>
+        <translation>Tor läuft nicht mehr. Apps, die den Proxy benutzen, können sich erst wieder verbinden, wenn Sie sich neu verbinden oder das Netzwerk wiederherstellen.</translation>
     </message>
     <message>
         <source>Any (recommended)</source>
@@ -1623,19 +1623,19 @@
     </message>
     <message>
         <source>Tor stopped running. The kill switch is blocking traffic again, but another program had removed its rules for a while. Reconnect, or Restore Network to go online without Tor.</source>
-        <translation>Tor läuft nicht mehr. Der Notschalter sperrt wieder, aber ein anderes Programm hatte seine Regeln eine Zeit lang entfernt. Verbinden Sie neu, oder stellen Sie das Netzwerk wieder her, um ohne Tor online zu gehen.</translation>
+        <translation>Tor läuft nicht mehr. Der Notschalter sperrt wieder, aber ein anderes Programm hatte seine Regeln eine Zeit lang entfernt. Verbinden Sie sich neu, oder stellen Sie das Netzwerk wieder her, um ohne Tor online zu gehen.</translation>
     </message>
     <message>
         <source>Tor stopped running, and the kill switch doesn&apos;t block traffic: another program removed its rules. Traffic may leave this computer directly. Reconnect, or Restore Network.</source>
-        <translation>Tor läuft nicht mehr, und der Notschalter sperrt nicht: Ein anderes Programm hat seine Regeln entfernt. Daten können diesen Computer direkt verlassen. Verbinden Sie neu, oder stellen Sie das Netzwerk wieder her.</translation>
+        <translation>Tor läuft nicht mehr, und der Notschalter sperrt nicht: Ein anderes Programm hat seine Regeln entfernt. Daten können diesen Computer direkt verlassen. Verbinden Sie sich neu, oder stellen Sie das Netzwerk wieder her.</translation>
     </message>
     <message>
         <source>Tor stopped running, and it isn&apos;t known whether the kill switch is still blocking traffic. Reconnect, or Restore Network to go online without Tor.</source>
-        <translation>Tor läuft nicht mehr, und es ist nicht bekannt, ob der Notschalter noch sperrt. Verbinden Sie neu, oder stellen Sie das Netzwerk wieder her, um ohne Tor online zu gehen.</translation>
+        <translation>Tor läuft nicht mehr, und es ist nicht bekannt, ob der Notschalter noch sperrt. Verbinden Sie sich neu, oder stellen Sie das Netzwerk wieder her, um ohne Tor online zu gehen.</translation>
     </message>
     <message>
         <source>The watcher of Veldmark&apos;s firewall rules has stopped reporting, so it isn&apos;t known whether the kill switch blocks traffic. Disconnect and connect again.</source>
-        <translation>Der Wächter über Veldmarks Firewall-Regeln meldet sich nicht mehr, also ist nicht bekannt, ob der Notschalter steht. Trennen Sie und verbinden Sie neu.</translation>
+        <translation>Der Wächter über Veldmarks Firewall-Regeln meldet sich nicht mehr, daher ist nicht bekannt, ob der Notschalter sperrt. Trennen Sie und verbinden Sie sich neu.</translation>
     </message>
     <message>
         <source>Not Protected</source>
@@ -1687,7 +1687,7 @@
     </message>
     <message>
         <source>Veldmark can&apos;t tell whether the kill switch blocks traffic. Disconnect and connect again.</source>
-        <translation>Es ist nicht bekannt, ob der Notschalter sperrt. Trennen Sie und verbinden Sie neu.</translation>
+        <translation>Es ist nicht bekannt, ob der Notschalter sperrt. Trennen Sie und verbinden Sie sich neu.</translation>
     </message>
     <message>
         <source>All traffic is locked to Tor, but the exit could not be confirmed</source>
@@ -1707,15 +1707,15 @@
     </message>
     <message>
         <source>This computer has no network. Traffic around Tor stays blocked.</source>
-        <translation>Dieser Rechner hat kein Netz. Solange gelangt nichts an Tor vorbei nach draußen.</translation>
+        <translation>Dieser Computer hat kein Netz. Verkehr an Tor vorbei bleibt gesperrt.</translation>
     </message>
     <message>
         <source>This computer has no network. Veldmark goes on when it is back.</source>
-        <translation>Dieser Rechner hat kein Netz. Veldmark macht weiter, sobald es wieder da ist.</translation>
+        <translation>Dieser Computer hat kein Netz. Veldmark macht weiter, sobald es wieder da ist.</translation>
     </message>
     <message>
         <source>Tor has no working circuit and keeps trying. Traffic around Tor stays blocked.</source>
-        <translation>Tor hat keinen funktionierenden Kanal und versucht es weiter. Solange gelangt nichts daran vorbei nach draußen.</translation>
+        <translation>Tor hat keinen funktionierenden Kanal und versucht es weiter. Verkehr an Tor vorbei bleibt gesperrt.</translation>
     </message>
     <message>
         <source>Tor has no working circuit and keeps trying.</source>
@@ -1723,7 +1723,7 @@
     </message>
     <message>
         <source>Tor gets no answer from the network and keeps trying. Traffic around Tor stays blocked.</source>
-        <translation>Tor bekommt aus dem Netz keine Antwort und versucht es weiter. Solange gelangt nichts daran vorbei nach draußen.</translation>
+        <translation>Tor bekommt aus dem Netz keine Antwort und versucht es weiter. Verkehr an Tor vorbei bleibt gesperrt.</translation>
     </message>
     <message>
         <source>Tor gets no answer from the network and keeps trying.</source>
@@ -1731,23 +1731,23 @@
     </message>
     <message>
         <source>Another program has ended this session and started its own. Restore Network ends that session.</source>
-        <translation>Ein anderes Programm hat diese Sitzung beendet und eine eigene begonnen. „Netzwerk wiederherstellen“ beendet jene.</translation>
+        <translation>Ein anderes Programm hat diese Sitzung beendet und eine eigene begonnen. „Netzwerk wiederherstellen“ beendet die neue Sitzung.</translation>
     </message>
     <message>
         <source>This computer has no network, so Tor can&apos;t connect.</source>
-        <translation>Dieser Rechner hat kein Netz, daher kann Tor keine Verbindung herstellen.</translation>
+        <translation>Dieser Computer hat kein Netz, daher kann Tor keine Verbindung herstellen.</translation>
     </message>
     <message>
         <source>A VPN takes Tor&apos;s traffic, and strict mode does not let the VPN out. Switch the VPN off, or use proxy mode.</source>
-        <translation>Ein VPN nimmt Tors Verkehr auf, und der strikte Modus lässt das VPN nicht hinaus. Schalten Sie das VPN aus, oder verwenden Sie den Proxy-Modus.</translation>
+        <translation>Tors Verkehr läuft über ein VPN, und der strikte Modus lässt das VPN nicht hinaus. Schalten Sie das VPN aus, oder verwenden Sie den Proxy-Modus.</translation>
     </message>
     <message>
         <source>Another program removed Veldmark&apos;s firewall rules; they are back in place.</source>
-        <translation>Ein anderes Programm hat Veldmarks Firewall-Regeln entfernt; sie stehen wieder.</translation>
+        <translation>Ein anderes Programm hat Veldmarks Firewall-Regeln entfernt; sie sind wiederhergestellt.</translation>
     </message>
     <message>
         <source>Another program removed Veldmark&apos;s firewall rules and they could not be put back. Traffic may leave this computer directly. Disconnect and connect again.</source>
-        <translation>Ein anderes Programm hat Veldmarks Firewall-Regeln entfernt, und sie ließen sich nicht wiederherstellen. Daten können diesen Computer direkt verlassen. Trennen Sie und verbinden Sie neu.</translation>
+        <translation>Ein anderes Programm hat Veldmarks Firewall-Regeln entfernt, und sie ließen sich nicht wiederherstellen. Daten können diesen Computer direkt verlassen. Trennen Sie und verbinden Sie sich neu.</translation>
     </message>
     <message>
         <source>Invalid exit country.</source>
@@ -1759,11 +1759,11 @@
     </message>
     <message>
         <source>Checking latest version…</source>
-        <translation>Neueste Version wird gesucht …</translation>
+        <translation>Neueste Version wird gesucht…</translation>
     </message>
     <message>
         <source>Verifying signature…</source>
-        <translation>Signatur wird geprüft …</translation>
+        <translation>Signatur wird geprüft…</translation>
     </message>
     <message>
         <source>Another download is under way.</source>
@@ -1771,7 +1771,7 @@
     </message>
     <message>
         <source>Path not responding, finding another…</source>
-        <translation>Der Weg antwortet nicht, ein anderer wird gesucht …</translation>
+        <translation>Der Weg antwortet nicht, ein anderer wird gesucht…</translation>
     </message>
     <message>
         <source>Tor didn&apos;t finish connecting within 5 minutes.</source>
@@ -1779,7 +1779,7 @@
     </message>
     <message>
         <source>Administrator access was refused, or the agent that asks for the password gave no answer.</source>
-        <translation>Der Administratorzugriff wurde verweigert, oder der Agent, der nach dem Passwort fragt, gab keine Antwort.</translation>
+        <translation>Administratorrechte wurden verweigert, oder der Agent, der nach dem Passwort fragt, gab keine Antwort.</translation>
     </message>
     <message>
         <source>Another firewall on this computer blocks outgoing traffic, so Tor can&apos;t connect: %1.</source>
@@ -1795,31 +1795,31 @@
     </message>
     <message>
         <source>Add at least one bridge under Bridges → Custom….</source>
-        <translation>Tragen Sie unter Brücken → Eigene… mindestens eine Brücke ein.</translation>
+        <translation>Tragen Sie unter „Brücken → Eigene…“ mindestens eine Brücke ein.</translation>
     </message>
     <message>
         <source>Some custom bridge lines aren&apos;t valid. Fix them under Bridges → Custom….</source>
-        <translation>Einige eigene Brückenzeilen sind ungültig. Berichtigen Sie sie unter Brücken → Eigene….</translation>
+        <translation>Einige eigene Brückenzeilen sind ungültig. Berichtigen Sie sie unter „Brücken → Eigene…“.</translation>
     </message>
     <message>
         <source>At most %1 custom bridges can be used. Remove some under Bridges → Custom….</source>
-        <translation>Höchstens %1 eigene Brücken können benutzt werden. Entfernen Sie einige unter Brücken → Eigene….</translation>
+        <translation>Höchstens %1 eigene Brücken können benutzt werden. Entfernen Sie einige unter „Brücken → Eigene…“.</translation>
     </message>
     <message>
         <source>Testing %1 bridges…</source>
-        <translation>%1 Brücken werden getestet …</translation>
+        <translation>%1 Brücken werden getestet…</translation>
     </message>
     <message>
         <source>Testing speed (%1 of %2)…</source>
-        <translation>Geschwindigkeit wird getestet (%1 von %2) …</translation>
+        <translation>Geschwindigkeit wird getestet (%1 von %2)…</translation>
     </message>
     <message>
         <source>Slow path (%1 ms), finding a faster one…</source>
-        <translation>Langsamer Weg (%1 ms), ein schnellerer wird gesucht …</translation>
+        <translation>Langsamer Weg (%1 ms), ein schnellerer wird gesucht…</translation>
     </message>
     <message>
         <source>Downloading Tor %1 bridge programs…</source>
-        <translation>Brückenprogramme von Tor %1 werden geladen …</translation>
+        <translation>Brückenprogramme von Tor %1 werden geladen…</translation>
     </message>
     <message>
         <source>Download of %1 failed (HTTP %2).</source>
@@ -1839,19 +1839,19 @@
     </message>
     <message>
         <source>Another Veldmark of yours has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
-        <translation>Ein anderes Veldmark von Ihnen hat inzwischen eine Sitzung begonnen; es wurde nichts beendet. Trennen Sie noch einmal, um sie zu beenden.</translation>
+        <translation>Ein anderes Veldmark von Ihnen hat inzwischen eine Sitzung begonnen, daher wurde keine Sitzung beendet. Trennen Sie noch einmal, um jene Sitzung zu beenden.</translation>
     </message>
     <message>
         <source>Another user&apos;s Veldmark has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
-        <translation>Das Veldmark eines anderen Benutzers hat inzwischen eine Sitzung begonnen; es wurde nichts beendet. Trennen Sie noch einmal, um sie zu beenden.</translation>
+        <translation>Das Veldmark eines anderen Benutzers hat inzwischen eine Sitzung begonnen, daher wurde keine Sitzung beendet. Trennen Sie noch einmal, um jene Sitzung zu beenden.</translation>
     </message>
     <message>
         <source>Your network is set up for Tor by another Veldmark of yours, process %1</source>
-        <translation>Ihr Netzwerk ist durch ein anderes Veldmark von Ihnen auf Tor eingestellt, Prozess %1</translation>
+        <translation>Ihr Netzwerk ist durch ein anderes Veldmark von Ihnen für Tor eingerichtet, Prozess %1</translation>
     </message>
     <message>
         <source>Your network is set up for Tor by %1, whose Veldmark is process %2</source>
-        <translation>Ihr Netzwerk ist durch %1 auf Tor eingestellt, mit Veldmark als Prozess %2</translation>
+        <translation>Ihr Netzwerk ist durch %1 für Tor eingerichtet, mit Veldmark als Prozess %2</translation>
     </message>
     <message>
         <source>Another Veldmark of yours is connected (process %1). Disconnect it, or restore the network, first.</source>
@@ -1863,7 +1863,7 @@
     </message>
     <message>
         <source>%1 Your network is still pointed at Tor. Click Restore Network to undo.</source>
-        <translation>%1 Ihr Netzwerk ist noch auf Tor eingestellt. Klicken Sie auf „Netzwerk wiederherstellen“, um das rückgängig zu machen.</translation>
+        <translation>%1 Ihr Netzwerk ist noch für Tor eingerichtet. Klicken Sie auf „Netzwerk wiederherstellen“, um das rückgängig zu machen.</translation>
     </message>
     <message>
         <source>ssh doesn&apos;t go through Tor yet: it needs a netcat that speaks SOCKS. Install the OpenBSD netcat or Ncat with your package manager.</source>
@@ -1891,7 +1891,7 @@
     </message>
     <message>
         <source>Connect in strict mode to open apps without Tor</source>
-        <translation>Verbinden Sie im strikten Modus, um Apps ohne Tor zu öffnen</translation>
+        <translation>Verbinden Sie sich im strikten Modus, um Apps ohne Tor zu öffnen</translation>
     </message>
     <message>
         <source>No bridge answered a quick test, trying them all</source>
@@ -1899,11 +1899,11 @@
     </message>
     <message>
         <source>These bridges need lyrebird, which comes with Tor Browser. Click Download next to Bridges to get it.</source>
-        <translation>Diese Brücken brauchen lyrebird, das mit dem Tor Browser kommt. Klicken Sie bei „Brücken“ auf „Herunterladen“.</translation>
+        <translation>Diese Brücken brauchen lyrebird, das mit dem Tor Browser kommt. Klicken Sie bei „Brücken“ auf „Herunterladen“, um es zu bekommen.</translation>
     </message>
     <message>
         <source>Snowflake needs snowflake-client, which comes with Tor Browser. Click Download next to Bridges to get it.</source>
-        <translation>Snowflake braucht snowflake-client, das mit dem Tor Browser kommt. Klicken Sie bei „Brücken“ auf „Herunterladen“.</translation>
+        <translation>Snowflake braucht snowflake-client, das mit dem Tor Browser kommt. Klicken Sie bei „Brücken“ auf „Herunterladen“, um es zu bekommen.</translation>
     </message>
     <message>
         <source>Couldn&apos;t read the latest Tor version from torproject.org.</source>
@@ -1919,7 +1919,7 @@
     </message>
     <message>
         <source>The connection was lost before the download ended.</source>
-        <translation>Die Verbindung ist vor dem Ende abgerissen.</translation>
+        <translation>Die Verbindung ist vor dem Ende des Downloads abgerissen.</translation>
     </message>
     <message>
         <source>Not connected to Tor&apos;s control port.</source>
@@ -1947,23 +1947,23 @@
     </message>
     <message>
         <source>Administrator access can&apos;t be asked for: polkit is not running on this system.</source>
-        <translation>Nach den Rechten eines Administrators kann nicht gefragt werden: polkit läuft auf diesem System nicht.</translation>
+        <translation>Administratorrechte können nicht angefordert werden: polkit läuft auf diesem System nicht.</translation>
     </message>
     <message>
         <source>Administrator access can&apos;t be asked for: no PolicyKit authentication agent is running in this session.</source>
-        <translation>Nach den Rechten eines Administrators kann nicht gefragt werden: In dieser Sitzung läuft kein PolicyKit-Agent.</translation>
+        <translation>Administratorrechte können nicht angefordert werden: In dieser Sitzung läuft kein PolicyKit-Agent.</translation>
     </message>
     <message>
         <source>The password could not be checked: polkit accepts no password from this terminal. Run the command with sudo.</source>
-        <translation>Das Passwort konnte nicht geprüft werden: polkit nimmt von diesem Terminal keines an. Nehmen Sie sudo.</translation>
+        <translation>Das Passwort konnte nicht geprüft werden: polkit nimmt von diesem Terminal keines an. Führen Sie den Befehl mit sudo aus.</translation>
     </message>
     <message>
         <source>Couldn&apos;t fix DNS: %1</source>
-        <translation>DNS konnte nicht berichtigt werden: %1</translation>
+        <translation>DNS konnte nicht repariert werden: %1</translation>
     </message>
     <message>
         <source>Couldn&apos;t request a new identity: %1</source>
-        <translation>Um eine neue Identität konnte nicht gebeten werden: %1</translation>
+        <translation>Eine neue Identität konnte nicht angefordert werden: %1</translation>
     </message>
     <message>
         <source>Couldn&apos;t read circuits: %1</source>
@@ -1999,7 +1999,7 @@
     </message>
     <message>
         <source>The download&apos;s signature didn&apos;t verify, so it was discarded. %1</source>
-        <translation>Die Signatur des Downloads stimmt nicht, er wurde verworfen. %1</translation>
+        <translation>Die Signatur des Downloads ließ sich nicht bestätigen, er wurde verworfen. %1</translation>
     </message>
     <message>
         <source>Couldn&apos;t unpack the download. %1</source>
@@ -2039,7 +2039,7 @@
     </message>
     <message>
         <source>Built-in %1 bridges come from Tor Browser. Click Download next to Bridges, install Tor Browser, or paste your own under Bridges → Custom….</source>
-        <translation>Mitgelieferte %1-Brücken kommen aus dem Tor Browser. Klicken Sie bei „Brücken“ auf „Herunterladen“, installieren Sie den Tor Browser, oder fügen Sie unter „Brücken → Eigene…“ eigene ein.</translation>
+        <translation>Eingebaute %1-Brücken kommen aus dem Tor Browser. Klicken Sie bei „Brücken“ auf „Herunterladen“, installieren Sie den Tor Browser, oder fügen Sie unter „Brücken → Eigene…“ eigene ein.</translation>
     </message>
     <message>
         <source>Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and still point around Tor: %1.</source>
@@ -2059,7 +2059,7 @@
     </message>
     <message>
         <source>A session is open, and its kill switch doesn&apos;t block traffic: its watcher couldn&apos;t put the rules back. Traffic may leave this computer directly. Restore the network, and connect again.</source>
-        <translation>Eine Sitzung ist offen, und ihr Notschalter sperrt nicht: Ihr Wächter konnte die Regeln nicht wiederherstellen. Daten können diesen Computer direkt verlassen. Stellen Sie das Netzwerk wieder her, und verbinden Sie neu.</translation>
+        <translation>Eine Sitzung ist offen, und ihr Notschalter sperrt nicht: Dessen Wächter konnte die Regeln nicht wiederherstellen. Daten können diesen Computer direkt verlassen. Stellen Sie das Netzwerk wieder her, und verbinden Sie sich neu.</translation>
     </message>
     <message>
         <source>The clock is behind: it shows %1, but the file %2 was written on %3. Tor needs a clock that is right to within minutes.</source>
@@ -2071,7 +2071,7 @@
     </message>
     <message>
         <source>It isn&apos;t known whether the clock is right: no time service seems to set it. It shows %1. Tor needs it right to within minutes.</source>
-        <translation>Ob die Uhr richtig geht, ist nicht bekannt: Nichts ist zu sehen, das sie über das Netz stellt. Sie zeigt %1. Tor braucht sie auf Minuten genau.</translation>
+        <translation>Ob die Uhr richtig geht, ist nicht bekannt: Kein Zeitdienst scheint sie zu stellen. Sie zeigt %1. Tor braucht sie auf Minuten genau.</translation>
     </message>
     <message>
         <source>nftables isn&apos;t installed. Veldmark&apos;s firewall needs it.</source>
@@ -2111,7 +2111,7 @@
     </message>
     <message>
         <source>No other firewall that Veldmark knows runs. Only root can read the rules themselves.</source>
-        <translation>Keine andere dem Namen nach bekannte Firewall läuft. Die Regeln selbst kennt nur root.</translation>
+        <translation>Es läuft keine andere Firewall, die Veldmark kennt. Die Regeln selbst kann nur root lesen.</translation>
     </message>
     <message>
         <source>Another firewall on this computer blocks outgoing traffic that its rules don&apos;t allow, so Tor may not get through: %1.</source>
@@ -2131,15 +2131,15 @@
     </message>
     <message>
         <source>There is no desktop here on which a window could ask for the administrator&apos;s password. Use sudo.</source>
-        <translation>Hier ist keine Arbeitsfläche, auf der ein Fenster nach dem Administratorpasswort fragen könnte. Benutzen Sie sudo.</translation>
+        <translation>Hier gibt es keine Arbeitsumgebung, in der ein Fenster nach dem Administratorpasswort fragen könnte. Benutzen Sie sudo.</translation>
     </message>
     <message>
         <source>No known polkit agent, the program that asks for the password, runs in your session. Use sudo, or start an agent such as lxpolkit.</source>
-        <translation>In Ihrer Sitzung läuft kein bekanntes Programm, das nach polkits Passwörtern fragt (ein Agent). Benutzen Sie ohne einen solchen sudo oder starten Sie einen Agenten wie lxpolkit.</translation>
+        <translation>In Ihrer Sitzung läuft kein bekannter polkit-Agent, also das Programm, das nach dem Passwort fragt. Benutzen Sie sudo, oder starten Sie einen Agenten wie lxpolkit.</translation>
     </message>
     <message>
         <source>polkit is installed, and an agent that asks for the password runs in your session.</source>
-        <translation>polkit ist da, und in Ihrer Sitzung läuft ein Programm, das nach seinen Passwörtern fragt.</translation>
+        <translation>polkit ist installiert, und in Ihrer Sitzung läuft ein Agent, der nach dem Passwort fragt.</translation>
     </message>
     <message>
         <source>Veldmark runs as root here and asks for no password.</source>
@@ -2183,7 +2183,7 @@
     </message>
     <message>
         <source>The location of Tor in the settings, %1, is not an executable program. Veldmark searches the usual places instead.</source>
-        <translation>Der Ort von Tor in den Einstellungen, %1, ist kein ausführbares Programm. Stattdessen wird an den üblichen Orten gesucht.</translation>
+        <translation>Der Ort von Tor in den Einstellungen, %1, ist kein ausführbares Programm. Veldmark sucht stattdessen an den üblichen Orten.</translation>
     </message>
     <message>
         <source>Tor isn&apos;t installed.</source>
@@ -2199,31 +2199,31 @@
     </message>
     <message>
         <source>The program %1 is missing. Veldmark&apos;s helper needs it.</source>
-        <translation>Das Programm %1 fehlt. Veldmarks Helfer braucht es.</translation>
+        <translation>Das Programm %1 fehlt. Veldmarks Hilfsprogramm braucht es.</translation>
     </message>
     <message>
         <source>Every program that Veldmark&apos;s helper calls is installed.</source>
-        <translation>Alle Programme, die Veldmarks Helfer aufruft, sind installiert.</translation>
+        <translation>Alle Programme, die Veldmarks Hilfsprogramm aufruft, sind installiert.</translation>
     </message>
     <message>
         <source>The helper is missing. Reinstall Veldmark.</source>
-        <translation>Veldmarks Helferskript fehlt. Installieren Sie Veldmark neu.</translation>
+        <translation>Das Hilfsprogramm fehlt. Installieren Sie Veldmark neu.</translation>
     </message>
     <message>
         <source>Accounts other than root can change Veldmark&apos;s helper, %1, and with it what the administrator&apos;s password runs.</source>
-        <translation>Veldmarks Helfer, %1, liegt, wo außer root noch andere schreiben können. Sie können ihn ändern und damit auch, was das Administratorpasswort ausführt.</translation>
+        <translation>Andere Konten als root können Veldmarks Hilfsprogramm, %1, ändern und damit auch, was mit dem Administratorpasswort ausgeführt wird.</translation>
     </message>
     <message>
         <source>Veldmark&apos;s helper, %1, is not installed: the account %2 can change it, and with it what the administrator&apos;s password runs.</source>
-        <translation>Veldmarks Helfer, %1, ist kein installierter: Das Konto %2 kann ihn ändern und damit auch, was das Administratorpasswort ausführt.</translation>
+        <translation>Veldmarks Hilfsprogramm, %1, ist nicht installiert: Das Konto %2 kann es ändern und damit auch, was mit dem Administratorpasswort ausgeführt wird.</translation>
     </message>
     <message>
         <source>Veldmark&apos;s helper is installed, and only root can change it: %1.</source>
-        <translation>Veldmarks Helfer ist installiert, und nur root kann ihn ändern: %1.</translation>
+        <translation>Veldmarks Hilfsprogramm ist installiert, und nur root kann es ändern: %1.</translation>
     </message>
     <message>
         <source>The helper of passwordless mode belongs to another version. Set up passwordless mode again in Settings, General.</source>
-        <translation>Der Helfer des Betriebs ohne Passwort gehört zu einer anderen Version. Richten Sie den Betrieb ohne Passwort in den Einstellungen unter Allgemein neu ein.</translation>
+        <translation>Das Hilfsprogramm des Betriebs ohne Passwort gehört zu einer anderen Version. Richten Sie den Betrieb ohne Passwort unter „Einstellungen → Allgemein“ neu ein.</translation>
     </message>
     <message>
         <source>Bridges are off. Bridges need bridge programs where Tor is blocked, and none was found.</source>
@@ -2243,19 +2243,19 @@
     </message>
     <message>
         <source>%1 manages DNS. Veldmark changes that while connected and restores it afterwards.</source>
-        <translation>Namen werden aufgelöst, wie %1 es vorgibt. Veldmark stellt das um und zurück.</translation>
+        <translation>%1 verwaltet DNS. Veldmark ändert das, solange es verbunden ist, und stellt es danach wieder her.</translation>
     </message>
     <message>
         <source>Veldmark wrote %1. It points DNS at Tor.</source>
-        <translation>%1 ist von Veldmark. Als Nameserver steht dort Tor.</translation>
+        <translation>%1 ist von Veldmark geschrieben und richtet DNS auf Tor.</translation>
     </message>
     <message>
         <source>The file %1 is missing, so DNS may not work at all.</source>
-        <translation>Es gibt keine Datei %1, daher werden Namen vielleicht gar nicht aufgelöst.</translation>
+        <translation>Die Datei %1 fehlt, daher funktioniert DNS vielleicht gar nicht.</translation>
     </message>
     <message>
         <source>A resolver on this computer answers DNS. Veldmark changes that while connected and restores it afterwards.</source>
-        <translation>Namen löst ein Resolver auf diesem Computer auf. Veldmark stellt das um und zurück.</translation>
+        <translation>Ein Resolver auf diesem Computer beantwortet DNS. Veldmark ändert das, solange es verbunden ist, und stellt es danach wieder her.</translation>
     </message>
     <message>
         <source>No earlier session is left open.</source>
@@ -2275,11 +2275,11 @@
     </message>
     <message>
         <source>The network is still set up for Tor from an earlier session, and no Tor runs. Connect again, or restore the network.</source>
-        <translation>Das Netzwerk ist noch von einer früheren Sitzung für Tor eingerichtet, und es läuft kein Tor. Verbinden Sie sich wieder oder stellen Sie das Netzwerk wieder her.</translation>
+        <translation>Das Netzwerk ist noch von einer früheren Sitzung für Tor eingerichtet, und es läuft kein Tor. Verbinden Sie sich wieder, oder stellen Sie das Netzwerk wieder her.</translation>
     </message>
     <message>
         <source>A session is open, and it isn&apos;t known whether its kill switch blocks traffic: no watcher watches the rules. Restore the network, and connect again.</source>
-        <translation>Eine Sitzung ist offen, und ob ihr Notschalter sperrt, ist nicht bekannt: Kein Wächter beobachtet die Regeln. Stellen Sie das Netzwerk wieder her, und verbinden Sie neu.</translation>
+        <translation>Eine Sitzung ist offen, und ob ihr Notschalter sperrt, ist nicht bekannt: Kein Wächter beobachtet die Regeln. Stellen Sie das Netzwerk wieder her, und verbinden Sie sich neu.</translation>
     </message>
     <message>
         <source>Cancelled.</source>
@@ -2299,7 +2299,7 @@
     </message>
     <message>
         <source>Veldmark needs administrator access to manage Tor routing on this Mac.</source>
-        <translation>Veldmark braucht die Rechte eines Administrators, um den Weg durch Tor auf diesem Mac zu verwalten.</translation>
+        <translation>Veldmark braucht Administratorrechte, um den Weg durch Tor auf diesem Mac zu verwalten.</translation>
     </message>
     <message>
         <source>The archive contains %1: %2</source>
@@ -2323,7 +2323,7 @@
     </message>
     <message>
         <source>The file is empty or not an archive.</source>
-        <translation>Das Archiv ist leer oder gar kein Archiv.</translation>
+        <translation>Die Datei ist leer oder kein Archiv.</translation>
     </message>
     <message>
         <source>The archive&apos;s list of files is ambiguous.</source>
@@ -2367,7 +2367,7 @@
     </message>
     <message>
         <source>The server sent more than %1 can be.</source>
-        <translation>Der Server hat mehr gesandt, als hier sein kann: %1.</translation>
+        <translation>Der Server hat mehr gesandt, als möglich ist: %1.</translation>
     </message>
     <message>
         <source>the version index</source>
@@ -2387,7 +2387,7 @@
     </message>
     <message>
         <source>Installing…</source>
-        <translation>Wird installiert …</translation>
+        <translation>Wird installiert…</translation>
     </message>
     <message>
         <source>No applications are installed.</source>
@@ -2419,7 +2419,7 @@
     </message>
     <message>
         <source>A command is missing. &quot;veldmarkctl help&quot; lists the commands.</source>
-        <translation>Was soll geschehen? „veldmarkctl help“ zählt die Befehle auf.</translation>
+        <translation>Es fehlt ein Befehl. „veldmarkctl help“ zählt die Befehle auf.</translation>
     </message>
     <message>
         <source>Unknown command %1. &quot;veldmarkctl help&quot; lists the commands.</source>
@@ -2431,7 +2431,7 @@
     </message>
     <message>
         <source>%1 doesn&apos;t take %2.</source>
-        <translation>%1 kann mit %2 nichts anfangen.</translation>
+        <translation>%1 nimmt %2 nicht an.</translation>
     </message>
     <message>
         <source>usage: veldmarkctl COMMAND</source>
@@ -2440,7 +2440,7 @@
     <message>
         <source>Exit status: 0 done, 1 failed (the reason is on standard error), 2 wrong usage,
 3 Veldmark is not running, 4 Veldmark is already running.</source>
-        <translation>Rückgabewert: 0 getan, 1 gescheitert (der Grund steht auf der Standardfehlerausgabe),
+        <translation>Rückgabewert: 0 fertig, 1 gescheitert (Grund auf der Standardfehlerausgabe),
 2 falscher Aufruf, 3 Veldmark läuft nicht, 4 Veldmark läuft schon.</translation>
     </message>
     <message>
@@ -2461,7 +2461,7 @@
     </message>
     <message>
         <source>doesn&apos;t say which transports it serves</source>
-        <translation>sagt nicht, was es bietet</translation>
+        <translation>sagt nicht, welche Transporte es bietet</translation>
     </message>
     <message>
         <source>serves %1</source>
@@ -2469,11 +2469,11 @@
     </message>
     <message>
         <source>Built-in bridges</source>
-        <translation>Mitgelieferte Brücken</translation>
+        <translation>Eingebaute Brücken</translation>
     </message>
     <message>
         <source>Built-in bridges, from %1</source>
-        <translation>Mitgelieferte Brücken, aus %1</translation>
+        <translation>Eingebaute Brücken, aus %1</translation>
     </message>
     <message>
         <source>none; get some with: veldmarkctl download-transports</source>
@@ -2605,7 +2605,7 @@
     </message>
     <message>
         <source>checking…</source>
-        <translation>wird geprüft …</translation>
+        <translation>wird geprüft…</translation>
     </message>
     <message>
         <source>inconclusive</source>
@@ -2621,7 +2621,7 @@
     </message>
     <message>
         <source>testing…</source>
-        <translation>Test läuft …</translation>
+        <translation>Test läuft…</translation>
     </message>
     <message>
         <source>settings point at Tor, but a test lookup couldn&apos;t be confirmed</source>
@@ -2701,23 +2701,23 @@
     </message>
     <message>
         <source>Ready. Connect with: veldmarkctl connect</source>
-        <translation>Bereit. Verbinden Sie mit: veldmarkctl connect</translation>
+        <translation>Bereit. Zum Verbinden: veldmarkctl connect</translation>
     </message>
     <message>
         <source>Still restoring your network, one moment…</source>
-        <translation>Ihr Netzwerk wird noch wiederhergestellt, einen Augenblick …</translation>
+        <translation>Ihr Netzwerk wird noch wiederhergestellt, einen Augenblick…</translation>
     </message>
     <message>
         <source>Stopping as soon as Tor has been started…</source>
-        <translation>Endet, sobald Tor gestartet ist …</translation>
+        <translation>Endet, sobald Tor gestartet ist…</translation>
     </message>
     <message>
         <source>The network is still set up for Tor. Restore it with: %1</source>
-        <translation>Das Netzwerk ist noch auf Tor eingestellt. Stellen Sie es wieder her mit: %1</translation>
+        <translation>Das Netzwerk ist noch für Tor eingerichtet. Stellen Sie es wieder her mit: %1</translation>
     </message>
     <message>
         <source>The network is still set up for Tor. Press Ctrl-C to try again.</source>
-        <translation>Das Netzwerk ist noch auf Tor eingestellt. Drücken Sie Strg-C, um es noch einmal zu versuchen.</translation>
+        <translation>Das Netzwerk ist noch für Tor eingerichtet. Drücken Sie Strg-C, um es noch einmal zu versuchen.</translation>
     </message>
     <message>
         <source>Done</source>
@@ -2769,7 +2769,7 @@
     </message>
     <message>
         <source>strict mode with the kill switch, else proxy mode</source>
-        <translation>der Notschalter, sonst der Proxy-Modus</translation>
+        <translation>strikter Modus mit dem Notschalter, sonst der Proxy-Modus</translation>
     </message>
     <message>
         <source>strict mode lets the local network through</source>
@@ -2781,7 +2781,7 @@
     </message>
     <message>
         <source>the path of the tor to use, or nothing to search for tor</source>
-        <translation>das tor, das benutzt wird, oder nichts, um es zu suchen</translation>
+        <translation>der Pfad des tor, das benutzt wird, oder nichts, um tor zu suchen</translation>
     </message>
     <message>
         <source>which bridges</source>
@@ -2813,7 +2813,7 @@
     </message>
     <message>
         <source>Starting…</source>
-        <translation>Beginnt …</translation>
+        <translation>Beginnt…</translation>
     </message>
     <message>
         <source>&quot;set&quot; needs a &quot;key&quot; and a &quot;value&quot;, both strings.</source>
@@ -2845,7 +2845,7 @@
     </message>
     <message>
         <source>Veldmark stopped before it had answered.</source>
-        <translation>Veldmark hat geendet, bevor es geantwortet hatte.</translation>
+        <translation>Veldmark hat sich beendet, bevor es geantwortet hat.</translation>
     </message>
     <message>
         <source>Veldmark is already running (process %1).</source>
@@ -2897,7 +2897,7 @@
     </message>
     <message>
         <source>print the connection&apos;s state; --watch goes on until Ctrl-C</source>
-        <translation>der Stand der Dinge; --watch fährt bis Strg-C fort</translation>
+        <translation>den Zustand der Verbindung ausgeben; --watch fährt bis Strg-C fort</translation>
     </message>
     <message>
         <source>connect the running instance to Tor</source>
@@ -2909,7 +2909,7 @@
     </message>
     <message>
         <source>restore the network and stop Tor, also after a crash</source>
-        <translation>ebenso, auch nach einem Absturz</translation>
+        <translation>das Netzwerk wiederherstellen und Tor beenden, auch nach einem Absturz</translation>
     </message>
     <message>
         <source>check the exit address, the direct path and DNS now</source>
@@ -2921,11 +2921,11 @@
     </message>
     <message>
         <source>Tor&apos;s circuits and the sites on them</source>
-        <translation>Tors Kanäle und die Seiten darauf</translation>
+        <translation>Tors Kanäle und die Ziele darauf</translation>
     </message>
     <message>
         <source>close a circuit; its sites get a fresh path on their next request</source>
-        <translation>einen schließen; seine Seiten bekommen beim nächsten Abruf einen neuen Weg</translation>
+        <translation>einen Kanal schließen; seine Ziele bekommen beim nächsten Abruf einen neuen Weg</translation>
     </message>
     <message>
         <source>close-circuit needs a circuit&apos;s number; &quot;veldmarkctl circuits&quot; shows them.</source>
@@ -2946,12 +2946,12 @@
     <message>
         <source>the transport programs and built-in bridges that were found, and
 which of your own bridge lines are not valid</source>
-        <translation>die gefundenen Brückenprogramme und mitgelieferten Brücken, und
+        <translation>die gefundenen Brückenprogramme und eingebauten Brücken, und
 welche Ihrer eigenen Brückenzeilen ungültig sind</translation>
     </message>
     <message>
         <source>fetch the Tor Project&apos;s transport programs and built-in bridges</source>
-        <translation>die Brückenprogramme und Brücken des Tor-Projekts holen</translation>
+        <translation>die Brückenprogramme und eingebauten Brücken des Tor-Projekts holen</translation>
     </message>
     <message>
         <source>the installed applications; * marks those in the setting &quot;bypassApps&quot;</source>
@@ -2961,9 +2961,9 @@ welche Ihrer eigenen Brückenzeilen ungültig sind</translation>
         <source>open an application without Tor, with your own address; needs strict mode.
 APP is a name from &quot;apps&quot;, the file name of its desktop entry, or the path
 of an entry or a program. Running copies are asked to quit first</source>
-        <translation>eine Anwendung ohne Tor öffnen, mit Ihrer eigenen Adresse; braucht den strikten Modus.
-APP ist ein Name aus „apps“, der Dateiname ihres Desktop-Eintrags, oder der Pfad
-eines Eintrags oder Programms. Laufende Kopien werden vorher zum Beenden aufgefordert</translation>
+        <translation>eine Anwendung ohne Tor öffnen, mit Ihrer echten Adresse; nur im strikten Modus.
+APP ist ein Name aus „apps“, der Dateiname ihres Desktop-Eintrags oder der Pfad
+eines Eintrags oder Programms. Laufende Kopien sollen sich vorher beenden</translation>
     </message>
     <message>
         <source>launch needs an application; &quot;veldmarkctl apps&quot; lists them.</source>
@@ -2989,7 +2989,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
     </message>
     <message>
         <source>The log files in %1 aren&apos;t readable by your account. Reconnect once with this version of Veldmark to fix their permissions.</source>
-        <translation>Ihr Konto darf die Protokolldateien in %1 nicht lesen. Verbinden Sie mit dieser Version von Veldmark einmal neu, um die Rechte zu berichtigen.</translation>
+        <translation>Ihr Konto darf die Protokolldateien in %1 nicht lesen. Verbinden Sie sich mit dieser Version von Veldmark einmal neu, um die Rechte zu berichtigen.</translation>
     </message>
     <message>
         <source>No log yet</source>
@@ -2997,7 +2997,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
     </message>
     <message>
         <source>Connect, and Tor&apos;s messages appear here as it starts. If Tor fails to start, the reason shows up here.</source>
-        <translation>Verbinden Sie, dann erscheinen hier Tors Meldungen, sobald es startet. Startet Tor nicht, steht der Grund hier.</translation>
+        <translation>Verbinden Sie sich, dann erscheinen hier Tors Meldungen, während es startet. Startet Tor nicht, steht der Grund hier.</translation>
     </message>
     <message>
         <source>Nothing matches</source>
@@ -3017,19 +3017,19 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
     </message>
     <message>
         <source>The bridge program %1 ended unexpectedly.</source>
-        <translation>Das Brückenprogramm %1 ist unerwartet zu Ende gegangen.</translation>
+        <translation>Das Brückenprogramm %1 hat sich unerwartet beendet.</translation>
     </message>
     <message>
         <source>The bridge program %1 keeps ending.</source>
-        <translation>Das Brückenprogramm %1 geht immer wieder zu Ende.</translation>
+        <translation>Das Brückenprogramm %1 beendet sich immer wieder.</translation>
     </message>
     <message>
         <source>The bridge program %1 ended unexpectedly (exit status %2).</source>
-        <translation>Das Brückenprogramm %1 ist unerwartet zu Ende gegangen (Rückgabewert %2).</translation>
+        <translation>Das Brückenprogramm %1 hat sich unerwartet beendet (Rückgabewert %2).</translation>
     </message>
     <message>
         <source>The bridge program %1 keeps ending (exit status %2).</source>
-        <translation>Das Brückenprogramm %1 geht immer wieder zu Ende (Rückgabewert %2).</translation>
+        <translation>Das Brückenprogramm %1 beendet sich immer wieder (Rückgabewert %2).</translation>
     </message>
     <message>
         <source>It said: &quot;%1&quot;.</source>
@@ -3041,11 +3041,11 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
     </message>
     <message>
         <source>Veldmark replaces the running strict session. The new session may protect you less.</source>
-        <translation>Die laufende strikte Sitzung wird ersetzt und schützt Sie vielleicht weniger.</translation>
+        <translation>Veldmark ersetzt die laufende strikte Sitzung. Die neue Sitzung schützt Sie vielleicht weniger.</translation>
     </message>
     <message>
         <source>Veldmark wants to run %1 as a part of Tor. No package of the system installed it. Its SHA-256 is %2.</source>
-        <translation>Veldmark will %1 als Teil von Tor ausführen. Kein Paket des Systems hat es gebracht. Seine SHA-256-Summe ist %2.</translation>
+        <translation>Veldmark will %1 als Teil von Tor ausführen. Es stammt aus keinem Paket des Systems. Seine SHA-256-Summe ist %2.</translation>
     </message>
     <message>
         <source>%1 can&apos;t be created: %2.</source>
@@ -3121,7 +3121,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
     </message>
     <message>
         <source>The helper opens applications only for the user who asks.</source>
-        <translation>Anwendungen können nur für den Benutzer geöffnet werden, der darum bittet.</translation>
+        <translation>Das Hilfsprogramm öffnet Anwendungen nur für den Benutzer, der darum bittet.</translation>
     </message>
     <message>
         <source>Applications cannot be opened without Tor on this system.</source>
@@ -3133,7 +3133,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
     </message>
     <message>
         <source>Passwordless mode can be set up only for the user who asks.</source>
-        <translation>Nur der Benutzer, der darum bittet, kann zugelassen werden.</translation>
+        <translation>Der Betrieb ohne Passwort lässt sich nur für den Benutzer einrichten, der darum bittet.</translation>
     </message>
     <message>
         <source>Another program is changing the firewall. Try again in a moment.</source>
@@ -3149,7 +3149,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
     </message>
     <message>
         <source>The DNS settings could not be put back.</source>
-        <translation>Die DNS-Einstellungen konnten nicht zurückgesetzt werden.</translation>
+        <translation>Die DNS-Einstellungen konnten nicht wiederhergestellt werden.</translation>
     </message>
     <message>
         <source>The account %1 cannot be created.</source>
@@ -3157,7 +3157,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
     </message>
     <message>
         <source>The account %1 has no valid user id.</source>
-        <translation>Das Konto %1 hat keine gültige Benutzernummer.</translation>
+        <translation>Das Konto %1 hat keine gültige Benutzer-ID.</translation>
     </message>
     <message>
         <source>The account %1 must be one of its own.</source>
@@ -3169,7 +3169,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
     </message>
     <message>
         <source>The caller&apos;s user id is not a number.</source>
-        <translation>Die Benutzernummer des Aufrufers ist keine Zahl.</translation>
+        <translation>Die Benutzer-ID des Aufrufers ist keine Zahl.</translation>
     </message>
     <message>
         <source>The control group for Tor cannot be made.</source>
@@ -3185,7 +3185,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
     </message>
     <message>
         <source>The desktop&apos;s proxy settings cannot be changed.</source>
-        <translation>Die Proxy-Einstellungen des Desktops können nicht geändert werden.</translation>
+        <translation>Die Proxy-Einstellungen der Arbeitsumgebung können nicht geändert werden.</translation>
     </message>
     <message>
         <source>The exit country is not a two-letter code.</source>
@@ -3209,7 +3209,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
     </message>
     <message>
         <source>The file %1 could not be put back.</source>
-        <translation>Die Datei %1 konnte nicht zurückgesetzt werden.</translation>
+        <translation>Die Datei %1 konnte nicht wiederhergestellt werden.</translation>
     </message>
     <message>
         <source>The files in %1 cannot be removed.</source>
@@ -3217,7 +3217,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
     </message>
     <message>
         <source>The firewall rules cannot be read, so nothing was done.</source>
-        <translation>Die Firewall lässt sich nicht ansehen, also wurde nichts getan.</translation>
+        <translation>Die Firewall-Regeln sind nicht zu lesen, also wurde nichts getan.</translation>
     </message>
     <message>
         <source>The firewall cannot be switched on (%1).</source>
@@ -3297,11 +3297,11 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
     </message>
     <message>
         <source>The folders below %1 cannot be read, so nothing was done.</source>
-        <translation>Die Ordner unter %1 lassen sich nicht ansehen, also wurde nichts getan.</translation>
+        <translation>Die Ordner unter %1 sind nicht zu lesen, also wurde nichts getan.</translation>
     </message>
     <message>
         <source>The folders below %1 cannot be read.</source>
-        <translation>Die Ordner unter %1 lassen sich nicht ansehen.</translation>
+        <translation>Die Ordner unter %1 sind nicht zu lesen.</translation>
     </message>
     <message>
         <source>The former network settings could not all be restored.</source>
@@ -3309,7 +3309,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
     </message>
     <message>
         <source>The hashed control password is not valid.</source>
-        <translation>Die Prüfsumme des Steuerpassworts ist ungültig.</translation>
+        <translation>Der Hash des Steuerpassworts ist ungültig.</translation>
     </message>
     <message>
         <source>The helper could not be copied to %1.</source>
@@ -3321,7 +3321,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
     </message>
     <message>
         <source>The helper stopped unexpectedly.</source>
-        <translation>Das Hilfsprogramm ist unerwartet zu Ende gegangen.</translation>
+        <translation>Das Hilfsprogramm hat sich unerwartet beendet.</translation>
     </message>
     <message>
         <source>The helper was given an option that it does not know.</source>
@@ -3353,15 +3353,15 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
     </message>
     <message>
         <source>The network is open again, but the DNS servers of systemd-resolved could not be put back.</source>
-        <translation>Das Netzwerk ist wieder offen, aber die DNS-Server von systemd-resolved konnten nicht zurückgesetzt werden.</translation>
+        <translation>Das Netzwerk ist wieder offen, aber die DNS-Server von systemd-resolved konnten nicht wiederhergestellt werden.</translation>
     </message>
     <message>
         <source>The network is open again, but the DNS servers of systemd-resolved could not be put back. Try: systemctl restart %1.</source>
-        <translation>Das Netzwerk ist wieder offen, aber die DNS-Server von systemd-resolved konnten nicht zurückgesetzt werden. Versuchen Sie: systemctl restart %1.</translation>
+        <translation>Das Netzwerk ist wieder offen, aber die DNS-Server von systemd-resolved konnten nicht wiederhergestellt werden. Versuchen Sie: systemctl restart %1.</translation>
     </message>
     <message>
         <source>The network is open again, but the desktop&apos;s proxy settings could not be put back.</source>
-        <translation>Das Netzwerk ist wieder offen, aber die Proxy-Einstellungen des Desktops konnten nicht zurückgesetzt werden.</translation>
+        <translation>Das Netzwerk ist wieder offen, aber die Proxy-Einstellungen der Arbeitsumgebung konnten nicht wiederhergestellt werden.</translation>
     </message>
     <message>
         <source>The network is open again, but the journal in %1 cannot be cleared.</source>
@@ -3381,7 +3381,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
     </message>
     <message>
         <source>The network is open, but the firewall&apos;s main rules could not be put back.</source>
-        <translation>Das Netzwerk ist offen, aber die Hauptregeln der Firewall konnten nicht zurückgesetzt werden.</translation>
+        <translation>Das Netzwerk ist offen, aber die Hauptregeln der Firewall konnten nicht wiederhergestellt werden.</translation>
     </message>
     <message>
         <source>The network location %1 still has Veldmark&apos;s settings. Choose it and disconnect again.</source>
@@ -3393,7 +3393,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
     </message>
     <message>
         <source>The network stays blocked until you disconnect.</source>
-        <translation>Das Netzwerk bleibt gesperrt, bis Sie trennen.</translation>
+        <translation>Das Netzwerk bleibt gesperrt, bis Sie die Verbindung trennen.</translation>
     </message>
     <message>
         <source>The notes of what to restore cannot be read.</source>
@@ -3453,7 +3453,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
     </message>
     <message>
         <source>The port %1, which Tor needs, is held by %2. End that program, then connect again.</source>
-        <translation>Den Port %1, den Tor braucht, hat %2. Beenden Sie das, und verbinden Sie dann neu.</translation>
+        <translation>Den Port %1, den Tor braucht, belegt %2. Beenden Sie dieses Programm, und verbinden Sie sich dann neu.</translation>
     </message>
     <message>
         <source>a program (process %1)</source>
@@ -3461,11 +3461,11 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
     </message>
     <message>
         <source>a program of the account with the id %1</source>
-        <translation>ein Programm des Kontos mit der Nummer %1</translation>
+        <translation>ein Programm des Kontos mit der ID %1</translation>
     </message>
     <message>
         <source>The process id is not valid.</source>
-        <translation>Die Prozessnummer ist ungültig.</translation>
+        <translation>Die Prozess-ID ist ungültig.</translation>
     </message>
     <message>
         <source>The program %1 cannot be copied.</source>
@@ -3481,7 +3481,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
     </message>
     <message>
         <source>The SHA-256 of the program %1 is not the one to approve.</source>
-        <translation>Das Programm %1 ist nicht das, welches zugelassen werden sollte.</translation>
+        <translation>Die SHA-256-Summe des Programms %1 ist nicht die, die zugelassen werden soll.</translation>
     </message>
     <message>
         <source>The program given with %1 is not an executable file.</source>
@@ -3505,7 +3505,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
     </message>
     <message>
         <source>The settings of the network service %1 could not be put back.</source>
-        <translation>Die Einstellungen des Netzwerkdienstes %1 konnten nicht zurückgesetzt werden.</translation>
+        <translation>Die Einstellungen des Netzwerkdienstes %1 konnten nicht wiederhergestellt werden.</translation>
     </message>
     <message>
         <source>The system&apos;s firewall cannot be used (%1).</source>
@@ -3521,7 +3521,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
     </message>
     <message>
         <source>The user id is not a number.</source>
-        <translation>Die Benutzernummer ist keine Zahl.</translation>
+        <translation>Die Benutzer-ID ist keine Zahl.</translation>
     </message>
     <message>
         <source>The user name is not valid.</source>
@@ -3533,7 +3533,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
     </message>
     <message>
         <source>The user with the id %1 is not known on this system.</source>
-        <translation>Einen Benutzer mit der Nummer %1 gibt es auf diesem System nicht.</translation>
+        <translation>Einen Benutzer mit der ID %1 gibt es auf diesem System nicht.</translation>
     </message>
     <message>
         <source>The value of %1 contains control characters.</source>
@@ -3569,11 +3569,11 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
     </message>
     <message>
         <source>The watcher of the firewall rules could not be started.</source>
-        <translation>Der Wächter über die Firewall konnte nicht gestartet werden.</translation>
+        <translation>Der Wächter über die Firewall-Regeln konnte nicht gestartet werden.</translation>
     </message>
     <message>
         <source>The watcher of the firewall rules could not be stopped.</source>
-        <translation>Der Wächter über die Firewall konnte nicht angehalten werden.</translation>
+        <translation>Der Wächter über die Firewall-Regeln konnte nicht angehalten werden.</translation>
     </message>
     <message>
         <source>There are too many options on standard input.</source>
@@ -3613,7 +3613,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
     </message>
     <message>
         <source>it ended without a message.</source>
-        <translation>Es ist ohne eine Meldung zu Ende gegangen.</translation>
+        <translation>Es hat sich ohne eine Meldung beendet.</translation>
     </message>
     <message>
         <source>Tor&apos;s log files cannot be made.</source>
@@ -3677,7 +3677,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
     </message>
     <message>
         <source>The home folder cannot be entered.</source>
-        <translation>Der persönliche Ordner kann nicht betreten werden.</translation>
+        <translation>Auf den persönlichen Ordner kann nicht zugegriffen werden.</translation>
     </message>
     <message>
         <source>nft doesn&apos;t answer.</source>
@@ -3689,7 +3689,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
     </message>
     <message>
         <source>Ended because the display is gone. Your network is still set up for Tor: start Veldmark again, or restore the network with: %1</source>
-        <translation>Ohne Bildschirm beendet. Ihr Netzwerk ist noch auf Tor eingestellt: Starten Sie Veldmark noch einmal, oder stellen Sie es wieder her mit: %1</translation>
+        <translation>Beendet, weil die Anzeige weg ist. Ihr Netzwerk ist noch für Tor eingerichtet: Starten Sie Veldmark noch einmal, oder stellen Sie das Netzwerk wieder her mit: %1</translation>
     </message>
     <message>
         <source>your package manager</source>
@@ -3701,7 +3701,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
     </message>
     <message>
         <source>This system can&apos;t tell applications apart.</source>
-        <translation>Anwendungen werden auf diesem System nicht unterschieden.</translation>
+        <translation>Dieses System kann Anwendungen nicht unterscheiden.</translation>
     </message>
     <message>
         <source>Applications are not separated now: they share circuits.</source>
@@ -3721,7 +3721,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
     </message>
     <message>
         <source>The application did not get a new identity.</source>
-        <translation>Die Anwendung hat keine andere Identität bekommen.</translation>
+        <translation>Die Anwendung hat keine neue Identität bekommen.</translation>
     </message>
     <message>
         <source>The program did not get an identity of its own, so it was not started.</source>
@@ -3733,7 +3733,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
     </message>
     <message>
         <source>The program systemd-run is missing. Veldmark needs it to make a group for a program.</source>
-        <translation>Das Programm systemd-run fehlt, das Gruppen für Programme anlegt.</translation>
+        <translation>Das Programm systemd-run fehlt. Veldmark braucht es, um eine Gruppe für ein Programm anzulegen.</translation>
     </message>
     <message>
         <source>The program could not be started: %1.</source>
@@ -3771,7 +3771,7 @@ hat es in derselben Sitzung später dieselben</translation>
     </message>
     <message>
         <source>run-as needs a name and a program: veldmarkctl run-as NAME -- PROGRAM.</source>
-        <translation>run-as braucht einen Namen und ein Programm: veldmarkctl run-as NAME -- PROGRAMM.</translation>
+        <translation>run-as braucht einen Namen und ein Programm: veldmarkctl run-as NAME -- PROGRAM.</translation>
     </message>
     <message>
         <source>The table of the applications&apos; identities could not be removed (%1).</source>
@@ -3783,7 +3783,7 @@ hat es in derselben Sitzung später dieselben</translation>
     </message>
     <message>
         <source>No package of the system installed %1. The next connect asks an administrator to approve it.</source>
-        <translation>Kein Paket des Systems hat %1 gebracht. Beim nächsten Verbinden wird ein Administrator um seine Zustimmung dazu gebeten.</translation>
+        <translation>%1 stammt aus keinem Paket des Systems. Beim nächsten Verbinden wird ein Administrator gebeten, es zuzulassen.</translation>
     </message>
     <message>
         <source>It isn&apos;t known whether a connect can work.</source>
@@ -3819,7 +3819,7 @@ hat es in derselben Sitzung später dieselben</translation>
     </message>
     <message>
         <source>This report goes to %1.</source>
-        <translation>Dieser Bericht kommt nach %1.</translation>
+        <translation>Dieser Bericht wird in %1 geschrieben.</translation>
     </message>
     <message>
         <source>write it into a new file too</source>
@@ -3827,7 +3827,7 @@ hat es in derselben Sitzung später dieselben</translation>
     </message>
     <message>
         <source>The report can&apos;t be written to %1: %2</source>
-        <translation>Der Bericht kann nicht nach %1 geschrieben werden: %2</translation>
+        <translation>Der Bericht kann nicht in %1 geschrieben werden: %2</translation>
     </message>
     <message>
         <source>%1 isn&apos;t a regular file. Choose another name for the report.</source>

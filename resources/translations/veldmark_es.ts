@@ -873,7 +873,7 @@
     </message>
     <message>
         <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>
-        <translation>El bloqueo de emergencia no tiene efecto. Abra Veldmark, desconéctese y vuelva a conectarse.</translation>
+        <translation>El bloqueo de emergencia no corta el tráfico. Abra Veldmark, desconéctese y vuelva a conectarse.</translation>
     </message>
     <message>
         <source>The kill switch is not watched</source>
@@ -881,7 +881,7 @@
     </message>
     <message>
         <source>Veldmark can&apos;t tell whether the kill switch blocks traffic. Open Veldmark, disconnect and connect again.</source>
-        <translation>No se puede saber si el bloqueo de emergencia tiene efecto. Abra Veldmark, desconéctese y vuelva a conectarse.</translation>
+        <translation>Veldmark no puede saber si el bloqueo de emergencia corta el tráfico. Abra Veldmark, desconéctese y vuelva a conectarse.</translation>
     </message>
 </context>
 <context>
@@ -895,7 +895,7 @@
 %1
 
 %2</source>
-        <translation>No se pudo crear una ventana. Esto no afecta a su red; para restaurarla sin Veldmark, ejecute:
+        <translation>Veldmark no pudo abrir una ventana. Esto no afecta a su red; para restaurarla sin Veldmark, ejecute:
 %1
 
 %2</translation>
@@ -914,7 +914,7 @@
     </message>
     <message>
         <source>Veldmark had to close and could not restore the network. Open Veldmark again to restore it.</source>
-        <translation>Se pidió a Veldmark que terminara y no pudo restaurarla. Abra Veldmark de nuevo para hacerlo.</translation>
+        <translation>Veldmark tuvo que cerrarse y no pudo restaurar la red. Abra Veldmark de nuevo para restaurarla.</translation>
     </message>
 </context>
 <context>
@@ -991,7 +991,7 @@
     </message>
     <message>
         <source>Leads to an onion service. The last relay is the meeting point.</source>
-        <translation>Lleva a un servicio onion; ambos se encuentran en el último repetidor del circuito</translation>
+        <translation>Lleva a un servicio onion. El último repetidor es el punto de encuentro.</translation>
     </message>
     <message>
         <source>Meeting point</source>
@@ -1050,7 +1050,7 @@
     </message>
     <message>
         <source>OK</source>
-        <translation>En orden</translation>
+        <translation>Correcto</translation>
     </message>
     <message>
         <source>Restore Network</source>
@@ -1211,11 +1211,11 @@
     </message>
     <message>
         <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
-        <translation>Una conexión directa, sin pasar por Tor, no obtuvo respuesta, pero no consta que el bloqueo de emergencia cierre esa vía</translation>
+        <translation>Una conexión directa, sin pasar por Tor, no obtuvo respuesta, pero no se sabe si el bloqueo de emergencia corta esas conexiones</translation>
     </message>
     <message>
         <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
-        <translation>Una conexión directa, sin pasar por Tor, no obtuvo respuesta, pero el modo proxy no cierra esa vía</translation>
+        <translation>Una conexión directa, sin pasar por Tor, no obtuvo respuesta, pero el modo proxy no corta esas conexiones</translation>
     </message>
     <message>
         <source>Connect to Tor</source>
@@ -1439,7 +1439,7 @@
     <name>veldmark::Text</name>
     <message>
         <source>Tor hasn&apos;t confirmed that it uses the network again, so traffic may not get through. Veldmark keeps telling Tor to. If this lasts, disconnect and connect again.</source>
-        <translation>Tor no ha confirmado que vuelve a estar en la red, así que puede que no pase ningún tráfico. Veldmark se lo sigue pidiendo; si no basta, desconéctese y vuelva a conectarse.</translation>
+        <translation>Tor no ha confirmado que vuelva a usar la red, así que puede que el tráfico no pase. Veldmark se lo sigue pidiendo; si esto continúa, desconéctese y vuelva a conectarse.</translation>
     </message>
     <message>
         <source>Version %1 is offered, which is older than the installed %2. Nothing was changed.</source>
@@ -1447,7 +1447,7 @@
     </message>
     <message>
         <source>The download of version %1 contains another version, so it was discarded.</source>
-        <translation>Lo que llegó como versión %1 es otra, así que se descartó.</translation>
+        <translation>La descarga de la versión %1 contiene otra versión, así que se descartó.</translation>
     </message>
     <message>
         <source>The download begins again when Tor is connected…</source>
@@ -1455,11 +1455,11 @@
     </message>
     <message>
         <source>&quot;%1&quot; is not a location of Tor. Give an absolute path, such as /usr/bin/tor.</source>
-        <translation>«%1» no es una ubicación de Tor: indique la ruta completa, como /usr/bin/tor.</translation>
+        <translation>«%1» no es una ubicación de Tor. Indique una ruta absoluta, como /usr/bin/tor.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be changed during a connection. Disconnect to change it.</source>
-        <translation>«%1» vale para toda la conexión. Desconéctese para cambiarlo.</translation>
+        <translation>«%1» no se puede cambiar durante una conexión. Desconéctese para cambiarlo.</translation>
     </message>
     <message>
         <source>Your traffic is not going through Tor</source>
@@ -1515,15 +1515,15 @@
     </message>
     <message>
         <source>Tor stopped running. The kill switch is still blocking traffic, so nothing leaked. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor dejó de funcionar. El bloqueo de emergencia sigue cortando el tráfico, así que no hubo fugas. Reconecte, o use «Restaurar la red» para volver a tener conexión sin Tor.</translation>
+        <translation>Tor dejó de funcionar. El bloqueo de emergencia sigue cortando el tráfico, así que no hubo fugas. Vuelva a conectarse, o use «Restaurar la red» para volver a tener conexión sin Tor.</translation>
     </message>
     <message>
         <source>Tor stopped running. The kill switch is still blocking traffic, but the last checks saw traffic go around Tor. Reconnect, or Restore Network to go online without Tor.</source>
-        <translation>Tor dejó de funcionar. El bloqueo de emergencia sigue cortando el tráfico, pero las últimas comprobaciones vieron que una parte salía sin pasar por Tor. Reconecte, o use «Restaurar la red» para volver a tener conexión sin Tor.</translation>
+        <translation>Tor dejó de funcionar. El bloqueo de emergencia sigue cortando el tráfico, pero las últimas comprobaciones vieron tráfico que eludía Tor. Vuelva a conectarse, o use «Restaurar la red» para volver a tener conexión sin Tor.</translation>
     </message>
     <message>
         <source>Tor stopped running. Apps using the proxy can&apos;t connect until you reconnect or Restore Network.</source>
-        <translation>Tor dejó de funcionar. Las aplicaciones que usan el proxy no pueden conectarse hasta que reconecte o use «Restaurar la red».</translation>
+        <translation>Tor dejó de funcionar. Las aplicaciones que usan el proxy no pueden conectarse hasta que usted vuelva a conectarse o use «Restaurar la red».</translation>
     </message>
     <message>
         <source>Any (recommended)</source>
@@ -1623,19 +1623,19 @@
     </message>
     <message>
         <source>Tor stopped running. The kill switch is blocking traffic again, but another program had removed its rules for a while. Reconnect, or Restore Network to go online without Tor.</source>
-        <translation>Tor dejó de funcionar. El bloqueo de emergencia vuelve a cortar el tráfico, pero otro programa había quitado sus reglas durante un tiempo. Reconecte, o use «Restaurar la red» para volver a tener conexión sin Tor.</translation>
+        <translation>Tor dejó de funcionar. El bloqueo de emergencia vuelve a cortar el tráfico, pero otro programa había quitado sus reglas durante un tiempo. Vuelva a conectarse, o use «Restaurar la red» para volver a tener conexión sin Tor.</translation>
     </message>
     <message>
         <source>Tor stopped running, and the kill switch doesn&apos;t block traffic: another program removed its rules. Traffic may leave this computer directly. Reconnect, or Restore Network.</source>
-        <translation>Tor dejó de funcionar y el bloqueo de emergencia no tiene efecto: otro programa quitó sus reglas. El tráfico puede salir directamente de este equipo. Reconecte o use «Restaurar la red».</translation>
+        <translation>Tor dejó de funcionar y el bloqueo de emergencia no corta el tráfico: otro programa quitó sus reglas. El tráfico puede salir directamente de este equipo. Vuelva a conectarse o use «Restaurar la red».</translation>
     </message>
     <message>
         <source>Tor stopped running, and it isn&apos;t known whether the kill switch is still blocking traffic. Reconnect, or Restore Network to go online without Tor.</source>
-        <translation>Tor dejó de funcionar y no se sabe si el bloqueo de emergencia sigue cortando el tráfico. Reconecte, o use «Restaurar la red» para volver a tener conexión sin Tor.</translation>
+        <translation>Tor dejó de funcionar y no se sabe si el bloqueo de emergencia sigue cortando el tráfico. Vuelva a conectarse, o use «Restaurar la red» para volver a tener conexión sin Tor.</translation>
     </message>
     <message>
         <source>The watcher of Veldmark&apos;s firewall rules has stopped reporting, so it isn&apos;t known whether the kill switch blocks traffic. Disconnect and connect again.</source>
-        <translation>El vigilante de las reglas de Veldmark en el cortafuegos ha dejado de informar, así que no se sabe si el bloqueo de emergencia tiene efecto. Desconéctese y vuelva a conectarse.</translation>
+        <translation>El vigilante de las reglas de Veldmark en el cortafuegos ha dejado de informar, así que no se sabe si el bloqueo de emergencia corta el tráfico. Desconéctese y vuelva a conectarse.</translation>
     </message>
     <message>
         <source>Not Protected</source>
@@ -1687,7 +1687,7 @@
     </message>
     <message>
         <source>Veldmark can&apos;t tell whether the kill switch blocks traffic. Disconnect and connect again.</source>
-        <translation>No se puede saber si el bloqueo de emergencia tiene efecto. Desconéctese y vuelva a conectarse.</translation>
+        <translation>Veldmark no puede saber si el bloqueo de emergencia corta el tráfico. Desconéctese y vuelva a conectarse.</translation>
     </message>
     <message>
         <source>All traffic is locked to Tor, but the exit could not be confirmed</source>
@@ -1707,7 +1707,7 @@
     </message>
     <message>
         <source>This computer has no network. Traffic around Tor stays blocked.</source>
-        <translation>Este equipo no tiene red. Mientras tanto, nada sale sin pasar por Tor.</translation>
+        <translation>Este equipo no tiene red. El tráfico que elude Tor sigue bloqueado.</translation>
     </message>
     <message>
         <source>This computer has no network. Veldmark goes on when it is back.</source>
@@ -1715,7 +1715,7 @@
     </message>
     <message>
         <source>Tor has no working circuit and keeps trying. Traffic around Tor stays blocked.</source>
-        <translation>Tor no tiene ningún circuito que funcione y lo sigue intentando. Mientras tanto, nada sale sin pasar por Tor.</translation>
+        <translation>Tor no tiene ningún circuito que funcione y lo sigue intentando. El tráfico que elude Tor sigue bloqueado.</translation>
     </message>
     <message>
         <source>Tor has no working circuit and keeps trying.</source>
@@ -1723,7 +1723,7 @@
     </message>
     <message>
         <source>Tor gets no answer from the network and keeps trying. Traffic around Tor stays blocked.</source>
-        <translation>Tor no recibe respuesta de la red y lo sigue intentando. Mientras tanto, nada sale sin pasar por Tor.</translation>
+        <translation>Tor no recibe respuesta de la red y lo sigue intentando. El tráfico que elude Tor sigue bloqueado.</translation>
     </message>
     <message>
         <source>Tor gets no answer from the network and keeps trying.</source>
@@ -1731,7 +1731,7 @@
     </message>
     <message>
         <source>Another program has ended this session and started its own. Restore Network ends that session.</source>
-        <translation>Otro programa terminó esta sesión y comenzó una propia. «Restaurar la red» termina esa.</translation>
+        <translation>Otro programa terminó esta sesión y comenzó una propia. «Restaurar la red» termina esa otra sesión.</translation>
     </message>
     <message>
         <source>This computer has no network, so Tor can&apos;t connect.</source>
@@ -1783,7 +1783,7 @@
     </message>
     <message>
         <source>Another firewall on this computer blocks outgoing traffic, so Tor can&apos;t connect: %1.</source>
-        <translation>Otro cortafuegos de este equipo impide las conexiones salientes, así que Tor no puede conectarse: %1.</translation>
+        <translation>Otro cortafuegos de este equipo bloquea el tráfico saliente, así que Tor no puede conectarse: %1.</translation>
     </message>
     <message>
         <source>Setup ran but the helper wasn&apos;t installed. Try again.</source>
@@ -1795,15 +1795,15 @@
     </message>
     <message>
         <source>Add at least one bridge under Bridges → Custom….</source>
-        <translation>Añada al menos un puente en Puentes → Propios….</translation>
+        <translation>Añada al menos un puente en «Puentes → Propios…».</translation>
     </message>
     <message>
         <source>Some custom bridge lines aren&apos;t valid. Fix them under Bridges → Custom….</source>
-        <translation>Algunas líneas de los puentes propios no son válidas. Corríjalas en Puentes → Propios….</translation>
+        <translation>Algunas líneas de los puentes propios no son válidas. Corríjalas en «Puentes → Propios…».</translation>
     </message>
     <message>
         <source>At most %1 custom bridges can be used. Remove some under Bridges → Custom….</source>
-        <translation>Se pueden usar %1 puentes propios como máximo. Quite algunos en Puentes → Propios….</translation>
+        <translation>Se pueden usar %1 puentes propios como máximo. Quite algunos en «Puentes → Propios…».</translation>
     </message>
     <message>
         <source>Testing %1 bridges…</source>
@@ -1839,11 +1839,11 @@
     </message>
     <message>
         <source>Another Veldmark of yours has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
-        <translation>Otro Veldmark suyo ha iniciado una sesión entretanto, así que no se terminó nada. Desconéctese de nuevo para terminarla.</translation>
+        <translation>Otro Veldmark suyo ha iniciado una sesión entretanto, así que no se terminó ninguna sesión. Desconéctese de nuevo para terminar esa sesión.</translation>
     </message>
     <message>
         <source>Another user&apos;s Veldmark has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
-        <translation>El Veldmark de otro usuario ha iniciado una sesión entretanto, así que no se terminó nada. Desconéctese de nuevo para terminarla.</translation>
+        <translation>El Veldmark de otro usuario ha iniciado una sesión entretanto, así que no se terminó ninguna sesión. Desconéctese de nuevo para terminar esa sesión.</translation>
     </message>
     <message>
         <source>Your network is set up for Tor by another Veldmark of yours, process %1</source>
@@ -1859,7 +1859,7 @@
     </message>
     <message>
         <source>%1 is connected with Veldmark (process %2). That session must be ended first.</source>
-        <translation>%1 tiene una conexión con Veldmark (proceso %2). Primero hay que terminar esa sesión.</translation>
+        <translation>%1 tiene abierta una conexión de Veldmark (proceso %2). Primero hay que terminar esa sesión.</translation>
     </message>
     <message>
         <source>%1 Your network is still pointed at Tor. Click Restore Network to undo.</source>
@@ -1919,7 +1919,7 @@
     </message>
     <message>
         <source>The connection was lost before the download ended.</source>
-        <translation>La conexión se perdió antes de terminar.</translation>
+        <translation>La conexión se perdió antes de que terminara la descarga.</translation>
     </message>
     <message>
         <source>Not connected to Tor&apos;s control port.</source>
@@ -1955,7 +1955,7 @@
     </message>
     <message>
         <source>The password could not be checked: polkit accepts no password from this terminal. Run the command with sudo.</source>
-        <translation>No se pudo comprobar la contraseña: polkit no acepta ninguna desde este terminal. Ejecútelo con sudo.</translation>
+        <translation>No se pudo comprobar la contraseña: polkit no acepta ninguna desde este terminal. Ejecute el comando con sudo.</translation>
     </message>
     <message>
         <source>Couldn&apos;t fix DNS: %1</source>
@@ -2039,7 +2039,7 @@
     </message>
     <message>
         <source>Built-in %1 bridges come from Tor Browser. Click Download next to Bridges, install Tor Browser, or paste your own under Bridges → Custom….</source>
-        <translation>Los puentes %1 integrados vienen con Tor Browser. Haga clic en «Descargar», junto a «Puentes», instale Tor Browser o pegue los suyos en Puentes → Propios….</translation>
+        <translation>Los puentes %1 integrados vienen con Tor Browser. Haga clic en «Descargar», junto a «Puentes», instale Tor Browser o pegue los suyos en «Puentes → Propios…».</translation>
     </message>
     <message>
         <source>Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and still point around Tor: %1.</source>
@@ -2059,7 +2059,7 @@
     </message>
     <message>
         <source>A session is open, and its kill switch doesn&apos;t block traffic: its watcher couldn&apos;t put the rules back. Traffic may leave this computer directly. Restore the network, and connect again.</source>
-        <translation>Hay una sesión abierta y su bloqueo de emergencia no tiene efecto: su vigilante no pudo volver a poner las reglas. El tráfico puede salir directamente de este equipo. Restaure la red y vuelva a conectarse.</translation>
+        <translation>Hay una sesión abierta y su bloqueo de emergencia no corta el tráfico: su vigilante no pudo volver a poner las reglas. El tráfico puede salir directamente de este equipo. Restaure la red y vuelva a conectarse.</translation>
     </message>
     <message>
         <source>The clock is behind: it shows %1, but the file %2 was written on %3. Tor needs a clock that is right to within minutes.</source>
@@ -2071,7 +2071,7 @@
     </message>
     <message>
         <source>It isn&apos;t known whether the clock is right: no time service seems to set it. It shows %1. Tor needs it right to within minutes.</source>
-        <translation>No se sabe si el reloj es correcto: no se ve nada que lo ajuste por la red. Marca %1. Tor necesita que no se desvíe más de unos minutos.</translation>
+        <translation>No se sabe si el reloj es correcto: ningún servicio horario parece ajustarlo. Marca %1. Tor necesita que no se desvíe más de unos minutos.</translation>
     </message>
     <message>
         <source>nftables isn&apos;t installed. Veldmark&apos;s firewall needs it.</source>
@@ -2091,7 +2091,7 @@
     </message>
     <message>
         <source>nftables is installed. Only root can tell whether the running kernel can use it.</source>
-        <translation>nftables está instalado. Solo root sabe si el núcleo en ejecución puede usarlo.</translation>
+        <translation>nftables está instalado. Solo root puede saber si el núcleo en ejecución puede usarlo.</translation>
     </message>
     <message>
         <source>nftables is installed, and the kernel has it.</source>
@@ -2111,11 +2111,11 @@
     </message>
     <message>
         <source>No other firewall that Veldmark knows runs. Only root can read the rules themselves.</source>
-        <translation>No está en marcha ningún otro cortafuegos conocido por su nombre. Las reglas mismas solo las conoce root.</translation>
+        <translation>No está en marcha ningún otro cortafuegos que Veldmark conozca. Solo root puede leer las reglas mismas.</translation>
     </message>
     <message>
         <source>Another firewall on this computer blocks outgoing traffic that its rules don&apos;t allow, so Tor may not get through: %1.</source>
-        <translation>Otro cortafuegos de este equipo impide toda conexión saliente que sus reglas no permitan, así que Tor quizá no logre pasar: %1.</translation>
+        <translation>Otro cortafuegos de este equipo bloquea el tráfico saliente que sus reglas no permiten, así que Tor quizá no logre pasar: %1.</translation>
     </message>
     <message>
         <source>Other programs set firewall rules here: %1. Veldmark leaves their rules alone. Rules that drop packets can block Tor.</source>
@@ -2135,11 +2135,11 @@
     </message>
     <message>
         <source>No known polkit agent, the program that asks for the password, runs in your session. Use sudo, or start an agent such as lxpolkit.</source>
-        <translation>En su sesión no se ejecuta ningún programa conocido que pida las contraseñas de polkit (un agente). Sin él, use sudo o inicie un agente como lxpolkit.</translation>
+        <translation>En su sesión no se ejecuta ningún agente de polkit conocido (el programa que pide la contraseña). Use sudo o inicie un agente como lxpolkit.</translation>
     </message>
     <message>
         <source>polkit is installed, and an agent that asks for the password runs in your session.</source>
-        <translation>polkit está disponible y en su sesión se ejecuta un programa que pide sus contraseñas.</translation>
+        <translation>polkit está instalado y en su sesión se ejecuta un agente que pide la contraseña.</translation>
     </message>
     <message>
         <source>Veldmark runs as root here and asks for no password.</source>
@@ -2155,7 +2155,7 @@
     </message>
     <message>
         <source>sudo is installed. Only root can tell whether you may use it.</source>
-        <translation>sudo está instalado. Solo root sabe si usted puede usarlo.</translation>
+        <translation>sudo está instalado. Solo root puede saber si usted puede usarlo.</translation>
     </message>
     <message>
         <source>sudo is installed, and you are in the group %1.</source>
@@ -2183,7 +2183,7 @@
     </message>
     <message>
         <source>The location of Tor in the settings, %1, is not an executable program. Veldmark searches the usual places instead.</source>
-        <translation>La ubicación de Tor en la configuración, %1, no es un programa ejecutable. Se busca en los lugares habituales.</translation>
+        <translation>La ubicación de Tor en la configuración, %1, no es un programa ejecutable. En su lugar, Veldmark busca en los sitios habituales.</translation>
     </message>
     <message>
         <source>Tor isn&apos;t installed.</source>
@@ -2207,15 +2207,15 @@
     </message>
     <message>
         <source>The helper is missing. Reinstall Veldmark.</source>
-        <translation>Falta el script auxiliar de Veldmark. Vuelva a instalar Veldmark.</translation>
+        <translation>Falta el programa auxiliar. Vuelva a instalar Veldmark.</translation>
     </message>
     <message>
         <source>Accounts other than root can change Veldmark&apos;s helper, %1, and with it what the administrator&apos;s password runs.</source>
-        <translation>El programa auxiliar de Veldmark, %1, está en un lugar donde pueden escribir otros además de root. Pueden cambiarlo y, con ello, lo que se ejecuta con la contraseña de administrador.</translation>
+        <translation>Otras cuentas además de root pueden cambiar el programa auxiliar de Veldmark, %1, y con ello lo que se ejecuta con la contraseña de administrador.</translation>
     </message>
     <message>
         <source>Veldmark&apos;s helper, %1, is not installed: the account %2 can change it, and with it what the administrator&apos;s password runs.</source>
-        <translation>El programa auxiliar de Veldmark, %1, no es uno instalado: la cuenta %2 puede cambiarlo y, con ello, lo que se ejecuta con la contraseña de administrador.</translation>
+        <translation>El programa auxiliar de Veldmark, %1, no está instalado: la cuenta %2 puede cambiarlo y, con ello, lo que se ejecuta con la contraseña de administrador.</translation>
     </message>
     <message>
         <source>Veldmark&apos;s helper is installed, and only root can change it: %1.</source>
@@ -2223,7 +2223,7 @@
     </message>
     <message>
         <source>The helper of passwordless mode belongs to another version. Set up passwordless mode again in Settings, General.</source>
-        <translation>El programa auxiliar del modo sin contraseña es de otra versión. Vuelva a configurar el modo sin contraseña en Configuración, General.</translation>
+        <translation>El programa auxiliar del modo sin contraseña es de otra versión. Vuelva a configurar el modo sin contraseña en «Configuración → General».</translation>
     </message>
     <message>
         <source>Bridges are off. Bridges need bridge programs where Tor is blocked, and none was found.</source>
@@ -2243,19 +2243,19 @@
     </message>
     <message>
         <source>%1 manages DNS. Veldmark changes that while connected and restores it afterwards.</source>
-        <translation>Los nombres se resuelven según %1. Veldmark lo cambia y después lo restablece.</translation>
+        <translation>%1 gestiona el DNS. Veldmark cambia eso mientras está conectado y después lo restaura.</translation>
     </message>
     <message>
         <source>Veldmark wrote %1. It points DNS at Tor.</source>
-        <translation>%1 es de Veldmark. Indica Tor como servidor de nombres.</translation>
+        <translation>Veldmark escribió %1. Ese archivo apunta el DNS a Tor.</translation>
     </message>
     <message>
         <source>The file %1 is missing, so DNS may not work at all.</source>
-        <translation>No existe el archivo %1, así que puede que los nombres no se resuelvan en absoluto.</translation>
+        <translation>Falta el archivo %1, así que puede que el DNS no funcione en absoluto.</translation>
     </message>
     <message>
         <source>A resolver on this computer answers DNS. Veldmark changes that while connected and restores it afterwards.</source>
-        <translation>Los nombres los resuelve un programa de este equipo. Veldmark lo cambia y después lo restablece.</translation>
+        <translation>Un programa de este equipo responde a las consultas DNS. Veldmark cambia eso mientras está conectado y después lo restaura.</translation>
     </message>
     <message>
         <source>No earlier session is left open.</source>
@@ -2327,7 +2327,7 @@
     </message>
     <message>
         <source>The archive&apos;s list of files is ambiguous.</source>
-        <translation>La lista del contenido del archivo comprimido no es clara.</translation>
+        <translation>La lista del contenido del archivo comprimido es ambigua.</translation>
     </message>
     <message>
         <source>The archive contains too many files.</source>
@@ -2419,7 +2419,7 @@
     </message>
     <message>
         <source>A command is missing. &quot;veldmarkctl help&quot; lists the commands.</source>
-        <translation>¿Qué hay que hacer? «veldmarkctl help» muestra los comandos.</translation>
+        <translation>Falta un comando. «veldmarkctl help» muestra los comandos.</translation>
     </message>
     <message>
         <source>Unknown command %1. &quot;veldmarkctl help&quot; lists the commands.</source>
@@ -2461,7 +2461,7 @@
     </message>
     <message>
         <source>doesn&apos;t say which transports it serves</source>
-        <translation>no indica qué ofrece</translation>
+        <translation>no indica qué transportes ofrece</translation>
     </message>
     <message>
         <source>serves %1</source>
@@ -2557,19 +2557,19 @@
     </message>
     <message>
         <source>blocks traffic, since %1</source>
-        <translation>en vigor, desde %1</translation>
+        <translation>corta el tráfico, desde %1</translation>
     </message>
     <message>
         <source>blocks traffic; put back at %1 after another program had removed it</source>
-        <translation>en vigor; restablecido (%1) después de que otro programa lo quitara</translation>
+        <translation>corta el tráfico; restablecido (%1) después de que otro programa lo quitara</translation>
     </message>
     <message>
         <source>NOT BLOCKING since %1: traffic may leave this computer directly</source>
-        <translation>SIN EFECTO desde %1: el tráfico puede salir directamente de este equipo</translation>
+        <translation>NO CORTA EL TRÁFICO desde %1: puede salir directamente de este equipo</translation>
     </message>
     <message>
         <source>isn&apos;t known to block traffic, since %1</source>
-        <translation>desde %1 no se sabe si está en vigor</translation>
+        <translation>desde %1 no se sabe si corta el tráfico</translation>
     </message>
     <message>
         <source>not checked yet</source>
@@ -2597,11 +2597,11 @@
     </message>
     <message>
         <source>no answer, but it isn&apos;t known whether the kill switch blocks it</source>
-        <translation>sin respuesta, pero no consta que el bloqueo de emergencia la cierre</translation>
+        <translation>sin respuesta, pero no se sabe si el bloqueo de emergencia la corta</translation>
     </message>
     <message>
         <source>no answer, but proxy mode doesn&apos;t block it</source>
-        <translation>sin respuesta, pero el modo proxy no la cierra</translation>
+        <translation>sin respuesta, pero el modo proxy no la corta</translation>
     </message>
     <message>
         <source>checking…</source>
@@ -2769,7 +2769,7 @@
     </message>
     <message>
         <source>strict mode with the kill switch, else proxy mode</source>
-        <translation>el bloqueo de emergencia; si no, el modo proxy</translation>
+        <translation>modo estricto con el bloqueo de emergencia; si no, modo proxy</translation>
     </message>
     <message>
         <source>strict mode lets the local network through</source>
@@ -2781,7 +2781,7 @@
     </message>
     <message>
         <source>the path of the tor to use, or nothing to search for tor</source>
-        <translation>el tor que se usa, o nada para buscarlo</translation>
+        <translation>la ruta del tor que se usa, o nada para buscar tor</translation>
     </message>
     <message>
         <source>which bridges</source>
@@ -2897,7 +2897,7 @@
     </message>
     <message>
         <source>print the connection&apos;s state; --watch goes on until Ctrl-C</source>
-        <translation>el estado actual; --watch continúa hasta Ctrl-C</translation>
+        <translation>mostrar el estado de la conexión; --watch continúa hasta Ctrl-C</translation>
     </message>
     <message>
         <source>connect the running instance to Tor</source>
@@ -2909,7 +2909,7 @@
     </message>
     <message>
         <source>restore the network and stop Tor, also after a crash</source>
-        <translation>lo mismo, también para lo que dejó un cierre inesperado</translation>
+        <translation>restaurar la red y detener Tor, también tras un cierre inesperado</translation>
     </message>
     <message>
         <source>check the exit address, the direct path and DNS now</source>
@@ -2925,7 +2925,7 @@
     </message>
     <message>
         <source>close a circuit; its sites get a fresh path on their next request</source>
-        <translation>cerrar uno; sus sitios tendrán una ruta nueva en su próxima solicitud</translation>
+        <translation>cerrar un circuito; sus sitios tendrán una ruta nueva en su próxima solicitud</translation>
     </message>
     <message>
         <source>close-circuit needs a circuit&apos;s number; &quot;veldmarkctl circuits&quot; shows them.</source>
@@ -3041,7 +3041,7 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
     </message>
     <message>
         <source>Veldmark replaces the running strict session. The new session may protect you less.</source>
-        <translation>Se reemplaza la sesión estricta en curso, y la protección puede ser menor.</translation>
+        <translation>Veldmark reemplaza la sesión estricta en curso. La nueva sesión puede protegerle menos.</translation>
     </message>
     <message>
         <source>Veldmark wants to run %1 as a part of Tor. No package of the system installed it. Its SHA-256 is %2.</source>
@@ -3109,7 +3109,7 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
     </message>
     <message>
         <source>Another program (process %1) has started a session meanwhile. That session was left alone.</source>
-        <translation>Otro programa (proceso %1) ha iniciado una sesión entretanto. No se tocó.</translation>
+        <translation>Otro programa (proceso %1) ha iniciado una sesión entretanto. Esa sesión no se tocó.</translation>
     </message>
     <message>
         <source>Another run of the helper is still working. Try again in a moment.</source>
@@ -3121,7 +3121,7 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
     </message>
     <message>
         <source>The helper opens applications only for the user who asks.</source>
-        <translation>Solo se pueden abrir aplicaciones para el usuario que lo pide.</translation>
+        <translation>El programa auxiliar solo abre aplicaciones para el usuario que lo pide.</translation>
     </message>
     <message>
         <source>Applications cannot be opened without Tor on this system.</source>
@@ -3133,7 +3133,7 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
     </message>
     <message>
         <source>Passwordless mode can be set up only for the user who asks.</source>
-        <translation>Solo se puede dar acceso al usuario que lo pide.</translation>
+        <translation>El modo sin contraseña solo se puede configurar para el usuario que lo pide.</translation>
     </message>
     <message>
         <source>Another program is changing the firewall. Try again in a moment.</source>
@@ -3217,7 +3217,7 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
     </message>
     <message>
         <source>The firewall rules cannot be read, so nothing was done.</source>
-        <translation>No se puede examinar el cortafuegos, así que no se hizo nada.</translation>
+        <translation>No se pueden leer las reglas del cortafuegos, así que no se hizo nada.</translation>
     </message>
     <message>
         <source>The firewall cannot be switched on (%1).</source>
@@ -3297,11 +3297,11 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
     </message>
     <message>
         <source>The folders below %1 cannot be read, so nothing was done.</source>
-        <translation>No se pueden examinar las carpetas dentro de %1, así que no se hizo nada.</translation>
+        <translation>No se pueden leer las carpetas dentro de %1, así que no se hizo nada.</translation>
     </message>
     <message>
         <source>The folders below %1 cannot be read.</source>
-        <translation>No se pueden examinar las carpetas dentro de %1.</translation>
+        <translation>No se pueden leer las carpetas dentro de %1.</translation>
     </message>
     <message>
         <source>The former network settings could not all be restored.</source>
@@ -3333,7 +3333,7 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
     </message>
     <message>
         <source>The journal cannot be written.</source>
-        <translation>No se puede escribir el diario.</translation>
+        <translation>No se puede escribir el diario de cambios.</translation>
     </message>
     <message>
         <source>The kill switch is not on, so no application needs to bypass it.</source>
@@ -3365,7 +3365,7 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
     </message>
     <message>
         <source>The network is open again, but the journal in %1 cannot be cleared.</source>
-        <translation>La red vuelve a estar abierta, pero no se puede vaciar el diario en %1.</translation>
+        <translation>La red vuelve a estar abierta, pero no se puede vaciar el diario de cambios en %1.</translation>
     </message>
     <message>
         <source>The network is open again, but the session marker cannot be removed from %1.</source>
@@ -3453,7 +3453,7 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
     </message>
     <message>
         <source>The port %1, which Tor needs, is held by %2. End that program, then connect again.</source>
-        <translation>El puerto %1, que Tor necesita, lo ocupa %2. Ciérrelo y vuelva a conectarse.</translation>
+        <translation>El puerto %1, que Tor necesita, lo ocupa %2. Cierre ese programa y vuelva a conectarse.</translation>
     </message>
     <message>
         <source>a program (process %1)</source>
@@ -3481,7 +3481,7 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
     </message>
     <message>
         <source>The SHA-256 of the program %1 is not the one to approve.</source>
-        <translation>El programa %1 no es el que se iba a aprobar.</translation>
+        <translation>El SHA-256 del programa %1 no es el que se va a aprobar.</translation>
     </message>
     <message>
         <source>The program given with %1 is not an executable file.</source>
@@ -3569,11 +3569,11 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
     </message>
     <message>
         <source>The watcher of the firewall rules could not be started.</source>
-        <translation>No se pudo iniciar el vigilante del cortafuegos.</translation>
+        <translation>No se pudo iniciar el vigilante de las reglas del cortafuegos.</translation>
     </message>
     <message>
         <source>The watcher of the firewall rules could not be stopped.</source>
-        <translation>No se pudo detener el vigilante del cortafuegos.</translation>
+        <translation>No se pudo detener el vigilante de las reglas del cortafuegos.</translation>
     </message>
     <message>
         <source>There are too many options on standard input.</source>
@@ -3689,7 +3689,7 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
     </message>
     <message>
         <source>Ended because the display is gone. Your network is still set up for Tor: start Veldmark again, or restore the network with: %1</source>
-        <translation>Terminado al quedarse sin pantalla. Su red sigue configurada para Tor: inicie Veldmark de nuevo o restáurela con: %1</translation>
+        <translation>Terminado al quedarse sin pantalla. Su red sigue configurada para Tor: inicie Veldmark de nuevo o restaure la red con: %1</translation>
     </message>
     <message>
         <source>your package manager</source>
@@ -3701,7 +3701,7 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
     </message>
     <message>
         <source>This system can&apos;t tell applications apart.</source>
-        <translation>En este sistema no se distinguen las aplicaciones.</translation>
+        <translation>Este sistema no puede distinguir las aplicaciones.</translation>
     </message>
     <message>
         <source>Applications are not separated now: they share circuits.</source>
@@ -3721,7 +3721,7 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
     </message>
     <message>
         <source>The application did not get a new identity.</source>
-        <translation>La aplicación no obtuvo otra identidad.</translation>
+        <translation>La aplicación no obtuvo una identidad nueva.</translation>
     </message>
     <message>
         <source>The program did not get an identity of its own, so it was not started.</source>
@@ -3733,7 +3733,7 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
     </message>
     <message>
         <source>The program systemd-run is missing. Veldmark needs it to make a group for a program.</source>
-        <translation>Falta el programa systemd-run, que crea grupos para programas.</translation>
+        <translation>Falta el programa systemd-run. Veldmark lo necesita para crear un grupo para un programa.</translation>
     </message>
     <message>
         <source>The program could not be started: %1.</source>
@@ -3791,7 +3791,7 @@ el mismo nombre en la misma sesión, tiene los mismos</translation>
     </message>
     <message>
         <source>Another firewall on this computer blocks outgoing traffic, and none of its rules allows any, so Tor can&apos;t get through: %1.</source>
-        <translation>Otro cortafuegos de este equipo impide las conexiones salientes y ninguna de sus reglas permite nada, así que Tor no puede pasar: %1.</translation>
+        <translation>Otro cortafuegos de este equipo bloquea el tráfico saliente y ninguna de sus reglas lo permite, así que Tor no puede pasar: %1.</translation>
     </message>
     <message>
         <source>Users other than root can change %1, so root doesn&apos;t run it to ask for its version.</source>

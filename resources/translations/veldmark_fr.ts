@@ -78,7 +78,7 @@
     </message>
     <message>
         <source>Programs that disguise your Tor connection</source>
-        <translation>Programmes qui dissimulent votre connexion à Tor</translation>
+        <translation>Programmes qui déguisent votre connexion à Tor</translation>
     </message>
     <message>
         <source>Built-in bridges</source>
@@ -873,7 +873,7 @@
     </message>
     <message>
         <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>
-        <translation>Le kill switch est inopérant. Ouvrez Veldmark, déconnectez-vous puis reconnectez-vous.</translation>
+        <translation>Le kill switch ne bloque pas le trafic. Ouvrez Veldmark, déconnectez-vous puis reconnectez-vous.</translation>
     </message>
     <message>
         <source>The kill switch is not watched</source>
@@ -914,7 +914,7 @@
     </message>
     <message>
         <source>Veldmark had to close and could not restore the network. Open Veldmark again to restore it.</source>
-        <translation>Veldmark a reçu l’ordre de s’arrêter et n’a pas pu le rétablir. Rouvrez Veldmark pour le faire.</translation>
+        <translation>Veldmark a dû s’arrêter et n’a pas pu rétablir le réseau. Rouvrez Veldmark pour le rétablir.</translation>
     </message>
 </context>
 <context>
@@ -991,7 +991,7 @@
     </message>
     <message>
         <source>Leads to an onion service. The last relay is the meeting point.</source>
-        <translation>Mène à un service onion, qui le rejoint à son dernier relais</translation>
+        <translation>Mène à un service onion. Le dernier relais est le point de rendez-vous.</translation>
     </message>
     <message>
         <source>Meeting point</source>
@@ -1050,7 +1050,7 @@
     </message>
     <message>
         <source>OK</source>
-        <translation>En ordre</translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Restore Network</source>
@@ -1132,15 +1132,15 @@
     </message>
     <message>
         <source>obfs4 (built-in)</source>
-        <translation>obfs4 (intégré)</translation>
+        <translation>obfs4 (intégrés)</translation>
     </message>
     <message>
         <source>Snowflake (built-in)</source>
-        <translation>Snowflake (intégré)</translation>
+        <translation>Snowflake (intégrés)</translation>
     </message>
     <message>
         <source>meek (built-in)</source>
-        <translation>meek (intégré)</translation>
+        <translation>meek (intégrés)</translation>
     </message>
     <message>
         <source>Custom</source>
@@ -1211,11 +1211,11 @@
     </message>
     <message>
         <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
-        <translation>Une connexion directe sans passer par Tor est restée sans réponse, mais on ne sait pas si le kill switch bloque ce chemin</translation>
+        <translation>Une connexion directe sans passer par Tor est restée sans réponse, mais on ne sait pas si le kill switch bloque de telles connexions</translation>
     </message>
     <message>
         <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
-        <translation>Une connexion directe sans passer par Tor est restée sans réponse, mais le mode proxy ne bloque pas ce chemin</translation>
+        <translation>Une connexion directe sans passer par Tor est restée sans réponse, mais le mode proxy ne bloque pas de telles connexions</translation>
     </message>
     <message>
         <source>Connect to Tor</source>
@@ -1263,7 +1263,7 @@
     </message>
     <message>
         <source>Still waiting for Tor to start, or for your approval.</source>
-        <translation>Encore en attente du démarrage de Tor ou de votre approbation.</translation>
+        <translation>Toujours en attente du démarrage de Tor ou de votre approbation.</translation>
     </message>
     <message>
         <source>Checking</source>
@@ -1357,7 +1357,7 @@
     </message>
     <message>
         <source>Not found in Tor Browser or a downloaded bundle</source>
-        <translation>Introuvable dans Tor Browser ou un bundle téléchargé</translation>
+        <translation>Introuvables dans Tor Browser ou un paquet téléchargé</translation>
     </message>
     <message>
         <source>Loaded from %1</source>
@@ -1439,7 +1439,7 @@
     <name>veldmark::Text</name>
     <message>
         <source>Tor hasn&apos;t confirmed that it uses the network again, so traffic may not get through. Veldmark keeps telling Tor to. If this lasts, disconnect and connect again.</source>
-        <translation>Tor n’a pas confirmé qu’il est de nouveau sur le réseau : il se peut que rien ne passe. Veldmark continue de le lui demander ; si cela ne suffit pas, déconnectez-vous puis reconnectez-vous.</translation>
+        <translation>Tor n’a pas confirmé qu’il utilise de nouveau le réseau : il se peut que le trafic ne passe pas. Veldmark continue de le lui demander ; si cela persiste, déconnectez-vous puis reconnectez-vous.</translation>
     </message>
     <message>
         <source>Version %1 is offered, which is older than the installed %2. Nothing was changed.</source>
@@ -1447,7 +1447,7 @@
     </message>
     <message>
         <source>The download of version %1 contains another version, so it was discarded.</source>
-        <translation>Ce qui a été reçu comme version %1 en est une autre et a donc été rejeté.</translation>
+        <translation>Le téléchargement de la version %1 contient une autre version ; il a donc été rejeté.</translation>
     </message>
     <message>
         <source>The download begins again when Tor is connected…</source>
@@ -1455,11 +1455,11 @@
     </message>
     <message>
         <source>&quot;%1&quot; is not a location of Tor. Give an absolute path, such as /usr/bin/tor.</source>
-        <translation>« %1 » ne peut pas être l’emplacement de Tor : indiquez le chemin complet, par exemple /usr/bin/tor.</translation>
+        <translation>« %1 » n’est pas un emplacement de Tor. Indiquez un chemin absolu, par exemple /usr/bin/tor.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be changed during a connection. Disconnect to change it.</source>
-        <translation>« %1 » vaut pour toute la connexion. Déconnectez-vous pour le modifier.</translation>
+        <translation>« %1 » ne se modifie pas pendant une connexion. Déconnectez-vous pour le modifier.</translation>
     </message>
     <message>
         <source>Your traffic is not going through Tor</source>
@@ -1519,7 +1519,7 @@
     </message>
     <message>
         <source>Tor stopped running. The kill switch is still blocking traffic, but the last checks saw traffic go around Tor. Reconnect, or Restore Network to go online without Tor.</source>
-        <translation>Tor s’est arrêté. Le kill switch continue de bloquer le trafic, mais les dernières vérifications en ont vu contourner Tor. Reconnectez-vous, ou rétablissez le réseau pour revenir en ligne sans Tor.</translation>
+        <translation>Tor s’est arrêté. Le kill switch continue de bloquer le trafic, mais les dernières vérifications ont vu du trafic contourner Tor. Reconnectez-vous, ou rétablissez le réseau pour revenir en ligne sans Tor.</translation>
     </message>
     <message>
         <source>Tor stopped running. Apps using the proxy can&apos;t connect until you reconnect or Restore Network.</source>
@@ -1627,7 +1627,7 @@
     </message>
     <message>
         <source>Tor stopped running, and the kill switch doesn&apos;t block traffic: another program removed its rules. Traffic may leave this computer directly. Reconnect, or Restore Network.</source>
-        <translation>Tor s’est arrêté, et le kill switch est inopérant : un autre programme en a supprimé les règles. Du trafic peut sortir directement de cet ordinateur. Reconnectez-vous ou rétablissez le réseau.</translation>
+        <translation>Tor s’est arrêté, et le kill switch ne bloque pas le trafic : un autre programme en a supprimé les règles. Du trafic peut sortir directement de cet ordinateur. Reconnectez-vous ou rétablissez le réseau.</translation>
     </message>
     <message>
         <source>Tor stopped running, and it isn&apos;t known whether the kill switch is still blocking traffic. Reconnect, or Restore Network to go online without Tor.</source>
@@ -1635,7 +1635,7 @@
     </message>
     <message>
         <source>The watcher of Veldmark&apos;s firewall rules has stopped reporting, so it isn&apos;t known whether the kill switch blocks traffic. Disconnect and connect again.</source>
-        <translation>La surveillance des règles de pare-feu de Veldmark ne répond plus : on ne sait pas si le kill switch est en place. Déconnectez-vous puis reconnectez-vous.</translation>
+        <translation>La surveillance des règles de pare-feu de Veldmark ne répond plus : on ne sait pas si le kill switch bloque le trafic. Déconnectez-vous puis reconnectez-vous.</translation>
     </message>
     <message>
         <source>Not Protected</source>
@@ -1707,7 +1707,7 @@
     </message>
     <message>
         <source>This computer has no network. Traffic around Tor stays blocked.</source>
-        <translation>Cet ordinateur n’a pas de réseau. En attendant, rien ne sort en contournant Tor.</translation>
+        <translation>Cet ordinateur n’a pas de réseau. Le trafic qui contourne Tor reste bloqué.</translation>
     </message>
     <message>
         <source>This computer has no network. Veldmark goes on when it is back.</source>
@@ -1715,7 +1715,7 @@
     </message>
     <message>
         <source>Tor has no working circuit and keeps trying. Traffic around Tor stays blocked.</source>
-        <translation>Tor n’a aucun circuit qui fonctionne et continue d’essayer. En attendant, rien ne sort en le contournant.</translation>
+        <translation>Tor n’a aucun circuit qui fonctionne et continue d’essayer. Le trafic qui le contourne reste bloqué.</translation>
     </message>
     <message>
         <source>Tor has no working circuit and keeps trying.</source>
@@ -1723,7 +1723,7 @@
     </message>
     <message>
         <source>Tor gets no answer from the network and keeps trying. Traffic around Tor stays blocked.</source>
-        <translation>Tor ne reçoit aucune réponse du réseau et continue d’essayer. En attendant, rien ne sort en le contournant.</translation>
+        <translation>Tor ne reçoit aucune réponse du réseau et continue d’essayer. Le trafic qui le contourne reste bloqué.</translation>
     </message>
     <message>
         <source>Tor gets no answer from the network and keeps trying.</source>
@@ -1731,7 +1731,7 @@
     </message>
     <message>
         <source>Another program has ended this session and started its own. Restore Network ends that session.</source>
-        <translation>Un autre programme a mis fin à cette session et en a commencé une autre. « Rétablir le réseau » met fin à cette dernière.</translation>
+        <translation>Un autre programme a mis fin à cette session et en a commencé une autre. « Rétablir le réseau » met fin à cette dernière.</translation>
     </message>
     <message>
         <source>This computer has no network, so Tor can&apos;t connect.</source>
@@ -1783,7 +1783,7 @@
     </message>
     <message>
         <source>Another firewall on this computer blocks outgoing traffic, so Tor can&apos;t connect: %1.</source>
-        <translation>Un autre pare-feu de cet ordinateur refuse les connexions sortantes, Tor ne peut donc pas se connecter : %1.</translation>
+        <translation>Un autre pare-feu de cet ordinateur bloque le trafic sortant, Tor ne peut donc pas se connecter : %1.</translation>
     </message>
     <message>
         <source>Setup ran but the helper wasn&apos;t installed. Try again.</source>
@@ -1839,11 +1839,11 @@
     </message>
     <message>
         <source>Another Veldmark of yours has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
-        <translation>Un autre de vos Veldmark a commencé une session entre-temps ; rien n’a donc été arrêté. Déconnectez-vous de nouveau pour y mettre fin.</translation>
+        <translation>Un autre de vos Veldmark a commencé une session entre-temps ; il n’a donc été mis fin à aucune session. Déconnectez-vous de nouveau pour mettre fin à celle-là.</translation>
     </message>
     <message>
         <source>Another user&apos;s Veldmark has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
-        <translation>Le Veldmark d’un autre utilisateur a commencé une session entre-temps ; rien n’a donc été arrêté. Déconnectez-vous de nouveau pour y mettre fin.</translation>
+        <translation>Le Veldmark d’un autre utilisateur a commencé une session entre-temps ; il n’a donc été mis fin à aucune session. Déconnectez-vous de nouveau pour mettre fin à celle-là.</translation>
     </message>
     <message>
         <source>Your network is set up for Tor by another Veldmark of yours, process %1</source>
@@ -1919,7 +1919,7 @@
     </message>
     <message>
         <source>The connection was lost before the download ended.</source>
-        <translation>La connexion a été perdue avant la fin.</translation>
+        <translation>La connexion a été perdue avant la fin du téléchargement.</translation>
     </message>
     <message>
         <source>Not connected to Tor&apos;s control port.</source>
@@ -2059,7 +2059,7 @@
     </message>
     <message>
         <source>A session is open, and its kill switch doesn&apos;t block traffic: its watcher couldn&apos;t put the rules back. Traffic may leave this computer directly. Restore the network, and connect again.</source>
-        <translation>Une session est en cours, et son kill switch est inopérant : sa surveillance n’a pas pu rétablir les règles. Du trafic peut sortir directement de cet ordinateur. Rétablissez le réseau, puis reconnectez-vous.</translation>
+        <translation>Une session est en cours, et son kill switch ne bloque pas le trafic : sa surveillance n’a pas pu rétablir les règles. Du trafic peut sortir directement de cet ordinateur. Rétablissez le réseau, puis reconnectez-vous.</translation>
     </message>
     <message>
         <source>The clock is behind: it shows %1, but the file %2 was written on %3. Tor needs a clock that is right to within minutes.</source>
@@ -2071,7 +2071,7 @@
     </message>
     <message>
         <source>It isn&apos;t known whether the clock is right: no time service seems to set it. It shows %1. Tor needs it right to within minutes.</source>
-        <translation>On ne sait pas si l’horloge est juste : rien ne semble la régler par le réseau. Elle indique %1. Tor a besoin qu’elle soit juste à quelques minutes près.</translation>
+        <translation>On ne sait pas si l’horloge est juste : aucun service de temps ne semble la régler. Elle indique %1. Tor a besoin qu’elle soit juste à quelques minutes près.</translation>
     </message>
     <message>
         <source>nftables isn&apos;t installed. Veldmark&apos;s firewall needs it.</source>
@@ -2111,11 +2111,11 @@
     </message>
     <message>
         <source>No other firewall that Veldmark knows runs. Only root can read the rules themselves.</source>
-        <translation>Aucun autre pare-feu connu par son nom n’est actif. Seul root peut connaître les règles elles-mêmes.</translation>
+        <translation>Aucun autre pare-feu connu de Veldmark n’est actif. Seul root peut lire les règles elles-mêmes.</translation>
     </message>
     <message>
         <source>Another firewall on this computer blocks outgoing traffic that its rules don&apos;t allow, so Tor may not get through: %1.</source>
-        <translation>Un autre pare-feu de cet ordinateur refuse les connexions sortantes qu’aucune de ses règles n’autorise ; il se peut donc que Tor ne passe pas : %1.</translation>
+        <translation>Un autre pare-feu de cet ordinateur bloque le trafic sortant que ses règles n’autorisent pas ; il se peut donc que Tor ne passe pas : %1.</translation>
     </message>
     <message>
         <source>Other programs set firewall rules here: %1. Veldmark leaves their rules alone. Rules that drop packets can block Tor.</source>
@@ -2135,11 +2135,11 @@
     </message>
     <message>
         <source>No known polkit agent, the program that asks for the password, runs in your session. Use sudo, or start an agent such as lxpolkit.</source>
-        <translation>Aucun programme connu pour demander les mots de passe de polkit (agent) n’est actif dans votre session. Sans agent, utilisez sudo, ou démarrez un agent comme lxpolkit.</translation>
+        <translation>Aucun agent polkit connu (le programme qui demande le mot de passe) n’est actif dans votre session. Utilisez sudo, ou démarrez un agent comme lxpolkit.</translation>
     </message>
     <message>
         <source>polkit is installed, and an agent that asks for the password runs in your session.</source>
-        <translation>polkit est présent, et un programme qui demande ses mots de passe est actif dans votre session.</translation>
+        <translation>polkit est installé, et un agent qui demande le mot de passe est actif dans votre session.</translation>
     </message>
     <message>
         <source>Veldmark runs as root here and asks for no password.</source>
@@ -2183,7 +2183,7 @@
     </message>
     <message>
         <source>The location of Tor in the settings, %1, is not an executable program. Veldmark searches the usual places instead.</source>
-        <translation>L’emplacement de Tor dans les paramètres, %1, n’est pas un programme exécutable. La recherche se fait aux emplacements habituels.</translation>
+        <translation>L’emplacement de Tor dans les paramètres, %1, n’est pas un programme exécutable. Veldmark cherche donc aux emplacements habituels.</translation>
     </message>
     <message>
         <source>Tor isn&apos;t installed.</source>
@@ -2207,15 +2207,15 @@
     </message>
     <message>
         <source>The helper is missing. Reinstall Veldmark.</source>
-        <translation>Le script auxiliaire de Veldmark est absent. Réinstallez Veldmark.</translation>
+        <translation>Le programme auxiliaire est absent. Réinstallez Veldmark.</translation>
     </message>
     <message>
         <source>Accounts other than root can change Veldmark&apos;s helper, %1, and with it what the administrator&apos;s password runs.</source>
-        <translation>Le programme auxiliaire de Veldmark, %1, se trouve là où d’autres que root peuvent écrire. Ils peuvent le modifier, et donc changer ce qui s’exécute avec le mot de passe administrateur.</translation>
+        <translation>D’autres comptes que root peuvent modifier le programme auxiliaire de Veldmark, %1, et donc ce qui s’exécute avec le mot de passe administrateur.</translation>
     </message>
     <message>
         <source>Veldmark&apos;s helper, %1, is not installed: the account %2 can change it, and with it what the administrator&apos;s password runs.</source>
-        <translation>Le programme auxiliaire de Veldmark, %1, n’est pas un programme installé : le compte %2 peut le modifier, et donc changer ce qui s’exécute avec le mot de passe administrateur.</translation>
+        <translation>Le programme auxiliaire de Veldmark, %1, n’est pas installé : le compte %2 peut le modifier, et donc modifier ce qui s’exécute avec le mot de passe administrateur.</translation>
     </message>
     <message>
         <source>Veldmark&apos;s helper is installed, and only root can change it: %1.</source>
@@ -2223,7 +2223,7 @@
     </message>
     <message>
         <source>The helper of passwordless mode belongs to another version. Set up passwordless mode again in Settings, General.</source>
-        <translation>Le programme auxiliaire du mode sans mot de passe est celui d’une autre version. Configurez de nouveau le mode sans mot de passe dans « Paramètres → Général ».</translation>
+        <translation>Le programme auxiliaire du mode sans mot de passe est celui d’une autre version. Configurez de nouveau le mode sans mot de passe dans « Paramètres → Général ».</translation>
     </message>
     <message>
         <source>Bridges are off. Bridges need bridge programs where Tor is blocked, and none was found.</source>
@@ -2243,19 +2243,19 @@
     </message>
     <message>
         <source>%1 manages DNS. Veldmark changes that while connected and restores it afterwards.</source>
-        <translation>Les noms sont résolus comme l’indique %1. Veldmark change ce réglage, puis le rétablit.</translation>
+        <translation>%1 gère le DNS. Veldmark change cela tant qu’il est connecté et le rétablit ensuite.</translation>
     </message>
     <message>
         <source>Veldmark wrote %1. It points DNS at Tor.</source>
-        <translation>%1 vient de Veldmark. Tor y est indiqué comme serveur de noms.</translation>
+        <translation>%1 a été écrit par Veldmark et dirige le DNS vers Tor.</translation>
     </message>
     <message>
         <source>The file %1 is missing, so DNS may not work at all.</source>
-        <translation>Le fichier %1 n’existe pas : il se peut que les noms ne soient pas résolus du tout.</translation>
+        <translation>Le fichier %1 est absent : il se peut que le DNS ne fonctionne pas du tout.</translation>
     </message>
     <message>
         <source>A resolver on this computer answers DNS. Veldmark changes that while connected and restores it afterwards.</source>
-        <translation>Les noms sont résolus par un résolveur sur cet ordinateur. Veldmark change ce réglage, puis le rétablit.</translation>
+        <translation>Un résolveur de cet ordinateur répond aux requêtes DNS. Veldmark change cela tant qu’il est connecté et le rétablit ensuite.</translation>
     </message>
     <message>
         <source>No earlier session is left open.</source>
@@ -2279,7 +2279,7 @@
     </message>
     <message>
         <source>A session is open, and it isn&apos;t known whether its kill switch blocks traffic: no watcher watches the rules. Restore the network, and connect again.</source>
-        <translation>Une session est en cours, et on ne sait pas si son kill switch bloque le trafic : aucun programme ne surveille les règles. Rétablissez le réseau, puis reconnectez-vous.</translation>
+        <translation>Une session est en cours, et on ne sait pas si son kill switch bloque le trafic : aucun programme ne surveille les règles. Rétablissez le réseau, puis reconnectez-vous.</translation>
     </message>
     <message>
         <source>Cancelled.</source>
@@ -2323,11 +2323,11 @@
     </message>
     <message>
         <source>The file is empty or not an archive.</source>
-        <translation>L’archive est vide ou n’est pas une archive.</translation>
+        <translation>Le fichier est vide ou n’est pas une archive.</translation>
     </message>
     <message>
         <source>The archive&apos;s list of files is ambiguous.</source>
-        <translation>La liste des fichiers de l’archive n’est pas claire.</translation>
+        <translation>La liste des fichiers de l’archive est ambiguë.</translation>
     </message>
     <message>
         <source>The archive contains too many files.</source>
@@ -2419,7 +2419,7 @@
     </message>
     <message>
         <source>A command is missing. &quot;veldmarkctl help&quot; lists the commands.</source>
-        <translation>Que faut-il faire ? « veldmarkctl help » affiche la liste des commandes.</translation>
+        <translation>Il manque une commande. « veldmarkctl help » affiche la liste des commandes.</translation>
     </message>
     <message>
         <source>Unknown command %1. &quot;veldmarkctl help&quot; lists the commands.</source>
@@ -2461,7 +2461,7 @@
     </message>
     <message>
         <source>doesn&apos;t say which transports it serves</source>
-        <translation>n’indique pas ce qu’il gère</translation>
+        <translation>n’indique pas quels transports il gère</translation>
     </message>
     <message>
         <source>serves %1</source>
@@ -2497,7 +2497,7 @@
     </message>
     <message>
         <source>%1 valid</source>
-        <translation>%1 au bon format</translation>
+        <translation>valides : %1</translation>
     </message>
     <message>
         <source>Installed Tor Expert Bundle %1, signature verified.</source>
@@ -2557,15 +2557,15 @@
     </message>
     <message>
         <source>blocks traffic, since %1</source>
-        <translation>en place, depuis %1</translation>
+        <translation>bloque le trafic, depuis %1</translation>
     </message>
     <message>
         <source>blocks traffic; put back at %1 after another program had removed it</source>
-        <translation>en place ; rétabli (%1) après sa suppression par un autre programme</translation>
+        <translation>bloque le trafic ; rétabli (%1) après sa suppression par un autre programme</translation>
     </message>
     <message>
         <source>NOT BLOCKING since %1: traffic may leave this computer directly</source>
-        <translation>INOPÉRANT depuis %1 : du trafic peut sortir directement de cet ordinateur</translation>
+        <translation>NE BLOQUE PAS depuis %1 : du trafic peut sortir directement de cet ordinateur</translation>
     </message>
     <message>
         <source>isn&apos;t known to block traffic, since %1</source>
@@ -2769,7 +2769,7 @@
     </message>
     <message>
         <source>strict mode with the kill switch, else proxy mode</source>
-        <translation>le kill switch, sinon le mode proxy</translation>
+        <translation>le mode strict avec le kill switch, sinon le mode proxy</translation>
     </message>
     <message>
         <source>strict mode lets the local network through</source>
@@ -2781,7 +2781,7 @@
     </message>
     <message>
         <source>the path of the tor to use, or nothing to search for tor</source>
-        <translation>le tor à utiliser, ou rien pour le rechercher</translation>
+        <translation>le chemin du tor à utiliser, ou rien pour rechercher tor</translation>
     </message>
     <message>
         <source>which bridges</source>
@@ -2897,7 +2897,7 @@
     </message>
     <message>
         <source>print the connection&apos;s state; --watch goes on until Ctrl-C</source>
-        <translation>l’état actuel ; --watch continue jusqu’à Ctrl-C</translation>
+        <translation>afficher l’état de la connexion ; --watch continue jusqu’à Ctrl-C</translation>
     </message>
     <message>
         <source>connect the running instance to Tor</source>
@@ -2909,7 +2909,7 @@
     </message>
     <message>
         <source>restore the network and stop Tor, also after a crash</source>
-        <translation>de même, y compris après un plantage</translation>
+        <translation>rétablir le réseau et arrêter Tor, y compris après un plantage</translation>
     </message>
     <message>
         <source>check the exit address, the direct path and DNS now</source>
@@ -2925,7 +2925,7 @@
     </message>
     <message>
         <source>close a circuit; its sites get a fresh path on their next request</source>
-        <translation>en fermer un ; ses sites prennent un nouveau chemin à leur prochaine requête</translation>
+        <translation>fermer un circuit ; ses sites prennent un nouveau chemin à la requête suivante</translation>
     </message>
     <message>
         <source>close-circuit needs a circuit&apos;s number; &quot;veldmarkctl circuits&quot; shows them.</source>
@@ -2981,7 +2981,7 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
     </message>
     <message>
         <source>change a setting; most of them only while not connected</source>
-        <translation>modifier un paramètre ; la plupart seulement si vous n’êtes pas connecté</translation>
+        <translation>modifier un paramètre ; la plupart seulement hors connexion</translation>
     </message>
     <message>
         <source>Can&apos;t read Tor&apos;s log</source>
@@ -3109,7 +3109,7 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
     </message>
     <message>
         <source>Another program (process %1) has started a session meanwhile. That session was left alone.</source>
-        <translation>Un autre programme (processus %1) a commencé une session entre-temps. Elle n’a pas été modifiée.</translation>
+        <translation>Un autre programme (processus %1) a commencé une session entre-temps. Cette session n’a pas été touchée.</translation>
     </message>
     <message>
         <source>Another run of the helper is still working. Try again in a moment.</source>
@@ -3121,7 +3121,7 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
     </message>
     <message>
         <source>The helper opens applications only for the user who asks.</source>
-        <translation>Une application ne peut être ouverte que pour l’utilisateur qui le demande.</translation>
+        <translation>Le programme auxiliaire n’ouvre des applications que pour l’utilisateur qui le demande.</translation>
     </message>
     <message>
         <source>Applications cannot be opened without Tor on this system.</source>
@@ -3133,7 +3133,7 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
     </message>
     <message>
         <source>Passwordless mode can be set up only for the user who asks.</source>
-        <translation>Seul l’utilisateur qui le demande peut être autorisé.</translation>
+        <translation>Le mode sans mot de passe ne peut être configuré que pour l’utilisateur qui le demande.</translation>
     </message>
     <message>
         <source>Another program is changing the firewall. Try again in a moment.</source>
@@ -3217,7 +3217,7 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
     </message>
     <message>
         <source>The firewall rules cannot be read, so nothing was done.</source>
-        <translation>Le pare-feu ne peut pas être examiné ; rien n’a donc été fait.</translation>
+        <translation>Les règles du pare-feu ne peuvent pas être lues ; rien n’a donc été fait.</translation>
     </message>
     <message>
         <source>The firewall cannot be switched on (%1).</source>
@@ -3297,11 +3297,11 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
     </message>
     <message>
         <source>The folders below %1 cannot be read, so nothing was done.</source>
-        <translation>Les dossiers sous %1 ne peuvent pas être examinés ; rien n’a donc été fait.</translation>
+        <translation>Les dossiers sous %1 ne peuvent pas être lus ; rien n’a donc été fait.</translation>
     </message>
     <message>
         <source>The folders below %1 cannot be read.</source>
-        <translation>Les dossiers sous %1 ne peuvent pas être examinés.</translation>
+        <translation>Les dossiers sous %1 ne peuvent pas être lus.</translation>
     </message>
     <message>
         <source>The former network settings could not all be restored.</source>
@@ -3337,7 +3337,7 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
     </message>
     <message>
         <source>The kill switch is not on, so no application needs to bypass it.</source>
-        <translation>Le kill switch n’est pas activé : aucune application n’a besoin de le contourner.</translation>
+        <translation>Le kill switch n’est pas activé : aucune application n’a besoin de le contourner.</translation>
     </message>
     <message>
         <source>The launcher could not be copied to %1.</source>
@@ -3481,7 +3481,7 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
     </message>
     <message>
         <source>The SHA-256 of the program %1 is not the one to approve.</source>
-        <translation>Le programme %1 n’est pas celui qui devait être approuvé.</translation>
+        <translation>L’empreinte SHA-256 du programme %1 n’est pas celle à approuver.</translation>
     </message>
     <message>
         <source>The program given with %1 is not an executable file.</source>
@@ -3569,11 +3569,11 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
     </message>
     <message>
         <source>The watcher of the firewall rules could not be started.</source>
-        <translation>La surveillance du pare-feu n’a pas pu être démarrée.</translation>
+        <translation>La surveillance des règles de pare-feu n’a pas pu être démarrée.</translation>
     </message>
     <message>
         <source>The watcher of the firewall rules could not be stopped.</source>
-        <translation>La surveillance du pare-feu n’a pas pu être arrêtée.</translation>
+        <translation>La surveillance des règles de pare-feu n’a pas pu être arrêtée.</translation>
     </message>
     <message>
         <source>There are too many options on standard input.</source>
@@ -3701,7 +3701,7 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
     </message>
     <message>
         <source>This system can&apos;t tell applications apart.</source>
-        <translation>Les applications ne sont pas distinguées sur ce système.</translation>
+        <translation>Ce système ne permet pas de distinguer les applications.</translation>
     </message>
     <message>
         <source>Applications are not separated now: they share circuits.</source>
@@ -3721,7 +3721,7 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
     </message>
     <message>
         <source>The application did not get a new identity.</source>
-        <translation>L’application n’a pas reçu d’autre identité.</translation>
+        <translation>L’application n’a pas reçu de nouvelle identité.</translation>
     </message>
     <message>
         <source>The program did not get an identity of its own, so it was not started.</source>
@@ -3733,7 +3733,7 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
     </message>
     <message>
         <source>The program systemd-run is missing. Veldmark needs it to make a group for a program.</source>
-        <translation>Le programme systemd-run, qui crée des groupes pour les programmes, est absent.</translation>
+        <translation>Le programme systemd-run est absent. Veldmark en a besoin pour créer un groupe pour un programme.</translation>
     </message>
     <message>
         <source>The program could not be started: %1.</source>
@@ -3791,7 +3791,7 @@ le même nom dans la même session donne les mêmes circuits</translation>
     </message>
     <message>
         <source>Another firewall on this computer blocks outgoing traffic, and none of its rules allows any, so Tor can&apos;t get through: %1.</source>
-        <translation>Un autre pare-feu de cet ordinateur refuse les connexions sortantes et aucune de ses règles n’en autorise, Tor ne peut donc pas passer : %1.</translation>
+        <translation>Un autre pare-feu de cet ordinateur bloque le trafic sortant et aucune de ses règles n’en autorise, Tor ne peut donc pas passer : %1.</translation>
     </message>
     <message>
         <source>Users other than root can change %1, so root doesn&apos;t run it to ask for its version.</source>
@@ -3807,7 +3807,7 @@ le même nom dans la même session donne les mêmes circuits</translation>
     </message>
     <message>
         <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
-        <translation>%1 n’est pas un programme du système ; quelqu’un doit donc l’approuver, et il n’y a pas de terminal où le demander. Exécutez « sudo veldmarkctl run --connect » dans un terminal.</translation>
+        <translation>%1 n’est pas un programme du système ; quelqu’un doit donc l’approuver, et il n’y a pas de terminal où le demander. Exécutez « sudo veldmarkctl run --connect » dans un terminal.</translation>
     </message>
     <message>
         <source>%1 needs the name of a file.</source>

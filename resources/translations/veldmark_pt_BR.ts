@@ -373,7 +373,7 @@
     </message>
     <message>
         <source>Setup asks for your admin password once. It installs a root-owned copy of Veldmark&apos;s helper and a rule in /etc/sudoers.d that lets your account run only that helper, so Connect and Disconnect stop asking. Turn it off any time.</source>
-        <translation>A configuração pede sua senha de administrador uma vez. Ela instala uma cópia do auxiliar do Veldmark, pertencente ao root, e uma regra em /etc/sudoers.d que autoriza sua conta a executar somente esse auxiliar; assim, Conectar e Desconectar deixam de pedir a senha. Você pode desativar isso quando quiser.</translation>
+        <translation>A configuração pede sua senha de administrador uma vez. Ela instala uma cópia do programa auxiliar do Veldmark, pertencente ao root, e uma regra em /etc/sudoers.d que autoriza sua conta a executar somente esse programa; assim, Conectar e Desconectar deixam de pedir a senha. Você pode desativar isso quando quiser.</translation>
     </message>
 </context>
 <context>
@@ -873,7 +873,7 @@
     </message>
     <message>
         <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>
-        <translation>O kill switch não está em vigor. Abra o Veldmark, desconecte e conecte de novo.</translation>
+        <translation>O kill switch não bloqueia o tráfego. Abra o Veldmark, desconecte e conecte de novo.</translation>
     </message>
     <message>
         <source>The kill switch is not watched</source>
@@ -881,7 +881,7 @@
     </message>
     <message>
         <source>Veldmark can&apos;t tell whether the kill switch blocks traffic. Open Veldmark, disconnect and connect again.</source>
-        <translation>Não é possível saber se o kill switch está em vigor. Abra o Veldmark, desconecte e conecte de novo.</translation>
+        <translation>Não é possível saber se o kill switch bloqueia o tráfego. Abra o Veldmark, desconecte e conecte de novo.</translation>
     </message>
 </context>
 <context>
@@ -895,7 +895,7 @@
 %1
 
 %2</source>
-        <translation>Não foi possível criar uma janela. Sua rede não foi afetada; para restaurá-la sem o Veldmark, execute:
+        <translation>O Veldmark não conseguiu abrir uma janela. Sua rede não foi afetada; para restaurá-la sem o Veldmark, execute:
 %1
 
 %2</translation>
@@ -914,7 +914,7 @@
     </message>
     <message>
         <source>Veldmark had to close and could not restore the network. Open Veldmark again to restore it.</source>
-        <translation>O Veldmark recebeu ordem de encerrar e não conseguiu restaurar a rede. Abra-o de novo para fazer isso.</translation>
+        <translation>O Veldmark precisou ser encerrado e não conseguiu restaurar a rede. Abra-o de novo para restaurá-la.</translation>
     </message>
 </context>
 <context>
@@ -991,7 +991,7 @@
     </message>
     <message>
         <source>Leads to an onion service. The last relay is the meeting point.</source>
-        <translation>Leva a um serviço onion, que o encontra no último relé</translation>
+        <translation>Leva a um serviço onion. O último relé é o ponto de encontro.</translation>
     </message>
     <message>
         <source>Meeting point</source>
@@ -1050,7 +1050,7 @@
     </message>
     <message>
         <source>OK</source>
-        <translation>Em ordem</translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Restore Network</source>
@@ -1211,11 +1211,11 @@
     </message>
     <message>
         <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
-        <translation>Uma conexão direta, sem passar pelo Tor, não teve resposta, mas não se sabe se o kill switch bloqueia essa rota</translation>
+        <translation>Uma conexão direta, sem passar pelo Tor, não teve resposta, mas não se sabe se o kill switch bloqueia conexões assim</translation>
     </message>
     <message>
         <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
-        <translation>Uma conexão direta, sem passar pelo Tor, não teve resposta, mas o modo proxy não bloqueia essa rota</translation>
+        <translation>Uma conexão direta, sem passar pelo Tor, não teve resposta, mas o modo proxy não bloqueia conexões assim</translation>
     </message>
     <message>
         <source>Connect to Tor</source>
@@ -1439,7 +1439,7 @@
     <name>veldmark::Text</name>
     <message>
         <source>Tor hasn&apos;t confirmed that it uses the network again, so traffic may not get through. Veldmark keeps telling Tor to. If this lasts, disconnect and connect again.</source>
-        <translation>O Tor não confirmou que voltou à rede, então talvez nada passe. O Veldmark continua pedindo que ele volte; se não adiantar, desconecte e conecte de novo.</translation>
+        <translation>O Tor não confirmou que voltou a usar a rede, então o tráfego talvez não passe. O Veldmark continua pedindo isso a ele; se persistir, desconecte e conecte de novo.</translation>
     </message>
     <message>
         <source>Version %1 is offered, which is older than the installed %2. Nothing was changed.</source>
@@ -1447,7 +1447,7 @@
     </message>
     <message>
         <source>The download of version %1 contains another version, so it was discarded.</source>
-        <translation>O que veio como versão %1 é outra versão e foi descartado.</translation>
+        <translation>O download da versão %1 contém outra versão, por isso foi descartado.</translation>
     </message>
     <message>
         <source>The download begins again when Tor is connected…</source>
@@ -1455,11 +1455,11 @@
     </message>
     <message>
         <source>&quot;%1&quot; is not a location of Tor. Give an absolute path, such as /usr/bin/tor.</source>
-        <translation>“%1” não é um local válido para o Tor: informe o caminho completo, como /usr/bin/tor.</translation>
+        <translation>“%1” não é um local do Tor. Informe um caminho absoluto, como /usr/bin/tor.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be changed during a connection. Disconnect to change it.</source>
-        <translation>“%1” vale para toda a conexão. Desconecte para alterar.</translation>
+        <translation>“%1” não pode mudar durante uma conexão. Desconecte para alterar.</translation>
     </message>
     <message>
         <source>Your traffic is not going through Tor</source>
@@ -1519,7 +1519,7 @@
     </message>
     <message>
         <source>Tor stopped running. The kill switch is still blocking traffic, but the last checks saw traffic go around Tor. Reconnect, or Restore Network to go online without Tor.</source>
-        <translation>O Tor parou de funcionar. O kill switch continua bloqueando o tráfego, mas as últimas verificações viram parte dele passar por fora do Tor. Reconecte, ou use “Restaurar rede” para voltar a ficar on-line sem o Tor.</translation>
+        <translation>O Tor parou de funcionar. O kill switch continua bloqueando o tráfego, mas as últimas verificações viram tráfego passar por fora do Tor. Reconecte, ou use “Restaurar rede” para voltar a ficar on-line sem o Tor.</translation>
     </message>
     <message>
         <source>Tor stopped running. Apps using the proxy can&apos;t connect until you reconnect or Restore Network.</source>
@@ -1627,7 +1627,7 @@
     </message>
     <message>
         <source>Tor stopped running, and the kill switch doesn&apos;t block traffic: another program removed its rules. Traffic may leave this computer directly. Reconnect, or Restore Network.</source>
-        <translation>O Tor parou de funcionar, e o kill switch não está em vigor: outro programa removeu as regras dele. Pode haver tráfego saindo diretamente deste computador. Reconecte ou use “Restaurar rede”.</translation>
+        <translation>O Tor parou de funcionar, e o kill switch não bloqueia o tráfego: outro programa removeu as regras dele. Pode haver tráfego saindo diretamente deste computador. Reconecte ou use “Restaurar rede”.</translation>
     </message>
     <message>
         <source>Tor stopped running, and it isn&apos;t known whether the kill switch is still blocking traffic. Reconnect, or Restore Network to go online without Tor.</source>
@@ -1635,7 +1635,7 @@
     </message>
     <message>
         <source>The watcher of Veldmark&apos;s firewall rules has stopped reporting, so it isn&apos;t known whether the kill switch blocks traffic. Disconnect and connect again.</source>
-        <translation>O monitor das regras de firewall do Veldmark parou de informar, então não se sabe se o kill switch está em vigor. Desconecte e conecte de novo.</translation>
+        <translation>O monitor das regras de firewall do Veldmark parou de informar, então não se sabe se o kill switch bloqueia o tráfego. Desconecte e conecte de novo.</translation>
     </message>
     <message>
         <source>Not Protected</source>
@@ -1687,7 +1687,7 @@
     </message>
     <message>
         <source>Veldmark can&apos;t tell whether the kill switch blocks traffic. Disconnect and connect again.</source>
-        <translation>Não é possível saber se o kill switch está em vigor. Desconecte e conecte de novo.</translation>
+        <translation>Não é possível saber se o kill switch bloqueia o tráfego. Desconecte e conecte de novo.</translation>
     </message>
     <message>
         <source>All traffic is locked to Tor, but the exit could not be confirmed</source>
@@ -1707,7 +1707,7 @@
     </message>
     <message>
         <source>This computer has no network. Traffic around Tor stays blocked.</source>
-        <translation>Este computador está sem rede. Enquanto isso, nada sai por fora do Tor.</translation>
+        <translation>Este computador está sem rede. O tráfego por fora do Tor continua bloqueado.</translation>
     </message>
     <message>
         <source>This computer has no network. Veldmark goes on when it is back.</source>
@@ -1715,7 +1715,7 @@
     </message>
     <message>
         <source>Tor has no working circuit and keeps trying. Traffic around Tor stays blocked.</source>
-        <translation>O Tor não tem nenhum circuito funcionando e continua tentando. Enquanto isso, nada sai por fora dele.</translation>
+        <translation>O Tor não tem nenhum circuito funcionando e continua tentando. O tráfego por fora dele continua bloqueado.</translation>
     </message>
     <message>
         <source>Tor has no working circuit and keeps trying.</source>
@@ -1723,7 +1723,7 @@
     </message>
     <message>
         <source>Tor gets no answer from the network and keeps trying. Traffic around Tor stays blocked.</source>
-        <translation>O Tor não recebe resposta da rede e continua tentando. Enquanto isso, nada sai por fora dele.</translation>
+        <translation>O Tor não recebe resposta da rede e continua tentando. O tráfego por fora dele continua bloqueado.</translation>
     </message>
     <message>
         <source>Tor gets no answer from the network and keeps trying.</source>
@@ -1783,7 +1783,7 @@
     </message>
     <message>
         <source>Another firewall on this computer blocks outgoing traffic, so Tor can&apos;t connect: %1.</source>
-        <translation>Outro firewall neste computador bloqueia as conexões para fora, então o Tor não consegue conectar: %1.</translation>
+        <translation>Outro firewall neste computador bloqueia o tráfego de saída, então o Tor não consegue conectar: %1.</translation>
     </message>
     <message>
         <source>Setup ran but the helper wasn&apos;t installed. Try again.</source>
@@ -1839,11 +1839,11 @@
     </message>
     <message>
         <source>Another Veldmark of yours has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
-        <translation>Outro Veldmark seu iniciou uma sessão nesse meio-tempo, então nada foi encerrado. Desconecte de novo para encerrá-la.</translation>
+        <translation>Outro Veldmark seu iniciou uma sessão nesse meio-tempo, então nenhuma sessão foi encerrada. Desconecte de novo para encerrar essa sessão.</translation>
     </message>
     <message>
         <source>Another user&apos;s Veldmark has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
-        <translation>O Veldmark de outro usuário iniciou uma sessão nesse meio-tempo, então nada foi encerrado. Desconecte de novo para encerrá-la.</translation>
+        <translation>O Veldmark de outro usuário iniciou uma sessão nesse meio-tempo, então nenhuma sessão foi encerrada. Desconecte de novo para encerrar essa sessão.</translation>
     </message>
     <message>
         <source>Your network is set up for Tor by another Veldmark of yours, process %1</source>
@@ -1919,7 +1919,7 @@
     </message>
     <message>
         <source>The connection was lost before the download ended.</source>
-        <translation>A conexão caiu antes do fim.</translation>
+        <translation>A conexão caiu antes do fim do download.</translation>
     </message>
     <message>
         <source>Not connected to Tor&apos;s control port.</source>
@@ -1955,7 +1955,7 @@
     </message>
     <message>
         <source>The password could not be checked: polkit accepts no password from this terminal. Run the command with sudo.</source>
-        <translation>Não foi possível verificar a senha: o polkit não aceita senhas deste terminal. Execute com sudo.</translation>
+        <translation>Não foi possível verificar a senha: o polkit não aceita senhas deste terminal. Execute o comando com sudo.</translation>
     </message>
     <message>
         <source>Couldn&apos;t fix DNS: %1</source>
@@ -2047,7 +2047,7 @@
     </message>
     <message>
         <source>Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and still point around Tor: %1. Strict mode&apos;s firewall blocks them.</source>
-        <translation>Algumas configurações de DNS vêm de fora do Veldmark (de uma VPN ou de /etc/resolver) e ainda levam para fora do Tor: %1. O firewall do modo estrito bloqueia esse desvio.</translation>
+        <translation>Algumas configurações de DNS vêm de fora do Veldmark (de uma VPN ou de /etc/resolver) e ainda levam para fora do Tor: %1. O firewall do modo estrito as bloqueia.</translation>
     </message>
     <message>
         <source>Tor isn&apos;t installed. Install it with your package manager (%1) or set its location in Settings.</source>
@@ -2059,7 +2059,7 @@
     </message>
     <message>
         <source>A session is open, and its kill switch doesn&apos;t block traffic: its watcher couldn&apos;t put the rules back. Traffic may leave this computer directly. Restore the network, and connect again.</source>
-        <translation>Há uma sessão aberta, e o kill switch dela não está em vigor: o monitor não conseguiu restaurar as regras. Pode haver tráfego saindo diretamente deste computador. Restaure a rede e conecte de novo.</translation>
+        <translation>Há uma sessão aberta, e o kill switch dela não bloqueia o tráfego: o monitor não conseguiu restaurar as regras. Pode haver tráfego saindo diretamente deste computador. Restaure a rede e conecte de novo.</translation>
     </message>
     <message>
         <source>The clock is behind: it shows %1, but the file %2 was written on %3. Tor needs a clock that is right to within minutes.</source>
@@ -2071,7 +2071,7 @@
     </message>
     <message>
         <source>It isn&apos;t known whether the clock is right: no time service seems to set it. It shows %1. Tor needs it right to within minutes.</source>
-        <translation>Não se sabe se o relógio está certo: não se vê nada que o acerte pela rede. Ele mostra %1. O Tor precisa dele certo, com poucos minutos de erro no máximo.</translation>
+        <translation>Não se sabe se o relógio está certo: nenhum serviço de hora parece acertá-lo. Ele mostra %1. O Tor precisa dele certo, com poucos minutos de erro no máximo.</translation>
     </message>
     <message>
         <source>nftables isn&apos;t installed. Veldmark&apos;s firewall needs it.</source>
@@ -2095,7 +2095,7 @@
     </message>
     <message>
         <source>nftables is installed, and the kernel has it.</source>
-        <translation>O nftables está instalado, e o kernel o tem.</translation>
+        <translation>O nftables está instalado, e o kernel tem suporte a ele.</translation>
     </message>
     <message>
         <source>This system has no control groups of version 2, so no application can be opened without Tor, and the kill switch knows Tor by its account alone. Everything else works.</source>
@@ -2111,11 +2111,11 @@
     </message>
     <message>
         <source>No other firewall that Veldmark knows runs. Only root can read the rules themselves.</source>
-        <translation>Nenhum outro firewall de nome conhecido está em execução. As regras em si, só o root pode ver.</translation>
+        <translation>Nenhum outro firewall que o Veldmark conheça está em execução. As regras em si, só o root pode ler.</translation>
     </message>
     <message>
         <source>Another firewall on this computer blocks outgoing traffic that its rules don&apos;t allow, so Tor may not get through: %1.</source>
-        <translation>Outro firewall neste computador bloqueia as conexões para fora que nenhuma regra dele permita, então o Tor talvez não consiga passar: %1.</translation>
+        <translation>Outro firewall neste computador bloqueia o tráfego de saída que as regras dele não permitem, então o Tor talvez não consiga passar: %1.</translation>
     </message>
     <message>
         <source>Other programs set firewall rules here: %1. Veldmark leaves their rules alone. Rules that drop packets can block Tor.</source>
@@ -2135,11 +2135,11 @@
     </message>
     <message>
         <source>No known polkit agent, the program that asks for the password, runs in your session. Use sudo, or start an agent such as lxpolkit.</source>
-        <translation>Nenhum programa conhecido que peça as senhas do polkit (um agente) está em execução na sua sessão. Sem ele, use o sudo ou inicie um agente, como o lxpolkit.</translation>
+        <translation>Nenhum agente polkit conhecido (o programa que pede a senha) está em execução na sua sessão. Use o sudo ou inicie um agente, como o lxpolkit.</translation>
     </message>
     <message>
         <source>polkit is installed, and an agent that asks for the password runs in your session.</source>
-        <translation>O polkit está presente, e um programa que pede as senhas dele está em execução na sua sessão.</translation>
+        <translation>O polkit está instalado, e um agente que pede a senha está em execução na sua sessão.</translation>
     </message>
     <message>
         <source>Veldmark runs as root here and asks for no password.</source>
@@ -2183,7 +2183,7 @@
     </message>
     <message>
         <source>The location of Tor in the settings, %1, is not an executable program. Veldmark searches the usual places instead.</source>
-        <translation>O local do Tor nas configurações, %1, não é um programa executável. Em vez disso, o Tor é procurado nos locais habituais.</translation>
+        <translation>O local do Tor nas configurações, %1, não é um programa executável. Em vez disso, o Veldmark procura nos locais habituais.</translation>
     </message>
     <message>
         <source>Tor isn&apos;t installed.</source>
@@ -2199,31 +2199,31 @@
     </message>
     <message>
         <source>The program %1 is missing. Veldmark&apos;s helper needs it.</source>
-        <translation>Falta o programa %1. O auxiliar do Veldmark precisa dele.</translation>
+        <translation>Falta o programa %1. O programa auxiliar do Veldmark precisa dele.</translation>
     </message>
     <message>
         <source>Every program that Veldmark&apos;s helper calls is installed.</source>
-        <translation>Todos os programas que o auxiliar do Veldmark chama estão instalados.</translation>
+        <translation>Todos os programas que o programa auxiliar do Veldmark chama estão instalados.</translation>
     </message>
     <message>
         <source>The helper is missing. Reinstall Veldmark.</source>
-        <translation>Falta o script auxiliar do Veldmark. Instale o Veldmark de novo.</translation>
+        <translation>Falta o programa auxiliar. Instale o Veldmark de novo.</translation>
     </message>
     <message>
         <source>Accounts other than root can change Veldmark&apos;s helper, %1, and with it what the administrator&apos;s password runs.</source>
-        <translation>O auxiliar do Veldmark, %1, está em um lugar onde outros além do root podem gravar. Eles podem alterá-lo e, com isso, alterar o que a senha de administrador executa.</translation>
+        <translation>Outras contas além do root podem alterar o programa auxiliar do Veldmark, %1, e, com isso, o que a senha de administrador executa.</translation>
     </message>
     <message>
         <source>Veldmark&apos;s helper, %1, is not installed: the account %2 can change it, and with it what the administrator&apos;s password runs.</source>
-        <translation>O auxiliar do Veldmark, %1, não é um auxiliar instalado: a conta %2 pode alterá-lo e, com isso, alterar o que a senha de administrador executa.</translation>
+        <translation>O programa auxiliar do Veldmark, %1, não está instalado: a conta %2 pode alterá-lo e, com isso, alterar o que a senha de administrador executa.</translation>
     </message>
     <message>
         <source>Veldmark&apos;s helper is installed, and only root can change it: %1.</source>
-        <translation>O auxiliar do Veldmark está instalado, e só o root pode alterá-lo: %1.</translation>
+        <translation>O programa auxiliar do Veldmark está instalado, e só o root pode alterá-lo: %1.</translation>
     </message>
     <message>
         <source>The helper of passwordless mode belongs to another version. Set up passwordless mode again in Settings, General.</source>
-        <translation>O auxiliar do modo sem senha é de outra versão. Configure de novo o modo sem senha em “Configurações → Geral”.</translation>
+        <translation>O programa auxiliar do modo sem senha é de outra versão. Configure de novo o modo sem senha em “Configurações → Geral”.</translation>
     </message>
     <message>
         <source>Bridges are off. Bridges need bridge programs where Tor is blocked, and none was found.</source>
@@ -2243,19 +2243,19 @@
     </message>
     <message>
         <source>%1 manages DNS. Veldmark changes that while connected and restores it afterwards.</source>
-        <translation>Os nomes são consultados conforme %1. O Veldmark altera isso e depois desfaz a alteração.</translation>
+        <translation>%1 gerencia o DNS. O Veldmark altera isso enquanto está conectado e depois restaura.</translation>
     </message>
     <message>
         <source>Veldmark wrote %1. It points DNS at Tor.</source>
-        <translation>%1 é do Veldmark e indica o Tor como servidor de nomes.</translation>
+        <translation>O Veldmark gravou %1. Esse arquivo aponta o DNS para o Tor.</translation>
     </message>
     <message>
         <source>The file %1 is missing, so DNS may not work at all.</source>
-        <translation>O arquivo %1 não existe, então talvez nenhum nome seja resolvido.</translation>
+        <translation>Falta o arquivo %1, então o DNS talvez não funcione.</translation>
     </message>
     <message>
         <source>A resolver on this computer answers DNS. Veldmark changes that while connected and restores it afterwards.</source>
-        <translation>Os nomes são consultados por um resolvedor neste computador. O Veldmark altera isso e depois desfaz a alteração.</translation>
+        <translation>Um resolvedor neste computador responde ao DNS. O Veldmark altera isso enquanto está conectado e depois restaura.</translation>
     </message>
     <message>
         <source>No earlier session is left open.</source>
@@ -2323,11 +2323,11 @@
     </message>
     <message>
         <source>The file is empty or not an archive.</source>
-        <translation>O pacote está vazio ou não é um pacote.</translation>
+        <translation>O arquivo está vazio ou não é um pacote.</translation>
     </message>
     <message>
         <source>The archive&apos;s list of files is ambiguous.</source>
-        <translation>A lista de arquivos do pacote não é clara.</translation>
+        <translation>A lista de arquivos do pacote é ambígua.</translation>
     </message>
     <message>
         <source>The archive contains too many files.</source>
@@ -2367,7 +2367,7 @@
     </message>
     <message>
         <source>The server sent more than %1 can be.</source>
-        <translation>O servidor enviou mais dados do que o possível: %1.</translation>
+        <translation>O servidor enviou mais dados do que seria possível: %1.</translation>
     </message>
     <message>
         <source>the version index</source>
@@ -2419,7 +2419,7 @@
     </message>
     <message>
         <source>A command is missing. &quot;veldmarkctl help&quot; lists the commands.</source>
-        <translation>O que devo fazer? “veldmarkctl help” lista os comandos.</translation>
+        <translation>Falta um comando. “veldmarkctl help” lista os comandos.</translation>
     </message>
     <message>
         <source>Unknown command %1. &quot;veldmarkctl help&quot; lists the commands.</source>
@@ -2461,7 +2461,7 @@
     </message>
     <message>
         <source>doesn&apos;t say which transports it serves</source>
-        <translation>não informa o que oferece</translation>
+        <translation>não informa quais transportes oferece</translation>
     </message>
     <message>
         <source>serves %1</source>
@@ -2557,19 +2557,19 @@
     </message>
     <message>
         <source>blocks traffic, since %1</source>
-        <translation>em vigor desde %1</translation>
+        <translation>bloqueia o tráfego, desde %1</translation>
     </message>
     <message>
         <source>blocks traffic; put back at %1 after another program had removed it</source>
-        <translation>em vigor; restaurado em %1 depois que outro programa o removeu</translation>
+        <translation>bloqueia o tráfego; restaurado em %1 depois que outro programa o removeu</translation>
     </message>
     <message>
         <source>NOT BLOCKING since %1: traffic may leave this computer directly</source>
-        <translation>SEM EFEITO desde %1: pode haver tráfego saindo diretamente deste computador</translation>
+        <translation>NÃO BLOQUEIA desde %1: pode haver tráfego saindo diretamente deste computador</translation>
     </message>
     <message>
         <source>isn&apos;t known to block traffic, since %1</source>
-        <translation>não se sabe se está em vigor, desde %1</translation>
+        <translation>não se sabe se bloqueia o tráfego, desde %1</translation>
     </message>
     <message>
         <source>not checked yet</source>
@@ -2769,7 +2769,7 @@
     </message>
     <message>
         <source>strict mode with the kill switch, else proxy mode</source>
-        <translation>o kill switch; senão, o modo proxy</translation>
+        <translation>modo estrito com o kill switch; senão, o modo proxy</translation>
     </message>
     <message>
         <source>strict mode lets the local network through</source>
@@ -2781,7 +2781,7 @@
     </message>
     <message>
         <source>the path of the tor to use, or nothing to search for tor</source>
-        <translation>o tor a usar, ou nada para procurá-lo</translation>
+        <translation>o caminho do tor a usar, ou nada para procurar o tor</translation>
     </message>
     <message>
         <source>which bridges</source>
@@ -2897,7 +2897,7 @@
     </message>
     <message>
         <source>print the connection&apos;s state; --watch goes on until Ctrl-C</source>
-        <translation>mostra a situação atual; --watch continua até Ctrl-C</translation>
+        <translation>mostra o estado da conexão; --watch continua até Ctrl-C</translation>
     </message>
     <message>
         <source>connect the running instance to Tor</source>
@@ -2909,7 +2909,7 @@
     </message>
     <message>
         <source>restore the network and stop Tor, also after a crash</source>
-        <translation>o mesmo, inclusive para o que restou de uma falha</translation>
+        <translation>restaura a rede e encerra o Tor, inclusive depois de uma falha</translation>
     </message>
     <message>
         <source>check the exit address, the direct path and DNS now</source>
@@ -2925,7 +2925,7 @@
     </message>
     <message>
         <source>close a circuit; its sites get a fresh path on their next request</source>
-        <translation>fecha um deles; os sites dele ganham um novo caminho na próxima solicitação</translation>
+        <translation>fecha um circuito; os sites dele ganham um novo caminho na próxima solicitação</translation>
     </message>
     <message>
         <source>close-circuit needs a circuit&apos;s number; &quot;veldmarkctl circuits&quot; shows them.</source>
@@ -2946,12 +2946,12 @@
     <message>
         <source>the transport programs and built-in bridges that were found, and
 which of your own bridge lines are not valid</source>
-        <translation>mostra os programas de transporte e as pontes integradas encontrados, e
-quais das suas próprias linhas de ponte não são válidas</translation>
+        <translation>mostra os programas de ponte e as pontes integradas encontrados, e quais
+das suas próprias linhas de ponte não são válidas</translation>
     </message>
     <message>
         <source>fetch the Tor Project&apos;s transport programs and built-in bridges</source>
-        <translation>obtém os programas de transporte e as pontes integradas do Projeto Tor</translation>
+        <translation>obtém os programas de ponte e as pontes integradas do Projeto Tor</translation>
     </message>
     <message>
         <source>the installed applications; * marks those in the setting &quot;bypassApps&quot;</source>
@@ -3041,7 +3041,7 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
     </message>
     <message>
         <source>Veldmark replaces the running strict session. The new session may protect you less.</source>
-        <translation>A sessão estrita em andamento é substituída, e a nova talvez proteja você menos.</translation>
+        <translation>O Veldmark substitui a sessão estrita em andamento. A nova talvez proteja você menos.</translation>
     </message>
     <message>
         <source>Veldmark wants to run %1 as a part of Tor. No package of the system installed it. Its SHA-256 is %2.</source>
@@ -3121,7 +3121,7 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
     </message>
     <message>
         <source>The helper opens applications only for the user who asks.</source>
-        <translation>Só é possível abrir aplicativos para o usuário que faz o pedido.</translation>
+        <translation>O programa auxiliar só abre aplicativos para o usuário que faz o pedido.</translation>
     </message>
     <message>
         <source>Applications cannot be opened without Tor on this system.</source>
@@ -3129,11 +3129,11 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
     </message>
     <message>
         <source>More than %1 bridges were given.</source>
-        <translation>Foram informadas pontes demais (limite: %1).</translation>
+        <translation>Foram informadas mais de %1 pontes.</translation>
     </message>
     <message>
         <source>Passwordless mode can be set up only for the user who asks.</source>
-        <translation>Só o usuário que faz o pedido pode receber acesso.</translation>
+        <translation>O modo sem senha só pode ser configurado para o usuário que faz o pedido.</translation>
     </message>
     <message>
         <source>Another program is changing the firewall. Try again in a moment.</source>
@@ -3217,7 +3217,7 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
     </message>
     <message>
         <source>The firewall rules cannot be read, so nothing was done.</source>
-        <translation>Não é possível examinar o firewall, então nada foi feito.</translation>
+        <translation>Não é possível ler as regras do firewall, então nada foi feito.</translation>
     </message>
     <message>
         <source>The firewall cannot be switched on (%1).</source>
@@ -3297,11 +3297,11 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
     </message>
     <message>
         <source>The folders below %1 cannot be read, so nothing was done.</source>
-        <translation>Não é possível examinar as pastas dentro de %1, então nada foi feito.</translation>
+        <translation>Não é possível ler as pastas dentro de %1, então nada foi feito.</translation>
     </message>
     <message>
         <source>The folders below %1 cannot be read.</source>
-        <translation>Não é possível examinar as pastas dentro de %1.</translation>
+        <translation>Não é possível ler as pastas dentro de %1.</translation>
     </message>
     <message>
         <source>The former network settings could not all be restored.</source>
@@ -3453,7 +3453,7 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
     </message>
     <message>
         <source>The port %1, which Tor needs, is held by %2. End that program, then connect again.</source>
-        <translation>A porta %1, de que o Tor precisa, está ocupada por %2. Encerre isso e conecte de novo.</translation>
+        <translation>A porta %1, de que o Tor precisa, está ocupada por %2. Encerre esse programa e conecte de novo.</translation>
     </message>
     <message>
         <source>a program (process %1)</source>
@@ -3481,7 +3481,7 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
     </message>
     <message>
         <source>The SHA-256 of the program %1 is not the one to approve.</source>
-        <translation>O programa %1 não é o que deveria ser aprovado.</translation>
+        <translation>O SHA-256 do programa %1 não é o que deve ser aprovado.</translation>
     </message>
     <message>
         <source>The program given with %1 is not an executable file.</source>
@@ -3569,11 +3569,11 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
     </message>
     <message>
         <source>The watcher of the firewall rules could not be started.</source>
-        <translation>Não foi possível iniciar o monitor do firewall.</translation>
+        <translation>Não foi possível iniciar o monitor das regras do firewall.</translation>
     </message>
     <message>
         <source>The watcher of the firewall rules could not be stopped.</source>
-        <translation>Não foi possível parar o monitor do firewall.</translation>
+        <translation>Não foi possível parar o monitor das regras do firewall.</translation>
     </message>
     <message>
         <source>There are too many options on standard input.</source>
@@ -3701,7 +3701,7 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
     </message>
     <message>
         <source>This system can&apos;t tell applications apart.</source>
-        <translation>Os aplicativos não são diferenciados neste sistema.</translation>
+        <translation>Este sistema não consegue distinguir os aplicativos.</translation>
     </message>
     <message>
         <source>Applications are not separated now: they share circuits.</source>
@@ -3721,7 +3721,7 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
     </message>
     <message>
         <source>The application did not get a new identity.</source>
-        <translation>O aplicativo não recebeu outra identidade.</translation>
+        <translation>O aplicativo não recebeu uma nova identidade.</translation>
     </message>
     <message>
         <source>The program did not get an identity of its own, so it was not started.</source>
@@ -3733,7 +3733,7 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
     </message>
     <message>
         <source>The program systemd-run is missing. Veldmark needs it to make a group for a program.</source>
-        <translation>Falta o programa systemd-run, que cria grupos para programas.</translation>
+        <translation>Falta o programa systemd-run. O Veldmark precisa dele para criar um grupo para um programa.</translation>
     </message>
     <message>
         <source>The program could not be started: %1.</source>
@@ -3791,7 +3791,7 @@ o mesmo nome na mesma sessão usa os mesmos circuitos</translation>
     </message>
     <message>
         <source>Another firewall on this computer blocks outgoing traffic, and none of its rules allows any, so Tor can&apos;t get through: %1.</source>
-        <translation>Outro firewall neste computador bloqueia as conexões para fora e nenhuma regra dele permite nada, então o Tor não consegue passar: %1.</translation>
+        <translation>Outro firewall neste computador bloqueia o tráfego de saída e nenhuma regra dele permite algum, então o Tor não consegue passar: %1.</translation>
     </message>
     <message>
         <source>Users other than root can change %1, so root doesn&apos;t run it to ask for its version.</source>
@@ -3807,7 +3807,7 @@ o mesmo nome na mesma sessão usa os mesmos circuitos</translation>
     </message>
     <message>
         <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
-        <translation>%1 não é um programa do sistema, por isso alguém precisa aprová-lo, e não há terminal em que perguntar. Execute &quot;sudo veldmarkctl run --connect&quot; em um terminal.</translation>
+        <translation>%1 não é um programa do sistema, por isso alguém precisa aprová-lo, e não há terminal em que perguntar. Execute “sudo veldmarkctl run --connect” em um terminal.</translation>
     </message>
     <message>
         <source>%1 needs the name of a file.</source>

@@ -78,7 +78,7 @@
     </message>
     <message>
         <source>Programs that disguise your Tor connection</source>
-        <translation>Tor bağlantınızı gizleyen programlar</translation>
+        <translation>Tor bağlantınızı kamufle eden programlar</translation>
     </message>
     <message>
         <source>Built-in bridges</source>
@@ -614,7 +614,7 @@
     </message>
     <message>
         <source>If you quit now, Tor keeps running and the kill switch stays on. Open Veldmark again later to restore your normal connection.</source>
-        <translation>Şimdi çıkarsanız Tor çalışmayı sürdürür ve acil kesme anahtarı yürürlükte kalır. Normal bağlantınızı geri yüklemek için Veldmark&apos;ı daha sonra yeniden açın.</translation>
+        <translation>Şimdi çıkarsanız Tor çalışmayı sürdürür ve acil kesme anahtarı açık kalır. Normal bağlantınızı geri yüklemek için Veldmark&apos;ı daha sonra yeniden açın.</translation>
     </message>
     <message>
         <source>If you quit now, Tor keeps running and your system proxy stays on. Open Veldmark again later to restore your normal connection.</source>
@@ -873,7 +873,7 @@
     </message>
     <message>
         <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>
-        <translation>Acil kesme anahtarı etkisiz. Veldmark&apos;ı açın, bağlantıyı kesip yeniden bağlanın.</translation>
+        <translation>Acil kesme anahtarı trafiği engellemiyor. Veldmark&apos;ı açın, bağlantıyı kesip yeniden bağlanın.</translation>
     </message>
     <message>
         <source>The kill switch is not watched</source>
@@ -881,7 +881,7 @@
     </message>
     <message>
         <source>Veldmark can&apos;t tell whether the kill switch blocks traffic. Open Veldmark, disconnect and connect again.</source>
-        <translation>Acil kesme anahtarının yürürlükte olup olmadığı bilinemiyor. Veldmark&apos;ı açın, bağlantıyı kesip yeniden bağlanın.</translation>
+        <translation>Acil kesme anahtarının trafiği engelleyip engellemediği bilinemiyor. Veldmark&apos;ı açın, bağlantıyı kesip yeniden bağlanın.</translation>
     </message>
 </context>
 <context>
@@ -895,7 +895,7 @@
 %1
 
 %2</source>
-        <translation>Bir pencere oluşturulamadı. Ağınız bundan etkilenmez; Veldmark olmadan geri yüklemek için şunu çalıştırın:
+        <translation>Veldmark bir pencere açamadı. Ağınız bundan etkilenmedi; Veldmark olmadan geri yüklemek için şunu çalıştırın:
 %1
 
 %2</translation>
@@ -914,7 +914,7 @@
     </message>
     <message>
         <source>Veldmark had to close and could not restore the network. Open Veldmark again to restore it.</source>
-        <translation>Veldmark&apos;ın kapanması istendi, ama ağ geri yüklenemedi. Bunu yapmak için Veldmark&apos;ı yeniden açın.</translation>
+        <translation>Veldmark kapanmak zorunda kaldı ve ağı geri yükleyemedi. Geri yüklemek için Veldmark&apos;ı yeniden açın.</translation>
     </message>
 </context>
 <context>
@@ -991,7 +991,7 @@
     </message>
     <message>
         <source>Leads to an onion service. The last relay is the meeting point.</source>
-        <translation>Bir onion hizmetine gider; hizmet, devreyle son aktarıcısında buluşur</translation>
+        <translation>Bir onion hizmetine gider. Buluşma noktası son aktarıcıdır.</translation>
     </message>
     <message>
         <source>Meeting point</source>
@@ -1211,11 +1211,11 @@
     </message>
     <message>
         <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
-        <translation>Tor&apos;u atlayan doğrudan bir bağlantı yanıt almadı, ama acil kesme anahtarının bu yolu kapatıp kapatmadığı bilinmiyor</translation>
+        <translation>Tor&apos;u atlayan doğrudan bir bağlantı yanıt almadı, ama acil kesme anahtarının böyle bağlantıları engelleyip engellemediği bilinmiyor</translation>
     </message>
     <message>
         <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
-        <translation>Tor&apos;u atlayan doğrudan bir bağlantı yanıt almadı, ama vekil sunucu kipi bu yolu kapatmaz</translation>
+        <translation>Tor&apos;u atlayan doğrudan bir bağlantı yanıt almadı, ama vekil sunucu kipi böyle bağlantıları engellemez</translation>
     </message>
     <message>
         <source>Connect to Tor</source>
@@ -1439,7 +1439,7 @@
     <name>veldmark::Text</name>
     <message>
         <source>Tor hasn&apos;t confirmed that it uses the network again, so traffic may not get through. Veldmark keeps telling Tor to. If this lasts, disconnect and connect again.</source>
-        <translation>Tor yeniden ağda olduğunu doğrulamadı, bu yüzden trafik hiç geçmiyor olabilir. Veldmark, Tor&apos;a ağa dönmesini söylemeyi sürdürüyor; olmazsa bağlantıyı kesip yeniden bağlanın.</translation>
+        <translation>Tor ağı yeniden kullandığını doğrulamadı, bu yüzden trafik geçmiyor olabilir. Veldmark bunu Tor&apos;a söylemeyi sürdürüyor; durum sürerse bağlantıyı kesip yeniden bağlanın.</translation>
     </message>
     <message>
         <source>Version %1 is offered, which is older than the installed %2. Nothing was changed.</source>
@@ -1447,7 +1447,7 @@
     </message>
     <message>
         <source>The download of version %1 contains another version, so it was discarded.</source>
-        <translation>%1 sürümü olarak gelen, başka bir sürüm çıktı; bu yüzden atıldı.</translation>
+        <translation>İndirilen %1 sürümünün içinden başka bir sürüm çıktı, bu yüzden indirme atıldı.</translation>
     </message>
     <message>
         <source>The download begins again when Tor is connected…</source>
@@ -1455,11 +1455,11 @@
     </message>
     <message>
         <source>&quot;%1&quot; is not a location of Tor. Give an absolute path, such as /usr/bin/tor.</source>
-        <translation>“%1” Tor için bir konum değil: tam yolu verin, örneğin /usr/bin/tor.</translation>
+        <translation>“%1” bir Tor konumu değil. Mutlak bir yol verin, örneğin /usr/bin/tor.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be changed during a connection. Disconnect to change it.</source>
-        <translation>“%1” tüm bağlantı için geçerlidir. Değiştirmek için bağlantıyı kesin.</translation>
+        <translation>“%1” bağlantı sırasında değiştirilemez. Değiştirmek için bağlantıyı kesin.</translation>
     </message>
     <message>
         <source>Your traffic is not going through Tor</source>
@@ -1519,7 +1519,7 @@
     </message>
     <message>
         <source>Tor stopped running. The kill switch is still blocking traffic, but the last checks saw traffic go around Tor. Reconnect, or Restore Network to go online without Tor.</source>
-        <translation>Tor artık çalışmıyor. Acil kesme anahtarı trafiği hâlâ engelliyor, ama son denetimlerde trafiğin bir kısmının Tor&apos;u atladığı görüldü. Yeniden bağlanın ya da Tor olmadan çevrimiçi olmak için ağı geri yükleyin.</translation>
+        <translation>Tor artık çalışmıyor. Acil kesme anahtarı trafiği hâlâ engelliyor, ama son denetimlerde Tor&apos;u atlayan trafik görüldü. Yeniden bağlanın ya da Tor olmadan çevrimiçi olmak için ağı geri yükleyin.</translation>
     </message>
     <message>
         <source>Tor stopped running. Apps using the proxy can&apos;t connect until you reconnect or Restore Network.</source>
@@ -1627,7 +1627,7 @@
     </message>
     <message>
         <source>Tor stopped running, and the kill switch doesn&apos;t block traffic: another program removed its rules. Traffic may leave this computer directly. Reconnect, or Restore Network.</source>
-        <translation>Tor artık çalışmıyor ve acil kesme anahtarı etkisiz: başka bir program kurallarını kaldırdı. Trafik bu bilgisayardan doğrudan çıkabilir. Yeniden bağlanın ya da ağı geri yükleyin.</translation>
+        <translation>Tor artık çalışmıyor ve acil kesme anahtarı trafiği engellemiyor: başka bir program kurallarını kaldırdı. Trafik bu bilgisayardan doğrudan çıkabilir. Yeniden bağlanın ya da ağı geri yükleyin.</translation>
     </message>
     <message>
         <source>Tor stopped running, and it isn&apos;t known whether the kill switch is still blocking traffic. Reconnect, or Restore Network to go online without Tor.</source>
@@ -1635,7 +1635,7 @@
     </message>
     <message>
         <source>The watcher of Veldmark&apos;s firewall rules has stopped reporting, so it isn&apos;t known whether the kill switch blocks traffic. Disconnect and connect again.</source>
-        <translation>Veldmark&apos;ın güvenlik duvarı kurallarının izleyicisi artık bilgi vermiyor, bu yüzden acil kesme anahtarının yürürlükte olup olmadığı bilinmiyor. Bağlantıyı kesip yeniden bağlanın.</translation>
+        <translation>Veldmark&apos;ın güvenlik duvarı kurallarının izleyicisi artık bilgi vermiyor, bu yüzden acil kesme anahtarının trafiği engelleyip engellemediği bilinmiyor. Bağlantıyı kesip yeniden bağlanın.</translation>
     </message>
     <message>
         <source>Not Protected</source>
@@ -1687,7 +1687,7 @@
     </message>
     <message>
         <source>Veldmark can&apos;t tell whether the kill switch blocks traffic. Disconnect and connect again.</source>
-        <translation>Acil kesme anahtarının yürürlükte olup olmadığı bilinemiyor. Bağlantıyı kesip yeniden bağlanın.</translation>
+        <translation>Acil kesme anahtarının trafiği engelleyip engellemediği bilinemiyor. Bağlantıyı kesip yeniden bağlanın.</translation>
     </message>
     <message>
         <source>All traffic is locked to Tor, but the exit could not be confirmed</source>
@@ -1707,7 +1707,7 @@
     </message>
     <message>
         <source>This computer has no network. Traffic around Tor stays blocked.</source>
-        <translation>Bu bilgisayarın ağ bağlantısı yok. Bu sırada hiçbir şey Tor&apos;u atlayarak dışarı çıkmaz.</translation>
+        <translation>Bu bilgisayarın ağ bağlantısı yok. Tor&apos;u atlayan trafik hâlâ engelleniyor.</translation>
     </message>
     <message>
         <source>This computer has no network. Veldmark goes on when it is back.</source>
@@ -1715,7 +1715,7 @@
     </message>
     <message>
         <source>Tor has no working circuit and keeps trying. Traffic around Tor stays blocked.</source>
-        <translation>Tor&apos;un çalışan bir devresi yok, denemeyi sürdürüyor. Bu sırada hiçbir şey Tor&apos;u atlayarak dışarı çıkmaz.</translation>
+        <translation>Tor&apos;un çalışan bir devresi yok, denemeyi sürdürüyor. Tor&apos;u atlayan trafik hâlâ engelleniyor.</translation>
     </message>
     <message>
         <source>Tor has no working circuit and keeps trying.</source>
@@ -1723,7 +1723,7 @@
     </message>
     <message>
         <source>Tor gets no answer from the network and keeps trying. Traffic around Tor stays blocked.</source>
-        <translation>Tor ağdan yanıt alamıyor, denemeyi sürdürüyor. Bu sırada hiçbir şey Tor&apos;u atlayarak dışarı çıkmaz.</translation>
+        <translation>Tor ağdan yanıt alamıyor, denemeyi sürdürüyor. Tor&apos;u atlayan trafik hâlâ engelleniyor.</translation>
     </message>
     <message>
         <source>Tor gets no answer from the network and keeps trying.</source>
@@ -1783,7 +1783,7 @@
     </message>
     <message>
         <source>Another firewall on this computer blocks outgoing traffic, so Tor can&apos;t connect: %1.</source>
-        <translation>Bu bilgisayardaki başka bir güvenlik duvarı dışarı çıkanı reddediyor, bu yüzden Tor bağlanamıyor: %1.</translation>
+        <translation>Bu bilgisayardaki başka bir güvenlik duvarı giden trafiği engelliyor, bu yüzden Tor bağlanamıyor: %1.</translation>
     </message>
     <message>
         <source>Setup ran but the helper wasn&apos;t installed. Try again.</source>
@@ -1831,7 +1831,7 @@
     </message>
     <message>
         <source>The settings file %1 can&apos;t be read or replaced. Changes to the settings last until you quit.</source>
-        <translation>Ayar dosyası %1 okunamıyor ya da değiştirilemiyor. Ayarlardaki değişiklikler yalnızca siz çıkana dek geçerli olur.</translation>
+        <translation>Ayar dosyası %1 ne okunabiliyor ne de yenisiyle değiştirilebiliyor. Ayarlardaki değişiklikler yalnızca siz çıkana dek geçerli olur.</translation>
     </message>
     <message>
         <source>Couldn&apos;t open %1 without Tor: %2</source>
@@ -1839,11 +1839,11 @@
     </message>
     <message>
         <source>Another Veldmark of yours has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
-        <translation>Bu arada başka bir Veldmark&apos;ınız bir oturum başlatmış, bu yüzden hiçbir şey sona erdirilmedi. O oturumu sona erdirmek için bağlantıyı yeniden kesin.</translation>
+        <translation>Bu arada başka bir Veldmark&apos;ınız bir oturum başlatmış, bu yüzden hiçbir oturum sona erdirilmedi. O oturumu sona erdirmek için bağlantıyı yeniden kesin.</translation>
     </message>
     <message>
         <source>Another user&apos;s Veldmark has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
-        <translation>Bu arada başka bir kullanıcının Veldmark&apos;ı bir oturum başlatmış, bu yüzden hiçbir şey sona erdirilmedi. O oturumu sona erdirmek için bağlantıyı yeniden kesin.</translation>
+        <translation>Bu arada başka bir kullanıcının Veldmark&apos;ı bir oturum başlatmış, bu yüzden hiçbir oturum sona erdirilmedi. O oturumu sona erdirmek için bağlantıyı yeniden kesin.</translation>
     </message>
     <message>
         <source>Your network is set up for Tor by another Veldmark of yours, process %1</source>
@@ -1919,7 +1919,7 @@
     </message>
     <message>
         <source>The connection was lost before the download ended.</source>
-        <translation>Bağlantı, aktarım bitmeden koptu.</translation>
+        <translation>Bağlantı, indirme bitmeden koptu.</translation>
     </message>
     <message>
         <source>Not connected to Tor&apos;s control port.</source>
@@ -2059,7 +2059,7 @@
     </message>
     <message>
         <source>A session is open, and its kill switch doesn&apos;t block traffic: its watcher couldn&apos;t put the rules back. Traffic may leave this computer directly. Restore the network, and connect again.</source>
-        <translation>Açık bir oturum var ve acil kesme anahtarı etkisiz: izleyicisi kuralları geri koyamadı. Trafik bu bilgisayardan doğrudan çıkabilir. Ağı geri yükleyip yeniden bağlanın.</translation>
+        <translation>Açık bir oturum var ve acil kesme anahtarı trafiği engellemiyor: izleyicisi kuralları geri koyamadı. Trafik bu bilgisayardan doğrudan çıkabilir. Ağı geri yükleyip yeniden bağlanın.</translation>
     </message>
     <message>
         <source>The clock is behind: it shows %1, but the file %2 was written on %3. Tor needs a clock that is right to within minutes.</source>
@@ -2071,7 +2071,7 @@
     </message>
     <message>
         <source>It isn&apos;t known whether the clock is right: no time service seems to set it. It shows %1. Tor needs it right to within minutes.</source>
-        <translation>Saatin doğru olup olmadığı bilinmiyor: onu ağdan ayarlayan bir şey görünmüyor. Gösterdiği: %1. Tor için saatin birkaç dakikadan fazla şaşmaması gerekir.</translation>
+        <translation>Saatin doğru olup olmadığı bilinmiyor: onu ayarlayan bir zaman hizmeti görünmüyor. Gösterdiği: %1. Tor için saatin birkaç dakikadan fazla şaşmaması gerekir.</translation>
     </message>
     <message>
         <source>nftables isn&apos;t installed. Veldmark&apos;s firewall needs it.</source>
@@ -2111,11 +2111,11 @@
     </message>
     <message>
         <source>No other firewall that Veldmark knows runs. Only root can read the rules themselves.</source>
-        <translation>Adıyla tanınan başka bir güvenlik duvarı çalışmıyor. Kuralların kendilerini yalnızca root görebilir.</translation>
+        <translation>Veldmark&apos;ın tanıdığı başka bir güvenlik duvarı çalışmıyor. Kuralların kendilerini yalnızca root okuyabilir.</translation>
     </message>
     <message>
         <source>Another firewall on this computer blocks outgoing traffic that its rules don&apos;t allow, so Tor may not get through: %1.</source>
-        <translation>Bu bilgisayardaki başka bir güvenlik duvarı, kurallarından biri izin vermedikçe dışarı çıkanı reddediyor; bu yüzden Tor geçemeyebilir: %1.</translation>
+        <translation>Bu bilgisayardaki başka bir güvenlik duvarı, kurallarının izin vermediği giden trafiği engelliyor; bu yüzden Tor geçemeyebilir: %1.</translation>
     </message>
     <message>
         <source>Other programs set firewall rules here: %1. Veldmark leaves their rules alone. Rules that drop packets can block Tor.</source>
@@ -2135,11 +2135,11 @@
     </message>
     <message>
         <source>No known polkit agent, the program that asks for the password, runs in your session. Use sudo, or start an agent such as lxpolkit.</source>
-        <translation>Oturumunuzda polkit parolalarını sorduğu bilinen bir program (aracı) çalışmıyor. Aracı olmadan sudo kullanın ya da lxpolkit gibi bir aracı başlatın.</translation>
+        <translation>Oturumunuzda bilinen bir polkit aracısı (parolayı soran program) çalışmıyor. sudo kullanın ya da lxpolkit gibi bir aracı başlatın.</translation>
     </message>
     <message>
         <source>polkit is installed, and an agent that asks for the password runs in your session.</source>
-        <translation>polkit var ve oturumunuzda parolalarını soran bir program çalışıyor.</translation>
+        <translation>polkit kurulu ve oturumunuzda parolayı soran bir aracı çalışıyor.</translation>
     </message>
     <message>
         <source>Veldmark runs as root here and asks for no password.</source>
@@ -2183,7 +2183,7 @@
     </message>
     <message>
         <source>The location of Tor in the settings, %1, is not an executable program. Veldmark searches the usual places instead.</source>
-        <translation>Ayarlarda Tor&apos;un konumu olarak verilen %1, çalıştırılabilir bir program değil. Bunun yerine olağan konumlarda aranıyor.</translation>
+        <translation>Ayarlarda Tor&apos;un konumu olarak verilen %1, çalıştırılabilir bir program değil. Veldmark bunun yerine olağan konumlarda arıyor.</translation>
     </message>
     <message>
         <source>Tor isn&apos;t installed.</source>
@@ -2207,15 +2207,15 @@
     </message>
     <message>
         <source>The helper is missing. Reinstall Veldmark.</source>
-        <translation>Veldmark&apos;ın yardımcı betiği eksik. Veldmark&apos;ı yeniden kurun.</translation>
+        <translation>Yardımcı program eksik. Veldmark&apos;ı yeniden kurun.</translation>
     </message>
     <message>
         <source>Accounts other than root can change Veldmark&apos;s helper, %1, and with it what the administrator&apos;s password runs.</source>
-        <translation>Veldmark&apos;ın yardımcı programı (%1) root dışındakilerin de yazabildiği bir yerde. Bunlar onu, böylece yönetici parolasının çalıştırdığı şeyi de değiştirebilir.</translation>
+        <translation>root dışındaki hesaplar Veldmark&apos;ın yardımcı programını (%1), böylece yönetici parolasının çalıştırdığı şeyi de değiştirebilir.</translation>
     </message>
     <message>
         <source>Veldmark&apos;s helper, %1, is not installed: the account %2 can change it, and with it what the administrator&apos;s password runs.</source>
-        <translation>Veldmark&apos;ın yardımcı programı (%1) kurulmuş bir kopya değil: %2 hesabı onu, böylece yönetici parolasının çalıştırdığı şeyi de değiştirebilir.</translation>
+        <translation>Veldmark&apos;ın yardımcı programı (%1) kurulu değil: %2 hesabı onu, böylece yönetici parolasının çalıştırdığı şeyi de değiştirebilir.</translation>
     </message>
     <message>
         <source>Veldmark&apos;s helper is installed, and only root can change it: %1.</source>
@@ -2243,19 +2243,19 @@
     </message>
     <message>
         <source>%1 manages DNS. Veldmark changes that while connected and restores it afterwards.</source>
-        <translation>Adlar %1 dosyasında yazdığı gibi çözümlenir. Veldmark bunu değiştirir, sonra geri alır.</translation>
+        <translation>DNS&apos;i %1 yönetiyor. Veldmark bunu bağlıyken değiştirir, sonra geri yükler.</translation>
     </message>
     <message>
         <source>Veldmark wrote %1. It points DNS at Tor.</source>
-        <translation>%1 dosyası Veldmark&apos;ın. Ad sunucusu olarak Tor&apos;u gösteriyor.</translation>
+        <translation>%1 dosyasını Veldmark yazdı. Dosya DNS&apos;i Tor&apos;a yönlendiriyor.</translation>
     </message>
     <message>
         <source>The file %1 is missing, so DNS may not work at all.</source>
-        <translation>%1 dosyası yok, bu yüzden adlar hiç çözümlenemeyebilir.</translation>
+        <translation>%1 dosyası eksik, bu yüzden DNS hiç çalışmayabilir.</translation>
     </message>
     <message>
         <source>A resolver on this computer answers DNS. Veldmark changes that while connected and restores it afterwards.</source>
-        <translation>Adları bu bilgisayardaki bir çözümleyici çözümlüyor. Veldmark bunu değiştirir, sonra geri alır.</translation>
+        <translation>DNS sorgularını bu bilgisayardaki bir çözümleyici yanıtlıyor. Veldmark bunu bağlıyken değiştirir, sonra geri yükler.</translation>
     </message>
     <message>
         <source>No earlier session is left open.</source>
@@ -2279,7 +2279,7 @@
     </message>
     <message>
         <source>A session is open, and it isn&apos;t known whether its kill switch blocks traffic: no watcher watches the rules. Restore the network, and connect again.</source>
-        <translation>Açık bir oturum var ve acil kesme anahtarının yürürlükte olup olmadığı bilinmiyor: kuralları izleyen yok. Ağı geri yükleyip yeniden bağlanın.</translation>
+        <translation>Açık bir oturum var ve acil kesme anahtarının trafiği engelleyip engellemediği bilinmiyor: kuralları izleyen yok. Ağı geri yükleyip yeniden bağlanın.</translation>
     </message>
     <message>
         <source>Cancelled.</source>
@@ -2323,7 +2323,7 @@
     </message>
     <message>
         <source>The file is empty or not an archive.</source>
-        <translation>Arşiv boş ya da bir arşiv değil.</translation>
+        <translation>Dosya boş ya da bir arşiv değil.</translation>
     </message>
     <message>
         <source>The archive&apos;s list of files is ambiguous.</source>
@@ -2419,7 +2419,7 @@
     </message>
     <message>
         <source>A command is missing. &quot;veldmarkctl help&quot; lists the commands.</source>
-        <translation>Ne yapılsın? “veldmarkctl help” komutları listeler.</translation>
+        <translation>Komut eksik. “veldmarkctl help” komutları listeler.</translation>
     </message>
     <message>
         <source>Unknown command %1. &quot;veldmarkctl help&quot; lists the commands.</source>
@@ -2461,7 +2461,7 @@
     </message>
     <message>
         <source>doesn&apos;t say which transports it serves</source>
-        <translation>ne sunduğunu bildirmiyor</translation>
+        <translation>hangi taşıyıcıları sunduğunu bildirmiyor</translation>
     </message>
     <message>
         <source>serves %1</source>
@@ -2557,19 +2557,19 @@
     </message>
     <message>
         <source>blocks traffic, since %1</source>
-        <translation>yürürlükte (%1 anından beri)</translation>
+        <translation>trafiği engelliyor (%1 anından beri)</translation>
     </message>
     <message>
         <source>blocks traffic; put back at %1 after another program had removed it</source>
-        <translation>yürürlükte; başka bir program kaldırmıştı, yeniden konduğu an: %1</translation>
+        <translation>trafiği engelliyor; başka bir program kaldırmıştı, yeniden konduğu an: %1</translation>
     </message>
     <message>
         <source>NOT BLOCKING since %1: traffic may leave this computer directly</source>
-        <translation>ETKİSİZ (%1 anından beri): trafik bu bilgisayardan doğrudan çıkabilir</translation>
+        <translation>ENGELLEMİYOR (%1 anından beri): trafik bu bilgisayardan doğrudan çıkabilir</translation>
     </message>
     <message>
         <source>isn&apos;t known to block traffic, since %1</source>
-        <translation>yürürlükte olup olmadığı bilinmiyor (%1 anından beri)</translation>
+        <translation>trafiği engelleyip engellemediği bilinmiyor (%1 anından beri)</translation>
     </message>
     <message>
         <source>not checked yet</source>
@@ -2597,11 +2597,11 @@
     </message>
     <message>
         <source>no answer, but it isn&apos;t known whether the kill switch blocks it</source>
-        <translation>yanıt yok, ama acil kesme anahtarının bu yolu kapatıp kapatmadığı bilinmiyor</translation>
+        <translation>yanıt yok, ama acil kesme anahtarının bu yolu engelleyip engellemediği bilinmiyor</translation>
     </message>
     <message>
         <source>no answer, but proxy mode doesn&apos;t block it</source>
-        <translation>yanıt yok, ama vekil sunucu kipi bu yolu kapatmaz</translation>
+        <translation>yanıt yok, ama vekil sunucu kipi bu yolu engellemez</translation>
     </message>
     <message>
         <source>checking…</source>
@@ -2761,7 +2761,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; is not an exit country: two lower-case letters such as &quot;de&quot;, or nothing for any.</source>
-        <translation>“%1” bir çıkış ülkesi değil: “de” gibi iki küçük harf ya da herhangi biri için boş.</translation>
+        <translation>“%1” bir çıkış ülkesi değil: “de” gibi iki küçük harf olmalı ya da herhangi bir ülke için boş bırakılmalı.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not an application: an absolute path that ends in &quot;%2&quot;.</source>
@@ -2769,7 +2769,7 @@
     </message>
     <message>
         <source>strict mode with the kill switch, else proxy mode</source>
-        <translation>acil kesme anahtarı, yoksa vekil sunucu kipi</translation>
+        <translation>acil kesme anahtarlı sıkı kip, yoksa vekil sunucu kipi</translation>
     </message>
     <message>
         <source>strict mode lets the local network through</source>
@@ -2777,11 +2777,11 @@
     </message>
     <message>
         <source>two lower-case letters, or nothing for any</source>
-        <translation>iki küçük harf ya da herhangi biri için boş</translation>
+        <translation>iki küçük harf ya da herhangi bir ülke için boş</translation>
     </message>
     <message>
         <source>the path of the tor to use, or nothing to search for tor</source>
-        <translation>kullanılacak tor, aranması için boş</translation>
+        <translation>kullanılacak tor&apos;un yolu ya da aranması için boş</translation>
     </message>
     <message>
         <source>which bridges</source>
@@ -2897,7 +2897,7 @@
     </message>
     <message>
         <source>print the connection&apos;s state; --watch goes on until Ctrl-C</source>
-        <translation>durumu gösterir; --watch Ctrl-C&apos;ye dek sürer</translation>
+        <translation>bağlantının durumunu yazdırır; --watch Ctrl-C&apos;ye dek sürer</translation>
     </message>
     <message>
         <source>connect the running instance to Tor</source>
@@ -2909,7 +2909,7 @@
     </message>
     <message>
         <source>restore the network and stop Tor, also after a crash</source>
-        <translation>aynısı; bir çökmeden geriye kalanlar için de</translation>
+        <translation>ağı geri yükler ve Tor&apos;u durdurur, bir çökmeden sonra da</translation>
     </message>
     <message>
         <source>check the exit address, the direct path and DNS now</source>
@@ -2917,7 +2917,7 @@
     </message>
     <message>
         <source>point the system&apos;s DNS settings at Tor again</source>
-        <translation>sistemin DNS ayarlarını yeniden Tor&apos;a yöneltir</translation>
+        <translation>sistemin DNS ayarlarını yeniden Tor&apos;a yönlendirir</translation>
     </message>
     <message>
         <source>Tor&apos;s circuits and the sites on them</source>
@@ -3121,7 +3121,7 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
     </message>
     <message>
         <source>The helper opens applications only for the user who asks.</source>
-        <translation>Uygulamalar yalnızca isteyen kullanıcı için açılabilir.</translation>
+        <translation>Yardımcı program, uygulamaları yalnızca isteyen kullanıcı için açar.</translation>
     </message>
     <message>
         <source>Applications cannot be opened without Tor on this system.</source>
@@ -3133,7 +3133,7 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
     </message>
     <message>
         <source>Passwordless mode can be set up only for the user who asks.</source>
-        <translation>Yalnızca isteyen kullanıcıya izin verilebilir.</translation>
+        <translation>Parolasız kip yalnızca isteyen kullanıcı için kurulabilir.</translation>
     </message>
     <message>
         <source>Another program is changing the firewall. Try again in a moment.</source>
@@ -3217,7 +3217,7 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
     </message>
     <message>
         <source>The firewall rules cannot be read, so nothing was done.</source>
-        <translation>Güvenlik duvarına bakılamıyor, bu yüzden hiçbir şey yapılmadı.</translation>
+        <translation>Güvenlik duvarı kuralları okunamıyor, bu yüzden hiçbir şey yapılmadı.</translation>
     </message>
     <message>
         <source>The firewall cannot be switched on (%1).</source>
@@ -3297,15 +3297,15 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
     </message>
     <message>
         <source>The folders below %1 cannot be read, so nothing was done.</source>
-        <translation>%1 altındaki klasörlere bakılamıyor, bu yüzden hiçbir şey yapılmadı.</translation>
+        <translation>%1 altındaki klasörler okunamıyor, bu yüzden hiçbir şey yapılmadı.</translation>
     </message>
     <message>
         <source>The folders below %1 cannot be read.</source>
-        <translation>%1 altındaki klasörlere bakılamıyor.</translation>
+        <translation>%1 altındaki klasörler okunamıyor.</translation>
     </message>
     <message>
         <source>The former network settings could not all be restored.</source>
-        <translation>Önceki ağ ayarlarının tümü geri yüklenemedi.</translation>
+        <translation>Önceki ağ ayarlarının bir kısmı geri yüklenemedi.</translation>
     </message>
     <message>
         <source>The hashed control password is not valid.</source>
@@ -3453,7 +3453,7 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
     </message>
     <message>
         <source>The port %1, which Tor needs, is held by %2. End that program, then connect again.</source>
-        <translation>Tor için gereken %1 numaralı bağlantı noktasını %2 kullanıyor. Onu sonlandırıp yeniden bağlanın.</translation>
+        <translation>Tor için gereken %1 numaralı bağlantı noktasını %2 kullanıyor. O programı sonlandırıp yeniden bağlanın.</translation>
     </message>
     <message>
         <source>a program (process %1)</source>
@@ -3481,7 +3481,7 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
     </message>
     <message>
         <source>The SHA-256 of the program %1 is not the one to approve.</source>
-        <translation>%1 programı, onaylanacak olan program değil.</translation>
+        <translation>%1 programının SHA-256 özeti onaylanacak olan değil.</translation>
     </message>
     <message>
         <source>The program given with %1 is not an executable file.</source>
@@ -3569,11 +3569,11 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
     </message>
     <message>
         <source>The watcher of the firewall rules could not be started.</source>
-        <translation>Güvenlik duvarının izleyicisi başlatılamadı.</translation>
+        <translation>Güvenlik duvarı kurallarının izleyicisi başlatılamadı.</translation>
     </message>
     <message>
         <source>The watcher of the firewall rules could not be stopped.</source>
-        <translation>Güvenlik duvarının izleyicisi durdurulamadı.</translation>
+        <translation>Güvenlik duvarı kurallarının izleyicisi durdurulamadı.</translation>
     </message>
     <message>
         <source>There are too many options on standard input.</source>
@@ -3701,7 +3701,7 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
     </message>
     <message>
         <source>This system can&apos;t tell applications apart.</source>
-        <translation>Bu sistemde uygulamalar ayırt edilmez.</translation>
+        <translation>Bu sistem uygulamaları ayırt edemez.</translation>
     </message>
     <message>
         <source>Applications are not separated now: they share circuits.</source>
@@ -3721,11 +3721,11 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
     </message>
     <message>
         <source>The application did not get a new identity.</source>
-        <translation>Uygulama başka bir kimlik almadı.</translation>
+        <translation>Uygulama yeni bir kimlik almadı.</translation>
     </message>
     <message>
         <source>The program did not get an identity of its own, so it was not started.</source>
-        <translation>Program kendi kimliğini almadı, bu yüzden başlatılmadı.</translation>
+        <translation>Program kendine ait bir kimlik almadı, bu yüzden başlatılmadı.</translation>
     </message>
     <message>
         <source>A name has up to 40 letters, digits, dots and underscores.</source>
@@ -3733,7 +3733,7 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
     </message>
     <message>
         <source>The program systemd-run is missing. Veldmark needs it to make a group for a program.</source>
-        <translation>Programlar için grup oluşturan systemd-run programı eksik.</translation>
+        <translation>systemd-run programı eksik. Veldmark&apos;ın bir program için grup oluşturmak üzere ona gereksinimi var.</translation>
     </message>
     <message>
         <source>The program could not be started: %1.</source>
@@ -3791,7 +3791,7 @@ aynı adla yapılan sonraki çalıştırma aynı devreleri kullanır</translatio
     </message>
     <message>
         <source>Another firewall on this computer blocks outgoing traffic, and none of its rules allows any, so Tor can&apos;t get through: %1.</source>
-        <translation>Bu bilgisayardaki başka bir güvenlik duvarı dışarı çıkanı reddediyor ve hiçbir kuralı bir şeye izin vermiyor; bu yüzden Tor geçemiyor: %1.</translation>
+        <translation>Bu bilgisayardaki başka bir güvenlik duvarı giden trafiği engelliyor ve hiçbir kuralı hiçbirine izin vermiyor; bu yüzden Tor geçemiyor: %1.</translation>
     </message>
     <message>
         <source>Users other than root can change %1, so root doesn&apos;t run it to ask for its version.</source>
