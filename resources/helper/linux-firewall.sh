@@ -67,6 +67,16 @@ END
 END
 }
 
+# print_no_early_data: rules that drop a packet with data after its TCP header. A rule cannot add, so there is one for each size of the
+# header, in words of 4 bytes.
+print_no_early_data() {
+  local words
+  for words in 5 6 7 8 9 10 11 12 13 14 15; do
+    printf '\t\tip hdrlength 5 tcp doff %d ip length > %d drop\n\t\ttcp doff %d ip6 length > %d drop\n' \
+      "$words" $((20 + 4 * words)) "$words" $((4 * words))
+  done
+}
+
 # print_side_chains TOR_UID USER_UID GROUP: the chains for packets that the output and input chains examine further.
 # loopback: packets that stay on this computer. Only packets that open a connection, or answer an opening, are examined: later ones may
 # belong to a socket that its program has already closed.
@@ -121,8 +131,7 @@ END
 	}
 	chain opening {
 		tcp flags & ack == ack goto answering
-		ip length > 80 drop
-		ip6 length > 60 drop
+$(print_no_early_data)
 		$(tors_key "$1") update @tors_own { ip saddr . tcp sport . ip daddr . tcp dport } accept
 		$ports reject with tcp reset
 		$beside reject with tcp reset

@@ -36,10 +36,10 @@ port_sockets() {
 }
 
 # takes_ipv6_alone PORT: whether every socket that listens there at all addresses of the other family takes no connection to 127.0.0.1. ss
-# shows such a socket as [::]:PORT, and others as *:PORT. Without ss the answer is no.
+# shows such a socket as [::]:PORT, and others as *:PORT; either may have a device, as in *%lo:PORT. Without ss the answer is no.
 takes_ipv6_alone() {
   local list
-  list=$(timeout 1 ss -H -6 -l -t -n "sport = :$1") && [[ $list == *" [::]:$1 "* && $list != *" *:$1 "* ]]
+  list=$(timeout 1 ss -H -6 -l -t -n "sport = :$1") && [[ $list == *" [::]"* && $list != *" *"* ]]
 }
 
 # wide_sockets LINES: likewise, for TCP sockets of the other family that take connections to 127.0.0.1 as well, at those of Tor's ports

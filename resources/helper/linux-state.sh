@@ -179,7 +179,7 @@ print_modes() { stat -c '%a %u %F' -- "$@"; }
 # allow_other). What then waits, perhaps unkillably, has neither the locks, nor what this run reads or writes to.
 # shellcheck disable=SC2016
 real_path() {
-  timeout -k 1 5 /bin/sh -c 'exec 7>&- 8>&- 9>&-; exec readlink -e -- "$1"' readlink "$1" | take_output 7 8192
+  timeout -k 1 5 /bin/sh -c 'exec 7>&- 8>&- 9>&-; exec readlink -e -- "$1"' readlink "$1" </dev/null | take_output 7 8192
 }
 
 # on_own_mount PATH: whether PATH, which only root can change, is on a file system mounted for the system's programs. A file system that

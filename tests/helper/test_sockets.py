@@ -82,7 +82,8 @@ class Sockets(HostileTest):
                     self.machine.connect()
                     self.machine.shell("pkill -KILL -u _veldmark; while pgrep -u _veldmark; do sleep 0.01; done")
                     false_tor = serve(address, 9050)
-                    send(address, 9050, "a request")
+                    for words in "a request", "secret7", "x":
+                        send(address, 9050, words)
                     self.without("opening")
                     self.assertEqual(send(address, 9050, "another"), "sent\n")
                     self.assertEqual(false_tor.stdout.readline(), "another\n")

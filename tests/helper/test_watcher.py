@@ -223,17 +223,18 @@ class Watcher(HelperTest):
     def end_tor(self):
         self.machine.shell("pkill -KILL -u _veldmark; while pgrep -u _veldmark; do sleep 0.01; done")
 
-    def listener(self, address, port, uid, ipv6_alone=False, shares=False):
+    def listener(self, address, port, uid, ipv6_alone=False, shares=False, device=""):
         """A process that listens there until its input ends."""
         listen = (
-            "import socket, sys; address, port, alone, shares = sys.argv[1], *map(int, sys.argv[2:])\n"
+            "import socket, sys; address, device, port, alone, shares = *sys.argv[1:3], *map(int, sys.argv[3:])\n"
             "s = socket.socket(socket.AF_INET6 if ':' in address else socket.AF_INET, socket.SOCK_DGRAM if port == 293 else socket.SOCK_STREAM)\n"
             "if ':' in address: s.setsockopt(socket.IPPROTO_IPV6, socket.IPV6_V6ONLY, alone)\n"
             "s.setsockopt(socket.SOL_SOCKET, socket.SO_REUSEPORT, shares)\n"
+            "if device: s.setsockopt(socket.SOL_SOCKET, socket.SO_BINDTODEVICE, device.encode())\n"
             "s.bind((address, port)); port == 293 or s.listen(); print('up', flush=True); sys.stdin.read()"
         )
         process = self.machine.start(
-            *("/usr/bin/python3", "-c", listen, address, str(port), str(int(ipv6_alone)), str(int(shares))),
+            *("/usr/bin/python3", "-c", listen, address, device, str(port), str(int(ipv6_alone)), str(int(shares))),
             uid=uid,
             stdin=subprocess.PIPE,
             stdout=subprocess.PIPE,
@@ -270,10 +271,11 @@ class Watcher(HelperTest):
         self.end_tor()
         alone = [self.listener("::", port, namespace.OTHER_UID, ipv6_alone=True, shares=True) for port in (9050, 9051)]
         self.stays_young("nobody answers at 127.0.0.1")
-        both = self.listener("::", 9051, namespace.OTHER_UID, shares=True)
-        self.becomes(young=False)
-        both.communicate()
-        self.becomes(young=True)
+        for device in "", "lo":
+            both = self.listener("::", 9051, namespace.OTHER_UID, shares=True, device=device)
+            self.becomes(young=False)
+            both.communicate()
+            self.becomes(young=True)
         self.machine.shell("mount --bind /bin/false /usr/bin/ss")
         try:
             self.becomes(young=False)  # which of them it is nobody can tell

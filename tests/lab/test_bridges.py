@@ -151,10 +151,11 @@ class Bridges(LabCase):
         self.assert_restored()
 
     def stand_in(self, script):
-        """Puts a program in lyrebird's place in the downloaded bundle's folder."""
+        """Puts a program in lyrebird's place in the downloaded bundle's folder, and approves it."""
         program = "/root/.local/share/veldmark/TorExpertBundle/tor/pluggable_transports/lyrebird"
         self.lab.host.write(program, script if script.startswith("#!") else f"#!/bin/sh\n{script}\n", mode=0o755)
         self.addCleanup(self.lab.host.run, ["rm", "-rf", "/root/.local/share/veldmark/TorExpertBundle"], check=True)
+        self.product.approve(program, "lyrebird")
 
     def test_a_transport_may_look_its_front_up_before_tor_has_a_circuit(self):
         plain = self.lab.tor.bridge_line("").split()

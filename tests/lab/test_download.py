@@ -387,6 +387,7 @@ class Download(LabCase):
             self.assertEqual((found["builtin"], found["source"]), ({"obfs4": 1}, "Tor Expert Bundle 14.5"))
             self.assertEqual(found["bundle"], {"version": "14.5", "verification": "https"})
             self.set("bridgeChoice", "obfs4")
+            self.product.approve(LYREBIRD, "lyrebird")
             with self.product.session() as session:
                 state = session.wait(is_probed)
                 self.assertEqual(state["activeBridge"], "obfs4")

@@ -7,6 +7,7 @@
 """
 
 import contextlib
+import hashlib
 import json
 import os
 import select
@@ -74,6 +75,11 @@ class Product:
 
     def run_helper(self, *arguments: str, **options) -> subprocess.CompletedProcess:
         return self.lab.host.run(["/bin/bash", self.helper, *arguments], **options)
+
+    def approve(self, program: str, role: str) -> None:
+        """As an administrator who was asked for this program. `role`: what it may run as, such as "lyrebird"."""
+        digest = hashlib.sha256(self.lab.host.path(program).read_bytes()).hexdigest()
+        self.run_helper("approve", "--program", program, "--as", role, "--sha256", digest, check=True)
 
     def wait_state(self, condition, timeout: float = 60, look=lambda: None) -> dict:
         """Waits for the first state for which `condition` holds, beginning with the present one.
