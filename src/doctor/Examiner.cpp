@@ -100,6 +100,8 @@ QCoro::Task<Findings> Examiner::examine()
         machine.user == 0 && machine.isLinux() && !nft.isEmpty()) {
         auto asking = run(processes, nft, {QStringLiteral("list"), QStringLiteral("tables")});
         const auto answer = co_await asking;
+        if (wanted.expired())
+            co_return {};
         machine.firewallComplaint = !answer ? Text::tr("nft doesn't answer.")
             : answer->status == 0           ? QString()
                                             : answer->stderr.section(u'\n', 0, 0).left(200);

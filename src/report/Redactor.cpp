@@ -28,10 +28,23 @@ const QString argument = QStringLiteral(R"([\w-]+=[^\s"'<>]*)");
 const QString transport = QStringLiteral(
     R"((?:obfs[2-5]|meek(?:_lite|-azure)?|snowflake|webtunnel|scramblesuit|conjure|dnstt|fte|vanilla))");
 
+// Letters that a link writes as "%2F". Others than printable ASCII stay as they are.
+QString withoutPercents(QString text)
+{
+    static const QRegularExpression letter(QStringLiteral("%([2-7][0-9A-Fa-f])"));
+    for (qsizetype at = text.indexOf(letter); at >= 0; at = text.indexOf(letter, at + 1)) {
+        const QChar c(text.mid(at + 1, 2).toUShort(nullptr, 16));
+        if (c != QChar(0x7f))
+            text.replace(at, 3, c);
+    }
+    return text;
+}
+
 // The text without what would hide a secret from the patterns: other ways to write the same
 // letters, letters without a width, a terminal's colours, and the stand-ins' own characters.
 QString plainText(QString text)
 {
+    text = withoutPercents(withoutPercents(text));
     static const QRegularExpression colours(QStringLiteral("\\x1b\\[[0-9;?]*[ -/]*[@-~]"));
     text.remove(colours);
     text.removeIf([](QChar c) {
@@ -225,7 +238,8 @@ QString Redactor::tailOfHome(const QRegularExpressionMatch &match)
     const QString whole = match.captured();
     const QChar home = whole.front();
     const Kind kind = m_standIns.kindOf(home);
-    if ((kind != Kind::ownHome && kind != Kind::home) || SecretPatterns::isOwnFile(whole.mid(1)))
+    if ((kind != Kind::ownHome && kind != Kind::home)
+        || SecretPatterns::isOwnFile(whole.mid(1).section(u' ', 0, 0)))
         return whole;
     QString tail = whole.mid(2);
     const bool endsSentence = tail.endsWith(u'.');
@@ -255,18 +269,21 @@ void Redactor::addPatterns()
             .arg(endpoint, hex40, argument),
         bridge);
 
-    // Paths in a home: the rest of the path, with the blanks in its folders' names.
+    // Paths in a home: the rest of the path. Without quotes nothing tells where a path with blanks
+    // ends, so what follows goes with it.
     add(QStringLiteral(R"(/(?:var/)?(?:home|Users)/[^/\s"'<>:;,]+)"), Kind::home);
     add(QStringLiteral(R"(/(?:run/)?media/[^/\s"'<>:;,]+(?:/[^/\s"'<>:;,]+)?)"), Kind::path);
     add(QStringLiteral(R"((?<=")%1/[^"]*(?="))").arg(StandIns::characterClass()),
         [this](const QRegularExpressionMatch &match) { return tailOfHome(match); });
-    add(QStringLiteral(R"(%1/[^\s"'<>:;,]*(?:(?:[ ](?!%1)[^\s/"'<>:;,]+){1,4}/[^\s"'<>:;,]*)*)")
+    add(QStringLiteral(R"((?<=')%1/[^']*(?='))").arg(StandIns::characterClass()),
+        [this](const QRegularExpressionMatch &match) { return tailOfHome(match); });
+    add(QStringLiteral(R"(%1/(?:(?!%1)(?:[^"'<>:;,]|(?<=\p{L})'(?=\p{L})))*(?<!\s))")
             .arg(StandIns::characterClass()),
         [this](const QRegularExpressionMatch &match) { return tailOfHome(match); });
 
     // Passwords and keys by the word before them.
     add(QStringLiteral(
-            R"re(\b((?:\w+[-_])?(?:password|passwd|passphrase|pwd|secret|token|cookie|cert|key|hash|hashedcontrolpassword)\s*[=:]\s*|(?:hashedcontrolpassword|(?-i:AUTHENTICATE))\s+)("[^"]*"|'[^']*'|[^\s,;]+))re"),
+            R"re(\b([\w-]*(?:password|passwd|passphrase|pwd|secret|token|cookie|cert|key|hash|psk|ssid|authenticator)["']?\s*[=:]\s*|(?:hashedcontrolpassword|\w*authenticator|(?-i:AUTHENTICATE))\s+)("[^"]*"|'[^']*'|[^\s,;]+))re"),
         [standIn](const QRegularExpressionMatch &match) {
             return match.captured(1) + standIn(Kind::secret, match.captured(2));
         });
@@ -279,7 +296,7 @@ void Redactor::addPatterns()
     add(QStringLiteral(
             R"([^\s@"'<>(),;:/=]+@([\p{L}\p{N}\x{E000}-\x{F8FF}](?:[\p{L}\p{N}\x{E000}-\x{F8FF}._-]*[\p{L}\p{N}\x{E000}-\x{F8FF}])?))"),
         [standIn](const QRegularExpressionMatch &match) {
-            return SecretPatterns::isPublicName(match.captured(1))
+            return SecretPatterns::isPublicAccount(match.captured())
                 ? match.captured()
                 : standIn(Kind::name, match.captured().toLower());
         });
@@ -299,13 +316,15 @@ void Redactor::addPatterns()
             return match.captured(1) + standIn(Kind::name, match.captured(2).toLower());
         });
 
+    add(QStringLiteral(R"((?<=\[)[A-Za-z0-9+/]{43}(?=\]))"), Kind::secret); // a relay's newer key
+
     // Network cards.
     const auto card = [standIn](const QRegularExpressionMatch &match) {
         static const QRegularExpression other(QStringLiteral("[^0-9a-f]"));
         return standIn(Kind::hardware, match.captured(1).toLower().remove(other));
     };
     add(QStringLiteral(
-            R"((?<![0-9a-f:-])((?:[0-9a-f]{2}[:-]){5}[0-9a-f]{2})(?![0-9a-f]|[:-][0-9a-f]))"),
+            R"((?<![0-9a-f:_-])((?:[0-9a-f]{2}[:_-]){5}[0-9a-f]{2})(?![0-9a-f]|[:_-][0-9a-f]))"),
         card);
     add(QStringLiteral(R"((?<![0-9a-f.])((?:[0-9a-f]{4}\.){2}[0-9a-f]{4})(?![0-9a-f.]))"), card);
     add(QStringLiteral(R"(\b(?:en|wl|ww)x([0-9a-f]{12})\b)"), card);
@@ -319,9 +338,11 @@ void Redactor::addPatterns()
             return SecretPatterns::isPublicName(name) ? name : standIn(Kind::name, name.toLower());
         });
 
+    add(QStringLiteral(R"(\bxn--[\w-]+)"), Kind::name);
+
     // Addresses.
     add(QStringLiteral(
-            R"((?<![0-9a-f:])(?<![0-9]\.)(?:[0-9a-f]{0,4}(?::|%3a)){2,}[0-9a-f.]*(?:%(?!3a)[\w.-]+)?(?:/[0-9]{1,3})?)"),
+            R"((?<![0-9]\.)(?:[0-9a-f]{0,4}(?::|%3a)){2,}[0-9a-f.]*(?:%(?!3a)[\w.-]+)?(?:/[0-9]{1,3})?)"),
         [standIn](const QRegularExpressionMatch &match) {
             const auto address = SecretPatterns::ipv6(match.captured());
             return address
@@ -332,13 +353,15 @@ void Redactor::addPatterns()
         const auto value = SecretPatterns::ipv4(match.captured());
         return value ? standIn(Kind::address, *value) : match.captured();
     };
-    add(QStringLiteral("(?<![0-9])%1(?![0-9])(?:/[0-9]{1,2})?").arg(quad), ipv4);
-    add(QStringLiteral("(?<![0-9])(?<![0-9]-)[0-9]{1,3}(?:-[0-9]{1,3}){3}(?!-?[0-9])"), ipv4);
+    add(QStringLiteral(R"((?<![0-9])[0-9]{1,3}(?:\.[0-9]{1,3}){4,})"), Kind::address);
+    add(QStringLiteral("(?<![0-9])0*%1(?![0-9])(?:/[0-9]{1,2})?").arg(quad), ipv4);
+    add(QStringLiteral("(?<![0-9])[0-9]{1,3}(?:-[0-9]{1,3}){3,}(?![0-9])"), ipv4);
 
     // What a machine made.
     add(QStringLiteral(R"((?<![0-9a-f])[0-9a-f]{20,})"), Kind::secret);
     add(QStringLiteral(R"((?<![0-9a-f])[0-9a-f]{8}(?:-[0-9a-f]{4}){3}-[0-9a-f]{12})"),
         Kind::secret);
+    add(QStringLiteral(R"((?<![0-9a-f])(?=[0-9]*[a-f])([0-9a-f]{12})(?![0-9a-f]))"), card);
     add(QStringLiteral(R"([A-Za-z0-9+/=_-]{16,})"),
         [standIn](const QRegularExpressionMatch &match) {
             return SecretPatterns::isRandom(match.captured())

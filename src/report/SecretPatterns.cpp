@@ -62,7 +62,7 @@ std::optional<Address> ipv6(const QString &candidate)
 {
     static const QRegularExpression colon(QStringLiteral("%3[Aa]"));
     static const QRegularExpression clock(
-        QStringLiteral(R"(^\d{1,2}:\d{2}(?::\d{2})+(?:\.\d*)?:?$)"));
+        QStringLiteral(R"(^\d{1,2}:\d{2}(?::\d{2})?(?:\.\d*)?:?$)"));
     static const QRegularExpression groups(QStringLiteral("[0-9A-Fa-f]{3,4}"));
     if (clock.match(candidate).hasMatch() || isCommonNetwork(candidate))
         return std::nullopt;
@@ -100,6 +100,13 @@ bool isPublicName(const QString &name)
               .split(u' ');
     return names.contains(name.toLower())
         || (name.count(u'.') == 1 && endings.contains(name.section(u'.', 1)));
+}
+
+bool isPublicAccount(const QString &account)
+{
+    static const QRegularExpression unit(QStringLiteral("^(?:tor@default|user@[0-9]+)\\.service$"));
+    static const QStringList hosts{QStringLiteral("torproject.org")};
+    return unit.match(account).hasMatch() || hosts.contains(account.section(u'@', 1).toLower());
 }
 
 bool isOwnFile(const QString &tail)

@@ -22,6 +22,8 @@ std::optional<Address> ipv6(const QString &candidate);
 
 // Whether a word with dots is a file or unit of the system, or a public name of the Tor Project.
 bool isPublicName(const QString &name);
+// Whether a word with "@" is a unit that every system has, or a mail address of the Tor Project.
+bool isPublicAccount(const QString &account);
 // Whether a path below a home is one of Veldmark's or a shell's own.
 bool isOwnFile(const QString &tail);
 // Whether a long word looks made by a machine: a key, a hash, an identity.

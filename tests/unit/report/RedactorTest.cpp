@@ -59,6 +59,10 @@ private Q_SLOTS:
         row("ideographic dots", u"203。0。113。9"_s, u"address-1"_s);
         row("digits with full width", u"２０３.0.113.9"_s, u"address-1"_s);
         row("numbers with dashes", u"ip-203-0-113-9"_s, u"ip-address-1"_s);
+        row("more numbers with dashes", u"ip-1-203-0-113-9"_s, u"ip-address-1"_s);
+        row("a blank in percent before it", u"x%20203.0.113.9"_s, u"x address-1"_s);
+        row("a zero before it", u"0203.0.113.9 203.0.113.9"_s, u"address-1 address-1"_s);
+        row("more numbers than it has", u"0.203.0.113.9"_s, u"address-1"_s);
         row("letters without a width", u"203.0.\u200b113.9"_s, u"address-1"_s);
         row("colours within", u"203.0\x1b[31m.113.9"_s, u"address-1"_s);
         row("a private character", u"\uE000 203.0.113.9"_s, u"\uFFFD address-1"_s);
@@ -72,6 +76,11 @@ private Q_SLOTS:
         row("mapped in hexadecimal", u"::FFFF:cb00:7109 203.0.113.9"_s, u"address-1 address-1"_s);
         row("colons in percent", u"2001%3Adb8%3A%3A5"_s, u"address-1"_s);
         row("after a letter", u"n2001:db8::5"_s, u"naddress-1"_s);
+        row("after a hexadecimal letter", u"b2001:db8::5 1d2001:db8::5"_s,
+            u"baddress-1 1daddress-1"_s);
+        row("brackets in percent", u"%5B2001:db8::5%5D:443"_s, u"[address-1]:443"_s);
+        row("a link's part in percent", u"x%2F2001%3Adb8%3A%3A5"_s, u"x/address-1"_s);
+        row("twice in percent", u"2001%253Adb8%253A%253A5"_s, u"address-1"_s);
         row("a part of one", u"2001:db8:85a3:8d3:1319"_s, u"address-1"_s);
         row("a network of version 6", u"2001:db8::/32"_s, u"address-1"_s);
 
@@ -86,6 +95,8 @@ private Q_SLOTS:
         row("an address in a name", u"9.113.0.203.in-addr.arpa"_s, u"name-1"_s);
         row("a log's name is a name", u"alice.example.log"_s, u"name-1"_s);
         row("mail", u"alice@example"_s, u"name-1"_s);
+        row("a unit with a name in it", u"openvpn-client@company-berlin.service"_s, u"name-1"_s);
+        row("a name in Punycode", u"XN--E1AFMKFD"_s, u"name-1"_s);
         row("mail with dots", u"a.b+c@mail.example.org"_s, u"name-1"_s);
         row("a link", u"see https://u:p@www.example.org/a?b#c now"_s, u"see https://link-1 now"_s);
         row("a link without dots", u"socks5://proxy:1080"_s, u"socks5://link-1"_s);
@@ -101,6 +112,8 @@ private Q_SLOTS:
         row("an identity of Ed25519", u"[AbCdEfGhIj/kLmNoPqRsTuVwXyZ+012345678901234]"_s,
             u"[secret-1]"_s);
 
+        row("one without digits", u"[abcdefghijklmnopqrstuvwxyzabcdefghijklmnopq]"_s,
+            u"[secret-1]"_s);
         row("a bridge", u"use %1!"_s.arg(obfs4), u"use bridge-1"_s);
         row("a bridge without arguments", u"Bridge obfs4 198.51.100.7:443 failed"_s,
             u"bridge-1 failed"_s);
@@ -116,14 +129,26 @@ private Q_SLOTS:
         row("a home", u"in /home/alice/x"_s, u"in home-1/path-1"_s);
         row("a Mac's home", u"/Users/alice and /Users/alice"_s, u"home-1 and home-1"_s);
         row("what is in a home", u"/home/alice/My Papers/of/me.txt: no"_s, u"home-1/path-1: no"_s);
+        row("blanks at the end of a path", u"/home/alice/My Secret Plan"_s, u"home-1/path-1"_s);
+        row("an apostrophe", u"/home/alice/It's mine/tor: no"_s, u"home-1/path-1: no"_s);
+        row("a path in single quotes", u"'/home/alice/Secret Plan' is there"_s,
+            u"'home-1/path-1' is there"_s);
         row("a disk", u"/run/media/alice/stick/tor"_s, u"path-1/tor"_s);
 
         row("a network card", u"aa:bb:cc:dd:ee:ff AA-BB-CC-DD-EE-FF"_s, u"hardware-1 hardware-1"_s);
+        row("without signs between", u"aabbccddeeff AA_BB_CC_DD_EE_FF"_s,
+            u"hardware-1 hardware-1"_s);
+        row("pairs of digits", u"11:22:33:44:55:66:77:88"_s, u"address-1"_s);
         row("a router's way to write it", u"aabb.ccdd.eeff"_s, u"hardware-1"_s);
         row("a device with its number", u"enxaabbccddeeff wlan0"_s, u"hardware-1 wlan0"_s);
 
         row("a password", u"password=two, Password: three"_s,
             u"password=secret-1, Password: secret-2"_s);
+        row("a password of JSON", u"{\"password\": \"two\"}"_s, u"{\"password\": secret-1}"_s);
+        row("a password in one word", u"controlPassword: two"_s, u"controlPassword: secret-1"_s);
+        row("a proxy's password", u"HTTPSProxyAuthenticator u:p"_s,
+            u"HTTPSProxyAuthenticator secret-1"_s);
+        row("a wireless network's", u"psk=abc ssid=Home"_s, u"psk=secret-1 ssid=secret-2"_s);
         row("a password in quotes", u"proxy_password = 'a b' c"_s,
             u"proxy_password = secret-1 c"_s);
         row("Tor's own words", u"AUTHENTICATE \"a b\""_s, u"AUTHENTICATE secret-1"_s);
