@@ -16,7 +16,9 @@ set -u
   echo "usage, as root on a Mac that may be thrown away: real_mac.sh --change-this-mac HELPER [--person APPLICATION.app]" >&2
   exit 2
 }
-helper=$2 person=${4-} failed=0
+helper=$2
+[[ $helper == /* ]] || helper=$PWD/$helper
+person=${4-} failed=0
 hash=16:0123456789ABCDEF0123456789ABCDEF0123456789ABCDEF0123456789
 for tor in /opt/homebrew/bin/tor /usr/local/bin/tor; do
   [[ ! -x $tor ]] || break
@@ -27,6 +29,7 @@ work=$(mktemp -d) || exit 1
 
 exec 3>&1 4>&2
 restore() {
+  trap '' INT TERM HUP   # a second Ctrl-C must not end this half-way
   exec >&3 2>&4   # it may have been stopped while an answer was written to a file
   end_flows
   /bin/bash "$helper" disconnect
@@ -39,9 +42,6 @@ restore() {
   uname -m 2>/dev/null
   rm -rf "$work"
 }
-trap restore EXIT
-trap 'exit 130' INT TERM HUP
-
 # Runs a command in the session of the user at the screen; this script's own session is sudo's.
 help() { env -u SUDO_UID /bin/bash "$helper" "$@"; }
 
@@ -170,6 +170,9 @@ again_at_once() {
   echo "$(grep -c '"PID"' "$work/job") process number"
 }
 
+trap restore EXIT
+trap "trap '' INT TERM HUP; exit 130" INT TERM HUP
+
 check "the helper is one that this bash reads" /bin/bash -n "$helper"
 check "chmod takes its mode behind --, and no -- behind it" chmod_as_written
 ask "<stop_token> is in this library" "whether the small one of our own may go" stop_token
@@ -196,6 +199,11 @@ done
 is_switched() {
   [[ $(networksetup -getdnsservers "$1") == 127.0.0.1 ]] && networksetup -getsocksfirewallproxy "$1" | grep -q '^Port: 9050'
 }
+# Homebrew's tor belongs to the user, so the helper runs only a copy that an administrator approved.
+approve_tor() {
+  local path sum
+  path=$(readlink -f -- "$tor") && sum=$(shasum -a 256 <"$path") && help approve --program "$path" --as tor --sha256 "${sum%% *}"
+}
 primary_switched() { is_switched "$(primary_name)"; }
 not_switched() { active_services | while IFS= read -r service; do is_switched "$service" || echo "$service"; done; }
 tor_as_itself() { pgrep -u "$(dscl . -read /Users/_veldmark UniqueID | awk '{ print $2 }')" -x tor >/dev/null; }
@@ -205,12 +213,13 @@ same() { diff "$work/before" "$work/after"; }
 
 if [[ ! -e $defaults ]]; then
   mkdir -p "${defaults%/*}"
-  echo "DisableNetwork 1" >"$defaults"
   : >"$work/mine"
+  echo "DisableNetwork 1" >"$defaults"
 fi
 help disconnect
 snapshot >"$work/before"
 check "the network is there" reaches_out
+check "Tor's program is approved" approve_tor
 for strict in 0 1; do
   [[ $strict == 0 ]] || begin_flows
   check "connect --strict $strict" help connect --tor "$tor" --hash "$hash" --strict "$strict" --lan 0

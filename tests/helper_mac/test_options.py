@@ -4,6 +4,7 @@ import importlib.util
 import os
 import re
 import subprocess
+import time
 
 import mac
 from mac import HASH, TOR, USER_UID, MacTest
@@ -67,10 +68,17 @@ class Options(MacTest):
         self.machine.place(mac.namespace.helper_path("linux"), "/mac/linux-helper.sh")
         self.assertOneLine(self.machine.run("/bin/bash", "/mac/linux-helper.sh", "disconnect", check=False), "another system")
 
+    def place_check(self):
+        """The check for a real Mac, and a tor like Homebrew's: it belongs to the user, and nobody has approved it yet."""
+        self.machine.place(os.path.join(mac.HERE, "real_mac.sh"), "/mac/real_mac.sh")
+        self.machine.shell(
+            "cp /usr/bin/tor /usr/local/bin/tor; chown alice:alice /usr/local/bin/tor; ln -sf /private/etc/hosts /etc/hosts;"
+            "rm -rf /private/var/db/veldmark/programs"
+        )
+
     def test_the_check_for_a_real_mac_passes_here(self):
         """All of its checks pass except its own look at the network, which does not exist here."""
-        self.machine.place(os.path.join(mac.HERE, "real_mac.sh"), "/mac/real_mac.sh")
-        self.machine.shell("cp /usr/bin/tor /usr/local/bin/tor; ln -sf /private/etc/hosts /etc/hosts")
+        self.place_check()
         done = self.machine.run("/bin/bash", "/mac/real_mac.sh", "--change-this-mac", self.machine.helper, check=False, timeout=300)
         run, table = done.stdout.split("---- the table, ")
         lines = run.splitlines()
@@ -83,8 +91,7 @@ class Options(MacTest):
 
     def test_the_check_for_a_real_mac_asks_a_person(self):
         """With programs that stand in for a Mac's network tools, and a person who presses Return and answers y."""
-        self.machine.place(os.path.join(mac.HERE, "real_mac.sh"), "/mac/real_mac.sh")
-        self.machine.shell("cp /usr/bin/tor /usr/local/bin/tor; ln -sf /private/etc/hosts /etc/hosts")
+        self.place_check()
         for name, text in {
             "networkQuality": "exec sleep 1000",
             "nscurl": "exec sleep 2",
@@ -112,8 +119,7 @@ class Options(MacTest):
         self.assertRestored()
 
     def test_the_check_for_a_real_mac_puts_back_what_it_was_stopped_in(self):
-        self.machine.place(os.path.join(mac.HERE, "real_mac.sh"), "/mac/real_mac.sh")
-        self.machine.shell("cp /usr/bin/tor /usr/local/bin/tor; ln -sf /private/etc/hosts /etc/hosts")
+        self.place_check()
         running = self.machine.start(
             "/bin/bash",
             "/mac/real_mac.sh",
@@ -126,6 +132,10 @@ class Options(MacTest):
         for line in running.stdout:
             if line.startswith("ok      the service that traffic goes through is switched"):
                 break
+        self.machine.shell("kill $(pgrep -f '^/bin/bash /mac/real_mac.sh')")
+        while not self.machine.calls("networksetup -setdnsservers Wi-Fi 192.0.2.53"):  # it is restoring now
+            self.assertIsNone(running.poll())
+            time.sleep(0.01)
         self.machine.shell("kill $(pgrep -f '^/bin/bash /mac/real_mac.sh')")
         rest = running.stdout.read()
         running.stdout.close()
