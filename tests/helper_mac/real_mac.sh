@@ -5,7 +5,8 @@
 #
 # Without --person it needs no person, and tor gets no network (DisableNetwork 1). With --person the real Tor runs, and a person
 # looks at what a program cannot see: a download in Safari, and the camera of APPLICATION (a path that ends in .app). Ctrl-C may
-# stop it at any point: it puts its changes back then, too.
+# stop it at any point: it puts its changes back then, too, and compares with the state before the first question. The accounts and
+# groups _veldmark and _veldmark_bypass and Veldmark's folders stay.
 #
 # What an answer decides holds for macOS 13 and later alike, unless it names a version: send the table of each version that there is.
 #
@@ -19,6 +20,7 @@ set -u
 helper=$2
 [[ $helper == /* ]] || helper=$PWD/$helper
 person=${4-} failed=0
+user=${SUDO_UID:-501}   # the user at the screen
 hash=16:0123456789ABCDEF0123456789ABCDEF0123456789ABCDEF0123456789
 for tor in /opt/homebrew/bin/tor /usr/local/bin/tor; do
   [[ ! -x $tor ]] || break
@@ -29,36 +31,56 @@ work=$(mktemp -d) || exit 1
 
 exec 3>&1 4>&2
 restore() {
+  local status=$?
   trap '' INT TERM HUP   # a second Ctrl-C must not end this half-way
   exec >&3 2>&4   # it may have been stopped while an answer was written to a file
   end_flows
   /bin/bash "$helper" disconnect
   [[ ! -f $work/mine ]] || rm -f "$defaults"
   if [[ -f $work/service ]]; then networksetup -setsocksfirewallproxystate "$(cat "$work/service")" off; fi
+  [[ ! -f $work/first ]] || check "everything is as before the first question" as_before first
   echo
   echo "---- the table, to be sent back with the versions below ----"
   cat "$work/table"
   sw_vers 2>/dev/null
   uname -m 2>/dev/null
   rm -rf "$work"
+  echo
+  echo "Left on this Mac: the accounts and groups _veldmark and _veldmark_bypass (dscl . -delete), the folders"
+  echo "/Library/Application Support/Veldmark and /private/var/db/veldmark, and \"start at login\" where a person switched it on:"
+  echo "switch it off again, also as the second user."
+  exit $((status ? status : failed))
 }
+
 # Runs a command in the session of the user at the screen; this script's own session is sudo's.
 help() { env -u SUDO_UID /bin/bash "$helper" "$@"; }
 
 say() { echo "$1"; echo "$1" >>"$work/table"; }
 
+# words FILE: its first lines as one, without those that pfctl always writes.
+words() {
+  LC_ALL=C tr -d '\r' <"$1" |
+    grep -v -e '^$' -e ALTQ -e '^pfctl: Use of -f option' -e 'present in the main ruleset' -e '^See /etc/pf.conf' |
+    head -n "${lines:-20}" | tr '\n' '|'
+}
+
 check() {
-  local text=$1
+  local text=$1 said
   shift
-  if "$@"; then say "ok      $text"; else say "FAILED  $text"; failed=1; fi
+  echo "...     $text"
+  "$@" >"$work/said" 2>&1 && { say "ok      $text"; return; }
+  failed=1 said=$(words "$work/said")
+  say "FAILED  $text"
+  [[ -z $said ]] || say "        it said: $said"
 }
 
 # ask QUESTION DECIDES COMMAND...: the answer is the first lines of the command's output, and its status.
 ask() {
   local question=$1 decides=$2 status=0
   shift 2
+  echo "...     $question"
   "$@" >"$work/answer" 2>&1 || status=$?
-  say "answer  $question -> status $status: $(head -n 3 "$work/answer" | tr '\n' '|')"
+  say "answer  $question -> status $status: $(words "$work/answer")"
   say "        decides: $decides"
 }
 
@@ -91,7 +113,7 @@ snapshot() {
   launchctl list veldmark.tor 2>/dev/null
 }
 
-# ---- Questions to the system, without a change ----
+# ---- Questions to the system, before a session: what they change is put back ----
 
 chmod_as_written() { : >"$work/file" && chmod -- 0600 "$work/file" && ! chmod 0600 -- "$work/file" 2>/dev/null; }
 stop_token() { echo '#include <stop_token>' >"$work/token.cpp" && xcrun clang++ -std=c++20 -fsyntax-only "$work/token.cpp"; }
@@ -124,10 +146,14 @@ empties_proxy() {
 }
 two_addresses() { dscacheutil -q host -a name one.one.one.one; }
 primary() { scutil <<<"show State:/Network/Global/IPv4"; }
-# The helper's own bash starts without -p, and a bash whose ids differ gives the effective one up.
+# as_user COMMAND...: in the session and with the environment of the user at the screen, not sudo's.
+as_user() {
+  launchctl asuser "$user" sudo -u "#$user" env -u SUDO_UID -u SUDO_GID -u SUDO_USER -u SUDO_COMMAND "$@"
+}
+# The helper's own bash starts without -p, and a bash whose ids differ gives the effective one up. AppleScript ends lines with CR.
 # shellcheck disable=SC2016
 ids_under_prompt() {
-  osascript -e 'do shell script "id -u; id -ru; /bin/bash -c \"id -u; id -ru\"; launchctl managername; echo $SUDO_UID" with administrator privileges'
+  as_user osascript -e 'do shell script "id -u; id -ru; /bin/bash -c \"id -u; id -ru\"; launchctl managername; echo \"SUDO_UID: $SUDO_UID\"" with administrator privileges without altering line endings'
 }
 primary_name() { /bin/bash -p -c ". '$helper'; primary_service"; }
 words_of_networksetup() {
@@ -173,6 +199,10 @@ again_at_once() {
 trap restore EXIT
 trap "trap '' INT TERM HUP; exit 130" INT TERM HUP
 
+as_before() { snapshot >"$work/after"; diff "$work/$1" "$work/after"; }
+
+help disconnect   # of an earlier session, so that the state is this Mac's own
+snapshot >"$work/first.new"; mv -f "$work/first.new" "$work/first"   # whole, if it is stopped here
 check "the helper is one that this bash reads" /bin/bash -n "$helper"
 check "chmod takes its mode behind --, and no -- behind it" chmod_as_written
 ask "<stop_token> is in this library" "whether the small one of our own may go" stop_token
@@ -207,17 +237,16 @@ approve_tor() {
 primary_switched() { is_switched "$(primary_name)"; }
 not_switched() { active_services | while IFS= read -r service; do is_switched "$service" || echo "$service"; done; }
 tor_as_itself() { pgrep -u "$(dscl . -read /Users/_veldmark UniqueID | awk '{ print $2 }')" -x tor >/dev/null; }
-reaches_out() { curl -s -o /dev/null --noproxy '*' --connect-timeout 5 https://1.1.1.1/; }
+reaches_out() { curl -s -S -o /dev/null --noproxy '*' --connect-timeout 5 https://1.1.1.1/; }
 cannot_reach_out() { ! reaches_out; }
-same() { diff "$work/before" "$work/after"; }
 
 if [[ ! -e $defaults ]]; then
   mkdir -p "${defaults%/*}"
   : >"$work/mine"
   echo "DisableNetwork 1" >"$defaults"
 fi
-help disconnect
-snapshot >"$work/before"
+check "the questions have changed nothing" as_before first
+snapshot >"$work/before"   # what they have changed is no fault of a session's
 check "the network is there" reaches_out
 check "Tor's program is approved" approve_tor
 for strict in 0 1; do
@@ -244,8 +273,7 @@ for strict in 0 1; do
   check "disconnect" help disconnect
   say "answer  how long a disconnect takes -> $((SECONDS - started)) s"
   say "        decides: whether the 25 s that the program waits when it quits are enough"
-  snapshot >"$work/after"
-  check "everything is as before" same
+  check "everything is as before" as_before before
 done
 check "the network is there again" reaches_out
 
@@ -261,7 +289,7 @@ if [[ -n $person ]]; then
   look "Does a new page in Safari load, with its address shown as an exit's by check.torproject.org?" "whether the services' proxy is used"
   ask "nscurl and networkQuality past the proxy" "whether the system's user-space network stack obeys pf" flows
   check "nothing gets past the kill switch" cannot_reach_out
-  check "an application without Tor" env SUDO_UID="${SUDO_UID:-501}" /bin/bash "$helper" launch --uid "${SUDO_UID:-501}" --app "$person"
+  check "an application without Tor" env SUDO_UID="$user" /bin/bash "$helper" launch --uid "$user" --app "$person"
   look "Can the application that was opened use camera and microphone?" "whether the launcher has to disclaim responsibility for what it starts"
   check "disconnect" help disconnect
   check "the network is there again at the end" reaches_out
@@ -277,11 +305,10 @@ if [[ -n $person ]]; then
     look "Connect, and end Tor by \"sudo launchctl bootout system/veldmark.tor\": did the system ask about notifications, and does one come?" "whether an unsigned bundle may show any"
     ask "activities while connected" "whether App Nap is held off" pmset -g assertions
     look "Download the bundle anew, and open it in Downloads: does it say to move it first, and refuse \"start at login\"?" "whether the path of a translocated bundle is known by its name"
-    ask "where the settings are" "whether they are in the bundle's user defaults" sudo -u "#${SUDO_UID:-501}" defaults read com.veldmark.veldmark
+    ask "where the settings are" "whether they are in the bundle's user defaults" sudo -u "#$user" defaults read com.veldmark.veldmark
     echo "Leave it running, and go on as a second user by fast user switching, so that this window stays."
     look "Does it open for the second user while the first one's runs?" "whether the system lets a bundle run twice"
     look "There, switch \"start at login\" on, log out and in: does it start without a window?" "whether the launch event tells a login"
     look "There, connect and choose Log Out: does Veldmark ask, and does the logout go on after Disconnect & Quit?" "whether our answer to the system takes the place of Qt's"
   fi
 fi
-exit "$failed"

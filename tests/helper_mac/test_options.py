@@ -81,13 +81,45 @@ class Options(MacTest):
         self.place_check()
         done = self.machine.run("/bin/bash", "/mac/real_mac.sh", "--change-this-mac", self.machine.helper, check=False, timeout=300)
         run, table = done.stdout.split("---- the table, ")
-        lines = run.splitlines()
+        lines = [line for line in run.splitlines() if not line.startswith("... ")]
         failed = [line for line in lines if line.startswith("FAILED")]
         self.assertEqual(failed, ["FAILED  the network is there", "FAILED  the network is there again"], done.stdout + done.stderr)
         self.assertGreater(len([line for line in lines if line.startswith("ok ")]), 20)
         self.assertGreater(len([line for line in lines if line.startswith("answer ")]), 12)
         self.assertEqual([line for line in lines if line.strip()], table.splitlines()[1 : len(lines)])
+        self.assertEqual(done.returncode, 1)
+        self.assertIn("ok      everything is as before the first question", lines)
+        # What pfctl says besides its answer is left out, and the rest is not cut off.
+        self.assertNotIn("ALTQ", table)
+        answer = next(line for line in table.splitlines() if "networksetup's words" in line)
+        self.assertIn("|Authenticated Proxy Enabled: 0|", answer)
+        for question in "pf's tables", "the network is there":  # on the screen before its answer
+            place = next(place for place, line in enumerate(run.splitlines()) if line == f"...     {question}")
+            self.assertRegex(run.splitlines()[place + 1], rf"^(?:answer|FAILED)  {question}")
         self.machine.shell("rm /usr/local/bin/tor")
+
+    def test_the_check_for_a_real_mac_finds_what_its_own_questions_change(self):
+        """A networksetup that empties no host, and a device that pf leaves out, with which nothing connects."""
+        self.place_check()
+        self.machine.write(
+            "/usr/local/bin/networksetup",
+            "#!/bin/sh\n"
+            '[ "$1" != -setsocksfirewallproxy ] || exec /usr/bin/networksetup "$1" "$2" left.example 1080 off\n'
+            'exec /usr/bin/networksetup "$@"\n',
+        )
+        self.machine.change(pf_skip="utun0")
+        self.machine.shell("chmod 755 /usr/local/bin/networksetup")
+        done = self.machine.run("/bin/bash", "/mac/real_mac.sh", "--change-this-mac", self.machine.helper, check=False, timeout=300)
+        self.machine.shell("rm /usr/local/bin/tor /usr/local/bin/networksetup")
+        table = done.stdout.split("---- the table, ")[1].splitlines()
+        for failed, said in {
+            "the questions have changed nothing": "> Server: left.example",
+            "everything is as before the first question": "> Server: left.example",
+            "connect --strict 1": "ERROR: The firewall leaves out the network device utun0",
+        }.items():
+            with self.subTest(failed):
+                self.assertIn(said, table[table.index(f"FAILED  {failed}") + 1], done.stdout + done.stderr)
+        self.assertIn("ok      everything is as before", table)  # the sessions have put everything back
 
     def test_the_check_for_a_real_mac_asks_a_person(self):
         """With programs that stand in for a Mac's network tools, and a person who presses Return and answers y."""
@@ -95,13 +127,20 @@ class Options(MacTest):
         for name, text in {
             "networkQuality": "exec sleep 1000",
             "nscurl": "exec sleep 2",
+            "osascript": 'printf "%s,%s\\r\\n%s\\r\\n" "$(id -u)" "$SUDO_UID" "$2"',
             "netstat": "echo 'en0 1500 <Link#4> 0:0:0:0:0:0 1 0 9 1 0 '$(date +%s)' 0'; echo 'lo0 16384 <Link#1> 1 0 9 1 0 7 0'",
         }.items():
             self.machine.write(f"/usr/local/bin/{name}", f"#!/bin/sh\n{text}\n")
             self.machine.shell(f"chmod 755 /usr/local/bin/{name}")
         words = ["--change-this-mac", self.machine.helper, "--person", "/Applications/Some.app"]
-        done = self.machine.run("/bin/bash", "/mac/real_mac.sh", *words, stdin="\n" + "y\n" * 40, check=False, timeout=120)
+        env = {"PATH": os.environ["PATH"], "SUDO_UID": str(USER_UID)}
+        done = self.machine.run("/bin/bash", "/mac/real_mac.sh", *words, stdin="\n" + "y\n" * 40, check=False, timeout=120, env=env)
         table = done.stdout.split("---- the table, ")[1].splitlines()
+        prompt = next(line for line in table if "ids and domain under the prompt" in line)
+        self.assertRegex(
+            prompt, rf"-> status 0: (?:sudo: [^|]*\|)?{USER_UID},\|do shell script"
+        )  # as the user, without sudo's words
+        self.assertRegex(prompt, r" with administrator privileges without altering line endings\|$")
         self.assertRegex(next(line for line in table if "from before the rules" in line), r"-> status 0: [4-7] bytes left in 5 s")
         self.assertEqual(len([line for line in table if line.startswith("answer ") and line.endswith("-> y")]), 11, done.stdout)
         self.assertEqual(
@@ -115,7 +154,9 @@ class Options(MacTest):
             done.stdout + done.stderr,
         )
         self.assertEqual(self.machine.run("pgrep", "-f", "sleep 1000", check=False).stdout, "")
-        self.machine.shell("rm /usr/local/bin/tor /usr/local/bin/networkQuality /usr/local/bin/nscurl /usr/local/bin/netstat")
+        self.machine.shell(
+            "rm /usr/local/bin/tor /usr/local/bin/networkQuality /usr/local/bin/nscurl /usr/local/bin/netstat /usr/local/bin/osascript"
+        )
         self.assertRestored()
 
     def test_the_check_for_a_real_mac_puts_back_what_it_was_stopped_in(self):
