@@ -37,6 +37,8 @@ restore() {
   end_flows
   /bin/bash "$helper" disconnect
   [[ ! -f $work/mine ]] || rm -f "$defaults"
+  [[ ! -f $work/probe.plist ]] || launchctl bootout system/veldmark.probe 2>/dev/null
+  if [[ -f $work/ipv6 ]]; then networksetup -setv6automatic "$(cat "$work/ipv6")"; fi
   if [[ -f $work/service ]]; then networksetup -setsocksfirewallproxystate "$(cat "$work/service")" off; fi
   [[ ! -f $work/first ]] || check "everything is as before the first question" as_before first
   echo
@@ -84,11 +86,11 @@ ask() {
   say "        decides: $decides"
 }
 
-# look QUESTION DECIDES: a question that only the person at the screen can answer.
+# look QUESTION DECIDES [ANSWERS]: a question that only the person at the screen can answer.
 look() {
   local answer=''
   [[ -n $person ]] || return 0
-  read -r -p "$1 (y/n) " answer
+  read -r -p "$1 (${3-y/n}) " answer
   say "answer  $1 -> $answer"
   say "        decides: $2"
 }
@@ -103,6 +105,7 @@ snapshot() {
       echo "$service $get"
       networksetup "-get$get" "${service#\*}"
     done
+    networksetup -getinfo "${service#\*}" | grep '^IPv6:'
   done
   for get in rules nat dummynet; do pfctl -s "$get" 2>/dev/null; done
   pfctl -s Tables 2>/dev/null
@@ -159,41 +162,124 @@ primary_name() { /bin/bash -p -c ". '$helper'; primary_service"; }
 words_of_networksetup() {
   networksetup -listallnetworkservices | head -n 1
   networksetup -getsocksfirewallproxy "$(first_service)"
+  echo "root's languages:"
+  defaults read -g AppleLanguages
+  echo "the user's:"
+  sudo -u "#$user" defaults read -g AppleLanguages
 }
 seconds_of_networksetup() {
   local count started=$SECONDS
   for ((count = 0; count < 20; count++)); do networksetup -getdnsservers "$(first_service)" >/dev/null; done
   echo "20 calls: $((SECONDS - started)) s"
 }
+bytes_out() { netstat -ibn | awk '/<Link#/ && $1 !~ /^lo/ { out += $(NF - 1) } END { print out }'; }
+bytes_in_5_s() {
+  local before
+  before=$(bytes_out)
+  sleep 5
+  echo $(($(bytes_out) - before))
+}
 # Flows of the system's own stack that are open before the rules change, and whether they go on: bytes that leave meanwhile.
 begin_flows() {
   : >"$work/flows"
   { command -v networkQuality && command -v nscurl; } >/dev/null || return 0
   networkQuality -s >/dev/null 2>&1 &
-  echo $! >>"$work/flows"
+  echo "$! networkQuality" >>"$work/flows"
   (while :; do nscurl https://1.1.1.1/; sleep 1; done) >/dev/null 2>&1 &   # new flows
-  echo $! >>"$work/flows"
+  echo "$! nscurl" >>"$work/flows"
   sleep 4
+  bytes_in_5_s >"$work/flows.before"
 }
-bytes_out() { netstat -ibn | awk '/<Link#/ && $1 !~ /^lo/ { out += $(NF - 1) } END { print out }'; }
 flows_go_on() {
-  local before
+  local process name
   [[ -s $work/flows ]] || { echo "no networkQuality or nscurl here"; return 1; }
+  echo "$(cat "$work/flows.before") bytes left in 5 s before the connect"
+  echo "$(bytes_in_5_s) bytes left in 5 s"
+  while read -r process name; do
+    if kill -0 "$process" 2>/dev/null; then echo "$name still runs"; else echo "$name has ended: nothing is known of it"; fi
+  done <"$work/flows"
+}
+# measured COMMAND...: its status and words, and the bytes that left meanwhile; it is ended after 20 s, with status 142.
+measured() {
+  local status=0 before
   before=$(bytes_out)
-  sleep 5
-  echo "$(($(bytes_out) - before)) bytes left in 5 s"
+  perl -e 'alarm 20; exec @ARGV' "$@" >"$work/flow" 2>&1 || status=$?
+  echo "$1: status $status, $(($(bytes_out) - before)) bytes left, $(head -n 3 "$work/flow" | tr '\n' ' ')"
+}
+flows() {
+  echo "nothing of ours: $(bytes_in_5_s) bytes left in 5 s"
+  measured nscurl https://example.com/
+  measured networkQuality -s -c
 }
 end_flows() {
   local process
   [[ -f $work/flows ]] || return 0
-  while read -r process; do kill "$process" 2>/dev/null; done <"$work/flows"
+  while read -r process _; do kill "$process" 2>/dev/null; done <"$work/flows"
   rm -f "$work/flows"
 }
-neighbours() { pfctl -v -a veldmark -s rules | grep -A 1 -e ff02 -e routeradv | grep -e pass -e Packets | head -n 20 | cut -c 1-100; }
+# A lease and the report to switches are sent when a service begins with IPv6.
+neighbours() {
+  local service
+  service=$(primary_name)
+  if networksetup -getinfo "$service" | grep -q '^IPv6: Automatic'; then
+    echo "$service" >"$work/ipv6"
+    networksetup -setv6off "$service"
+    networksetup -setv6automatic "$service"
+    rm -f "$work/ipv6"
+    sleep 5
+  else
+    echo "$service has no IPv6 of its own accord"
+  fi
+  pfctl -v -a veldmark -s rules | grep -A 1 -e ff02 -e fe80 -e routeradv | grep -e pass -e Packets
+}
 full_sync() { perl -e 'for (@ARGV) { open(my $f, "<", $_) or die; fcntl($f, 51, 0) or print "$_: $!\n" }' "$work/file" "$work" /private/etc; }
-again_at_once() {
-  launchctl list veldmark.tor >"$work/job" 2>&1
-  echo "$(grep -c '"PID"' "$work/job") process number"
+# polled TEXT COMMAND...: how often the command had to run, some 0.1 s apart, and its statuses until one was 0.
+polled() {
+  local text=$1 statuses='' status poll
+  shift
+  for ((poll = 1; poll <= 50; poll++)); do
+    status=0
+    "$@" >"$work/poll" 2>&1 || status=$?
+    statuses="$statuses $status"
+    ((status != 0)) || break
+    sleep 0.1
+  done
+  echo "$text: $poll times, statuses$statuses"
+}
+has_process() { launchctl list veldmark.probe | grep '"PID"'; }
+has_gone() { ! launchctl list veldmark.probe; }
+# A job that takes a second to end, like Tor: begun, ended, and begun again at once.
+job_of_its_own() {
+  local status=0
+  cat >"$work/probe.plist" <<END
+<?xml version="1.0" encoding="UTF-8"?>
+<plist version="1.0">
+<dict>
+	<key>Label</key>
+	<string>veldmark.probe</string>
+	<key>ProgramArguments</key>
+	<array>
+		<string>/bin/sh</string>
+		<string>-c</string>
+		<string>trap 'sleep 1; exit 0' TERM; while :; do sleep 0.1; done</string>
+	</array>
+	<key>RunAtLoad</key>
+	<true/>
+</dict>
+</plist>
+END
+  chmod -- 0644 "$work/probe.plist"
+  launchctl list veldmark.probe || echo "list of no job: status $?"
+  polled bootstrap launchctl bootstrap system "$work/probe.plist"
+  polled "a process number" has_process
+  launchctl list veldmark.probe
+  launchctl bootout system/veldmark.probe || status=$?
+  echo "bootout: status $status"
+  polled "bootstrap right after it" launchctl bootstrap system "$work/probe.plist"
+  polled "a process number" has_process
+  launchctl bootout system/veldmark.probe
+  polled "it is gone" has_gone
+  rm -f "$work/probe.plist"
 }
 
 trap restore EXIT
@@ -218,6 +304,7 @@ ask "the primary service" "which service has to be set" primary
 ask "drives and F_FULLFSYNC" "on which file systems a note outlives the power" full_sync
 ask "networksetup's words" "whether its sentences, and the words before values, are English in every language" words_of_networksetup
 ask "how long networksetup takes" "whether some 20 calls for a service fit into the 25 s at quitting" seconds_of_networksetup
+lines=60 ask "a job of its own, ended and begun again at once" "what launchctl list answers, how long launchd takes to tell a process number, and with which statuses it refuses meanwhile" job_of_its_own
 [[ -z $person ]] || ask "ids and domain under the prompt" "whether the helper is root by its real id, and what of it reaches the user's session" ids_under_prompt
 for rules in "print_proxy_rules 99 501" "print_strict_rules 99 501 0 0 ''" "print_strict_rules 99 501 1 1 400"; do
   /bin/bash -p -c ". '$helper'; $rules" >"$work/rules"
@@ -252,6 +339,10 @@ check "Tor's program is approved" approve_tor
 for strict in 0 1; do
   [[ $strict == 0 ]] || begin_flows
   check "connect --strict $strict" help connect --tor "$tor" --hash "$hash" --strict "$strict" --lan 0
+  if [[ $strict == 1 ]]; then
+    ask "networkQuality and nscurl from before the rules" "whether the system's own stack goes on past pf" flows_go_on
+    end_flows
+  fi
   check "the service that traffic goes through is switched" primary_switched
   ask "services that stay as they were" "which kinds of service (VPN, managed) cannot be set" not_switched
   check "Tor runs in its own account" tor_as_itself
@@ -259,14 +350,11 @@ for strict in 0 1; do
   check "a rule refers to them" grep -q '^anchor "veldmark"' <(pfctl -s rules 2>/dev/null)
   ask "pf reads back its main rules with ours (-n)" "whether they can be put right while a session lasts" read_back
   if [[ $strict == 1 ]]; then
-    ask "networkQuality and nscurl from before the rules" "whether the system's own stack goes on past pf" flows_go_on
-    end_flows
-    ask "rules for leases and neighbours, and their packets" "whether DHCPv6 and neighbour discovery match with the device's number in the address" neighbours
+    lines=200 ask "rules for leases and neighbours, and their packets" "whether DHCPv6 and neighbour discovery match with the device's number in the address" neighbours
   fi
   ask "pf's tables in a session" "they have to be the ones of above" pfctl -s Tables
   ask "pf's rules for dummynet in a session" "they have to be the ones of above" pfctl -s dummynet
   check "connect again" help connect --tor "$tor" --hash "$hash" --strict "$strict" --lan 0
-  ask "Tor's job right after it is begun" "how long launchd takes to tell a process number" again_at_once
   check "fix-dns" help fix-dns
   [[ $strict == 0 ]] || check "nothing gets past the kill switch" cannot_reach_out
   started=$SECONDS
@@ -279,9 +367,9 @@ check "the network is there again" reaches_out
 
 # ---- With the real Tor, and a person at the screen ----
 
-flows() { networkQuality -s -c & local quality=$!; nscurl https://example.com/ >/dev/null 2>&1; kill "$quality" 2>/dev/null; wait "$quality"; }
 if [[ -n $person ]]; then
   [[ ! -f $work/mine ]] || rm -f "$defaults"
+  ask "nscurl and networkQuality without a session" "nothing by itself: compare with the same in a session" flows
   echo "Begin a long download in Safari now, and leave it running. Then press Return."
   read -r
   check "connect --strict 1 with the real Tor" help connect --tor "$tor" --hash "$hash" --strict 1 --lan 0
@@ -290,7 +378,7 @@ if [[ -n $person ]]; then
   ask "nscurl and networkQuality past the proxy" "whether the system's user-space network stack obeys pf" flows
   check "nothing gets past the kill switch" cannot_reach_out
   check "an application without Tor" env SUDO_UID="$user" /bin/bash "$helper" launch --uid "$user" --app "$person"
-  look "Can the application that was opened use camera and microphone?" "whether the launcher has to disclaim responsibility for what it starts"
+  look "Is the application's window there?" "whether the launcher reaches the user's session from a terminal"
   check "disconnect" help disconnect
   check "the network is there again at the end" reaches_out
 
@@ -302,8 +390,10 @@ if [[ -n $person ]]; then
     look "Does a left click on its symbol open the panel alone, and a right click the menu alone?" "whether Qt may get a context menu here"
     look "Is the symbol black on a light menu bar and white on a dark one?" "whether the system colours it"
     look "Close its window and open it from Finder again: does the window come, in front of others? (other rules from macOS 14 on)" "whether our handler of the reopen event replaces Qt's, and whether the system lets it come to the front"
-    look "Connect, and end Tor by \"sudo launchctl bootout system/veldmark.tor\": did the system ask about notifications, and does one come?" "whether an unsigned bundle may show any"
-    ask "activities while connected" "whether App Nap is held off" pmset -g assertions
+    look "Connect in strict mode, and let Veldmark open $person without Tor. Can the application that was opened use camera and microphone?" "whether the launcher has to disclaim responsibility for what it starts"
+    look "In whose name did the system ask for camera and microphone?" "whose reasons the system shows, and whose permission it keeps" "a name, or none"
+    look "Close all of its windows, stay connected, and wait a minute: what does Activity Monitor show for it in the column App Nap?" "whether App Nap is held off" "Yes/No"
+    look "End Tor by \"sudo launchctl bootout system/veldmark.tor\": did the system ask about notifications, and does one come?" "whether an unsigned bundle may show any"
     look "Download the bundle anew, and open it in Downloads: does it say to move it first, and refuse \"start at login\"?" "whether the path of a translocated bundle is known by its name"
     ask "where the settings are" "whether they are in the bundle's user defaults" sudo -u "#$user" defaults read com.veldmark.veldmark
     echo "Leave it running, and go on as a second user by fast user switching, so that this window stays."

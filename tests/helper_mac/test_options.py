@@ -93,6 +93,18 @@ class Options(MacTest):
         self.assertNotIn("ALTQ", table)
         answer = next(line for line in table.splitlines() if "networksetup's words" in line)
         self.assertIn("|Authenticated Proxy Enabled: 0|", answer)
+        job = next(line for line in table.splitlines() if "a job of its own" in line)
+        self.assertRegex(
+            job, r"list of no job: status 113\|bootstrap: 1 times, statuses 0\|a process number: [2-9] times, statuses 1 [1 ]*0\|"
+        )
+        self.assertRegex(
+            job, r'\t"PID" = \d+;\|.*\|bootout: status 36\|bootstrap right after it: \d+ times, statuses 5 [5 ]*37 5 0\|'
+        )
+        self.assertRegex(job, r"it is gone: \d+ times, statuses [1 ]*0\|$")
+        rules = next(line for line in table.splitlines() if "rules for leases" in line)
+        self.assertIn("to ff02::/16 port = dhcpv6-server", rules)
+        calls = self.machine.calls("networksetup -setv6")
+        self.assertEqual(calls, ["networksetup -setv6off Wi-Fi", "networksetup -setv6automatic Wi-Fi"])
         for question in "pf's tables", "the network is there":  # on the screen before its answer
             place = next(place for place, line in enumerate(run.splitlines()) if line == f"...     {question}")
             self.assertRegex(run.splitlines()[place + 1], rf"^(?:answer|FAILED)  {question}")
@@ -125,7 +137,7 @@ class Options(MacTest):
         """With programs that stand in for a Mac's network tools, and a person who presses Return and answers y."""
         self.place_check()
         for name, text in {
-            "networkQuality": "exec sleep 1000",
+            "networkQuality": 'case "$*" in *-c*) echo slow; exit 3 ;; esac; exec sleep 1000',
             "nscurl": "exec sleep 2",
             "osascript": 'printf "%s,%s\\r\\n%s\\r\\n" "$(id -u)" "$SUDO_UID" "$2"',
             "netstat": "echo 'en0 1500 <Link#4> 0:0:0:0:0:0 1 0 9 1 0 '$(date +%s)' 0'; echo 'lo0 16384 <Link#1> 1 0 9 1 0 7 0'",
@@ -141,8 +153,17 @@ class Options(MacTest):
             prompt, rf"-> status 0: (?:sudo: [^|]*\|)?{USER_UID},\|do shell script"
         )  # as the user, without sudo's words
         self.assertRegex(prompt, r" with administrator privileges without altering line endings\|$")
-        self.assertRegex(next(line for line in table if "from before the rules" in line), r"-> status 0: [4-7] bytes left in 5 s")
-        self.assertEqual(len([line for line in table if line.startswith("answer ") and line.endswith("-> y")]), 11, done.stdout)
+        self.assertRegex(
+            next(line for line in table if "from before the rules" in line),
+            r"-> status 0: [4-7] bytes left in 5 s before the connect\|[4-7] bytes left in 5 s\|networkQuality still runs\|nscurl still runs\|$",
+        )
+        for line in (line for line in table if line.startswith("answer  nscurl and networkQuality")):
+            self.assertRegex(
+                line,
+                r"-> status 0: nothing of ours: [4-7] bytes left in 5 s\|"
+                r"nscurl: status 0, [1-4] bytes left, \|networkQuality: status 3, [01] bytes left, slow \|$",
+            )
+        self.assertEqual(len([line for line in table if line.startswith("answer ") and line.endswith("-> y")]), 14, done.stdout)
         self.assertEqual(
             [line for line in table if line.startswith("FAILED")],
             [

@@ -243,6 +243,12 @@ sub networksetup {
         print 'Auto Proxy Discovery: ', $state{"$at discovery"} // 'Off', "\n";
     } elsif ($verb eq '-setproxyautodiscovery') {
         $state{"$at discovery"} = "@rest" eq 'on' ? 'On' : 'Off';
+    } elsif ($verb eq '-getinfo') {
+        print "DHCP Configuration\nIP address: 192.168.1.7\nSubnet mask: 255.255.255.0\nRouter: 192.168.1.1\nClient ID: \n",
+            "IPv6: ", $state{"$at ipv6"} // 'Automatic', "\nIPv6 IP address: none\nIPv6 Router: none\n";
+    } elsif ($verb =~ /^-setv6(off|automatic)$/) {
+        refuse(@_) if @rest;
+        if ($1 eq 'off') { $state{"$at ipv6"} = 'Off' } else { delete $state{"$at ipv6"} }
     } else { refuse(@_) }
 }
 
