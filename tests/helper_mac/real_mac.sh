@@ -233,6 +233,18 @@ neighbours() {
   pfctl -v -a veldmark -s rules | grep -A 1 -e ff02 -e fe80 -e routeradv | grep -e pass -e Packets
 }
 full_sync() { perl -e 'for (@ARGV) { open(my $f, "<", $_) or die; fcntl($f, 51, 0) or print "$_: $!\n" }' "$work/file" "$work" /private/etc; }
+# What ls prints of a folder's access list, and whether the helper then refuses the folder (status 1), and takes it without (0).
+access_lists() {
+  local status=0
+  mkdir -p "$work/list"
+  /bin/bash -p -c ". '$helper'; safe_folders '$work/list'" || status=$?
+  echo "without a list: status $status"
+  chmod +a "everyone allow add_file,delete" "$work/list" || return
+  ls -lde -- "$work/list"
+  status=0
+  /bin/bash -p -c ". '$helper'; safe_folders '$work/list'" || status=$?
+  echo "with one: status $status"
+}
 # polled TEXT COMMAND...: how often the command had to run, some 0.1 s apart, and its statuses until one was 0.
 polled() {
   local text=$1 statuses='' status poll
@@ -301,6 +313,7 @@ ask "getters of a service that fail" "which services are left alone: VPN, manage
 ask "a SOCKS proxy that is emptied" "whether an empty host is put back exactly" empties_proxy
 ask "a name with several addresses" "how dscacheutil separates them" two_addresses
 ask "the primary service" "which service has to be set" primary
+ask "access lists of folders" "whether a folder that a list opens to others is refused" access_lists
 ask "drives and F_FULLFSYNC" "on which file systems a note outlives the power" full_sync
 ask "networksetup's words" "whether its sentences, and the words before values, are English in every language" words_of_networksetup
 ask "how long networksetup takes" "whether some 20 calls for a service fit into the 25 s at quitting" seconds_of_networksetup
@@ -323,8 +336,32 @@ approve_tor() {
 }
 primary_switched() { is_switched "$(primary_name)"; }
 not_switched() { active_services | while IFS= read -r service; do is_switched "$service" || echo "$service"; done; }
+# A lookup that is sent to this computer, with a program of ours at Tor's port: without a network Tor opens none.
+# shellcheck disable=SC2016
+lookup_is_redirected() {
+  perl -MIO::Socket::INET -MIO::Select -e '
+    my $tor = IO::Socket::INET->new(Proto => "udp", LocalAddr => "127.0.0.1", LocalPort => 9053) or die "port 9053: $!\n";
+    my $asks = IO::Socket::INET->new(Proto => "udp", PeerAddr => "127.0.0.1", PeerPort => 53) or die "$!\n";
+    $asks->send("question");
+    IO::Select->new($tor)->can_read(3) or die "nothing comes to port 9053\n";
+    my $from = $tor->recv(my $text, 100);
+    $tor->send("answer to $text", 0, $from);
+    IO::Select->new($asks)->can_read(3) && $asks->recv($text, 100);
+    $text eq "answer to question" or die "no answer comes back from port 53\n"'
+}
+# as_ids UID GID COMMAND...
+# shellcheck disable=SC2016
+as_ids() {
+  perl -MPOSIX -e 'my ($uid, $gid) = splice(@ARGV, 0, 2); $) = "$gid $gid"; POSIX::setgid($gid); POSIX::setuid($uid);
+    $> == $uid && $) + 0 == $gid && exec { $ARGV[0] } @ARGV; exit 126' "$@"
+}
+number_of() { dscl . -read "$1" "$2" | awk '{ print $2 }'; }
+tor_reaches_out() { as_ids "$(number_of /Users/_veldmark UniqueID)" "$(number_of /Users/_veldmark PrimaryGroupID)" "${reach[@]}"; }
+bypass_reaches_out() { as_ids "$user" "$(number_of /Groups/_veldmark_bypass PrimaryGroupID)" "${reach[@]}"; }
+user_cannot_reach_out() { ! as_ids "$user" 20 "${reach[@]}"; }
 tor_as_itself() { pgrep -u "$(dscl . -read /Users/_veldmark UniqueID | awk '{ print $2 }')" -x tor >/dev/null; }
-reaches_out() { curl -s -S -o /dev/null --noproxy '*' --connect-timeout 5 https://1.1.1.1/; }
+reach=(curl -s -S -o /dev/null --noproxy '*' --connect-timeout 5 https://1.1.1.1/)
+reaches_out() { "${reach[@]}"; }
 cannot_reach_out() { ! reaches_out; }
 
 if [[ ! -e $defaults ]]; then
@@ -356,7 +393,13 @@ for strict in 0 1; do
   ask "pf's rules for dummynet in a session" "they have to be the ones of above" pfctl -s dummynet
   check "connect again" help connect --tor "$tor" --hash "$hash" --strict "$strict" --lan 0
   check "fix-dns" help fix-dns
-  [[ $strict == 0 ]] || check "nothing gets past the kill switch" cannot_reach_out
+  check "a lookup that is sent to this computer comes to Tor's port" lookup_is_redirected
+  if [[ $strict == 1 ]]; then
+    check "Tor's account gets past the kill switch" tor_reaches_out
+    check "the group of applications without Tor gets past it" bypass_reaches_out
+    check "nothing of root's gets past the kill switch" cannot_reach_out
+    check "nothing of the user's gets past the kill switch" user_cannot_reach_out
+  fi
   started=$SECONDS
   check "disconnect" help disconnect
   say "answer  how long a disconnect takes -> $((SECONDS - started)) s"
@@ -376,6 +419,7 @@ if [[ -n $person ]]; then
   look "Does Safari's download from before stand still?" "whether flows of the user-space network stack that were open before end with pf's states"
   look "Does a new page in Safari load, with its address shown as an exit's by check.torproject.org?" "whether the services' proxy is used"
   ask "nscurl and networkQuality past the proxy" "whether the system's user-space network stack obeys pf" flows
+  ask "a name that is looked up through Tor" "whether lookups are answered in a session" dig +time=20 +tries=1 +short @127.0.0.1 example.com
   check "nothing gets past the kill switch" cannot_reach_out
   check "an application without Tor" env SUDO_UID="$user" /bin/bash "$helper" launch --uid "$user" --app "$person"
   look "Is the application's window there?" "whether the launcher reaches the user's session from a terminal"
