@@ -44,6 +44,22 @@ class Options(MacTest):
     def test_a_caller_who_is_not_root_is_refused(self):
         self.assertOneLine(self.machine.help("disconnect", uid=USER_UID, check=False), "must run as root")
 
+    def test_a_prompt_that_makes_only_the_effective_ids_roots(self):
+        """The program's prompt gives bash no -p. A bash that gives root up changes nothing and says so; in one that keeps root the
+        helper becomes root altogether, and without perl it still disconnects."""
+        self.machine.write("/mac/calls", "")
+        self.assertOneLine(self.machine.help_apart(*linux_options.words(), keeps=False), "must run as root")
+        self.assertRestored()
+        self.assertEqual(self.machine.calls("networksetup"), [])
+        done = self.machine.help_apart(*linux_options.words(), keeps=True)
+        self.assertEqual((done.returncode, done.stdout, done.stderr), (0, "", ""))
+        self.assertIsNotNone(self.machine.tor())
+        self.machine.shell("/mac/gnu/mv /usr/bin/perl /mac/perl.away")
+        done = self.machine.help_apart("disconnect", keeps=True)
+        self.machine.shell("/mac/gnu/mv /mac/perl.away /usr/bin/perl")
+        self.assertEqual((done.returncode, done.stdout, done.stderr), (0, "", ""))
+        self.assertRestored()
+
     def test_nothing_from_the_environment_counts(self):
         self.machine.shell(
             "mkdir -p /run/bin; for name in pfctl perl stat; do printf '#!/bin/sh\ntouch /run/pwned\n' >/run/bin/$name;"
