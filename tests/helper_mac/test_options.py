@@ -181,7 +181,7 @@ class Options(MacTest):
             " add rule ip pf out ip daddr 127.0.0.1 udp dport 53 redirect to :9053'"
         )
         env = {"PATH": os.environ["PATH"], "SUDO_UID": str(USER_UID)}
-        done = self.machine.run("/bin/bash", "/mac/real_mac.sh", *words, stdin="\n" + "y\n" * 40, check=False, timeout=120, env=env)
+        done = self.machine.run("/bin/bash", "/mac/real_mac.sh", *words, stdin="\n" + "y\n" * 40, check=False, timeout=300, env=env)
         table = done.stdout.split("---- the table, ")[1].splitlines()
         prompt = next(line for line in table if "ids and domain under the prompt" in line)
         self.assertRegex(
