@@ -204,11 +204,11 @@ class Mac(namespace.Machine):
         except FileNotFoundError:
             pass
 
-    def help(self, *arguments, **options):
-        """Runs the helper like the administrator prompt: without the caller's name. osascript may make only the effective ids
-        root's. -p stands for a Mac's bash, which then keeps them, or no script could run there as an administrator."""
-        apart = [] if "uid" in options or "env" in options else ["/mac/gnu/perl", "-e", f"$( = $< = {USER_UID}; exec @ARGV"]
-        return self.run(*apart, "/bin/bash", *(["-p"] if apart else []), self.helper, *arguments, **options)
+    def help_apart(self, *arguments, keeps):
+        """Runs the helper as a prompt that makes only the effective ids root's, in a bash that keeps them or gives them up: this
+        system's keeps them with -p."""
+        apart = ["/mac/gnu/perl", "-e", f"$( = $< = {USER_UID}; exec @ARGV"]
+        return self.run(*apart, "/bin/bash", *(["-p"] if keeps else []), self.helper, *arguments, check=False)
 
     def restart(self):
         """Restarts the computer: settings and files stay; rules, jobs and processes go."""

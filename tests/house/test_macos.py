@@ -83,6 +83,24 @@ class Build(unittest.TestCase):
         mac = next(preset for preset in presets if preset["name"] == "mac")
         self.assertEqual(mac["cacheVariables"]["CMAKE_OSX_ARCHITECTURES"], "arm64;x86_64")
 
+    def test_a_mac_makes_no_program_that_only_linux_can_run(self):
+        """The tests' folder ends on a Mac before the folders and targets of these programs."""
+        tests = ROOT / "tests"
+        text = (tests / "CMakeLists.txt").read_text(encoding="utf-8")
+        on_a_mac, end, elsewhere = text.partition("if(APPLE)\n    return()\nendif()\n")
+        self.assertTrue(end)
+        for program in "FastForward", "FatalStep":
+            made = [
+                path.parent
+                for path in tests.rglob("CMakeLists.txt")
+                if re.search(rf"\badd_\w+\({program}\b", path.read_text("utf-8"))
+            ]
+            self.assertEqual(made, [tests / "lab"])
+            self.assertNotIn(program, on_a_mac)
+        folders = re.search(r"foreach\(suite ([^)]*)\)\n    add_subdirectory", elsewhere)[1].split()
+        self.assertIn("lab", folders)
+        self.assertNotRegex(on_a_mac, r"\blab\b")
+
 
 class Workflow(unittest.TestCase):
     """What macdeployqt does, by its documentation: it copies the platform plugin of windows alone, and changes the library paths of

@@ -74,14 +74,14 @@ sub gnu { become_program("/mac/gnu/$name", $name, @_) }
 
 # ---- small ones ----
 
-# A volume of the system, and a medium in the folder that "attached" names, if any.
+# df(1): -P. A volume of the system, and a medium in the folder that "attached" names, if any.
 sub df {
     refuse(@_) unless @_ == 3 && "@_[0, 1]" eq '-P --' && -e $_[2];
     my $medium = $state{attached} // '';
     print "Filesystem 512-blocks Used Available Capacity Mounted on\n/dev/disk1 100 50 50 50% ",
         $medium ne '' && index($_[2], "$medium/") == 0 ? $medium : '/', "\n";
 }
-sub mount {
+sub mount {   # mount(8): without words it lists
     refuse(@_) if @_;
     print "/dev/disk1 on / (apfs, local, journaled)\n";
     print "/dev/disk2 on $state{attached} (apfs, local, nodev, nosuid, noowners)\n" if $state{attached};
@@ -89,11 +89,14 @@ sub mount {
 
 sub uname { refuse(@_) unless "@_" eq '-s'; print "Darwin\n" }
 sub sync { refuse(@_) if @_ }
+# mv(1): no -T, no -t
 sub mv { refuse(@_) if grep { /^-./ && $_ ne '-f' && $_ ne '--' } @_; gnu(@_) }
+# killall(1): -SIGNAL before the name
 sub killall { refuse(@_) unless "@_" eq '-HUP mDNSResponder'; $state{'dns flushed'} = 1 }
 sub ifconfig { print "lo0: flags=8049<UP,LOOPBACK,RUNNING,MULTICAST> mtu 16384\n\tinet 127.0.0.1 netmask 0xff000000\n\tinet6 ::1 prefixlen 128\n" }
 sub sysctl { refuse(@_) unless "@_" eq '-n kern.bootsessionuuid'; print "$state{boot}\n" }
 
+# stat(1): -f takes a format; no -c
 sub stat_ {
     my ($option, $format, @paths) = @_;
     refuse(@_) unless $option eq '-f' && $format eq '%Lp %u %HT';
@@ -106,6 +109,7 @@ sub stat_ {
     finish($failed);
 }
 
+# ls(1): -e prints access lists
 sub ls {
     my ($option, @paths) = @_;
     refuse(@_) unless $option eq '-lde';
@@ -243,6 +247,12 @@ sub networksetup {
         print 'Auto Proxy Discovery: ', $state{"$at discovery"} // 'Off', "\n";
     } elsif ($verb eq '-setproxyautodiscovery') {
         $state{"$at discovery"} = "@rest" eq 'on' ? 'On' : 'Off';
+    } elsif ($verb eq '-getinfo') {
+        print "DHCP Configuration\nIP address: 192.168.1.7\nSubnet mask: 255.255.255.0\nRouter: 192.168.1.1\nClient ID: \n",
+            "IPv6: ", $state{"$at ipv6"} // 'Automatic', "\nIPv6 IP address: none\nIPv6 Router: none\n";
+    } elsif ($verb =~ /^-setv6(off|automatic)$/) {
+        refuse(@_) if @rest;
+        if ($1 eq 'off') { $state{"$at ipv6"} = 'Off' } else { delete $state{"$at ipv6"} }
     } else { refuse(@_) }
 }
 
