@@ -42,7 +42,7 @@ struct SupportReport {
     QDateTime made; // UTC
     std::vector<Section> sections;
 
-    static SupportReport of(const ReportSources &sources, const KnownSecrets &known);
+    static SupportReport of(const ReportSources &from, const KnownSecrets &known);
 
     QString text() const; // ends with a line feed
     // {"made": …, "sections": [{"title": …, "lines": […]}]}
