@@ -1,8 +1,10 @@
-// Pasted bridge lines, in any UTF-16, and the root helper's arguments for them.
+// Pasted bridge lines, in any UTF-16, bridges within other text, and the root helper's arguments
+// for them.
 #include "fuzz/Require.h"
 
 #include "bridges/BridgeLines.h"
 #include "bridges/BridgePlan.h"
+#include "bridges/BridgeText.h"
 
 #include <cstring>
 
@@ -40,6 +42,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     REQUIRE(hasKeyword || BridgeLines::parse(parsed.lines.join(u'\n')).lines == parsed.lines);
     const auto custom = BridgeLines::custom(text);
     REQUIRE(custom.has_value() == (parsed.invalid.isEmpty() && !parsed.lines.isEmpty()));
+    for (const QString &line : BridgeText::found(text))
+        REQUIRE(BridgeLines::isValid(line) && BridgeLines::parse(line).lines == QStringList{line});
 
     PluggableTransports transports;
     transports.lyrebird = transports.snowflake = transports.webtunnel = QStringLiteral(

@@ -23,6 +23,10 @@ _veldmarkctl()
             [[ $word != */* ]] || _veldmarkctl_files "$word"
             return
             ;;
+        add-bridges)
+            _veldmarkctl_files "$word"
+            return
+            ;;
         get) ((COMP_CWORD != 2)) || choices=$(_veldmarkctl_words fields) ;;
         set)
             if ((COMP_CWORD == 2)); then

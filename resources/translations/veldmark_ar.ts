@@ -123,6 +123,18 @@
         <source>Cancel</source>
         <translation>إلغاء</translation>
     </message>
+    <message>
+        <source>There is no bridge in this file.</source>
+        <translation>لا يوجد جسر في هذا الملف.</translation>
+    </message>
+    <message>
+        <source>Keep Only the Bridges</source>
+        <translation>إبقاء الجسور فقط</translation>
+    </message>
+    <message>
+        <source>Removes everything from the text but the bridges that were recognized</source>
+        <translation>يزيل من النص كل شيء عدا الجسور التي جرى التعرف عليها</translation>
+    </message>
 </context>
 <context>
     <name>ChooserWindow</name>
@@ -3847,6 +3859,32 @@ names, bridges and keys. Nothing sends it. Look through it before you give it
 away</source>
         <translation>تقرير لمن يساعدونك: الإعدادات والنتائج والسجل دون العناوين والأسماء
 والجسور والمفاتيح. لا شيء يرسله. راجعه قبل أن تعطيه لأحد</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read: %2</source>
+        <translation>لا يمكن قراءة ⁨%1⁩: ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>There is no bridge in %1.</source>
+        <translation>لا يوجد جسر في ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>added: %1</source>
+        <translation>أُضيف: ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>already there: %1</source>
+        <translation>موجود من قبل: ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>add the bridges in a text to your own: in bridge lines, a whole e-mail or
+a web page. FILE &quot;-&quot; is standard input</source>
+        <translation>إضافة الجسور الموجودة في نص إلى جسورك: أسطر جسور أو رسالة بريد كاملة أو
+صفحة ويب. FILE «-» هو الإدخال القياسي</translation>
+    </message>
+    <message>
+        <source>add-bridges needs a file; &quot;-&quot; is standard input.</source>
+        <translation>يحتاج add-bridges إلى ملف؛ «-» هو الإدخال القياسي.</translation>
     </message>
 </context>
 <context>

@@ -123,6 +123,18 @@
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
+    <message>
+        <source>There is no bridge in this file.</source>
+        <translation>In dieser Datei ist keine Brücke.</translation>
+    </message>
+    <message>
+        <source>Keep Only the Bridges</source>
+        <translation>Nur die Brücken behalten</translation>
+    </message>
+    <message>
+        <source>Removes everything from the text but the bridges that were recognized</source>
+        <translation>Entfernt aus dem Text alles außer den erkannten Brücken</translation>
+    </message>
 </context>
 <context>
     <name>ChooserWindow</name>
@@ -3848,6 +3860,32 @@ away</source>
         <translation>ein Bericht für alle, die Ihnen helfen: Einstellungen, Befunde und Protokoll
 ohne Adressen, Namen, Brücken und Schlüssel. Nichts versendet ihn. Sehen Sie
 ihn durch, bevor Sie ihn weitergeben</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read: %2</source>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>There is no bridge in %1.</source>
+        <translation>In %1 ist keine Brücke.</translation>
+    </message>
+    <message>
+        <source>added: %1</source>
+        <translation>hinzugefügt: %1</translation>
+    </message>
+    <message>
+        <source>already there: %1</source>
+        <translation>schon vorhanden: %1</translation>
+    </message>
+    <message>
+        <source>add the bridges in a text to your own: in bridge lines, a whole e-mail or
+a web page. FILE &quot;-&quot; is standard input</source>
+        <translation>die Brücken aus einem Text zu den eigenen hinzufügen: aus Brückenzeilen,
+einer ganzen E-Mail oder einer Webseite. FILE „-“ ist die Standardeingabe</translation>
+    </message>
+    <message>
+        <source>add-bridges needs a file; &quot;-&quot; is standard input.</source>
+        <translation>add-bridges braucht eine Datei; „-“ ist die Standardeingabe.</translation>
     </message>
 </context>
 <context>

@@ -123,6 +123,18 @@
         <source>Cancel</source>
         <translation>Cancelar</translation>
     </message>
+    <message>
+        <source>There is no bridge in this file.</source>
+        <translation>Este archivo no contiene ningún puente.</translation>
+    </message>
+    <message>
+        <source>Keep Only the Bridges</source>
+        <translation>Conservar solo los puentes</translation>
+    </message>
+    <message>
+        <source>Removes everything from the text but the bridges that were recognized</source>
+        <translation>Quita del texto todo salvo los puentes reconocidos</translation>
+    </message>
 </context>
 <context>
     <name>ChooserWindow</name>
@@ -3848,6 +3860,32 @@ away</source>
         <translation>un informe para quienes le ayudan: ajustes, hallazgos y registro sin
 direcciones, nombres, puentes ni claves. Nada lo envía. Revíselo antes de
 entregarlo</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read: %2</source>
+        <translation>No se puede leer %1: %2</translation>
+    </message>
+    <message>
+        <source>There is no bridge in %1.</source>
+        <translation>No hay ningún puente en %1.</translation>
+    </message>
+    <message>
+        <source>added: %1</source>
+        <translation>añadido: %1</translation>
+    </message>
+    <message>
+        <source>already there: %1</source>
+        <translation>ya estaba: %1</translation>
+    </message>
+    <message>
+        <source>add the bridges in a text to your own: in bridge lines, a whole e-mail or
+a web page. FILE &quot;-&quot; is standard input</source>
+        <translation>añadir a los suyos los puentes de un texto: líneas de puentes, un correo
+entero o una página web. FILE «-» es la entrada estándar</translation>
+    </message>
+    <message>
+        <source>add-bridges needs a file; &quot;-&quot; is standard input.</source>
+        <translation>add-bridges necesita un archivo; «-» es la entrada estándar.</translation>
     </message>
 </context>
 <context>

@@ -123,6 +123,18 @@
         <source>Cancel</source>
         <translation>لغو</translation>
     </message>
+    <message>
+        <source>There is no bridge in this file.</source>
+        <translation>در این پرونده پلی نیست.</translation>
+    </message>
+    <message>
+        <source>Keep Only the Bridges</source>
+        <translation>فقط پل‌ها بمانند</translation>
+    </message>
+    <message>
+        <source>Removes everything from the text but the bridges that were recognized</source>
+        <translation>هر چیزی جز پل‌های شناخته‌شده را از متن پاک می‌کند</translation>
+    </message>
 </context>
 <context>
     <name>ChooserWindow</name>
@@ -3848,6 +3860,32 @@ away</source>
         <translation>گزارشی برای کسانی که به شما کمک می‌کنند: تنظیمات، یافته‌ها و گزارش Tor بدون
 نشانی‌ها، نام‌ها، پل‌ها و کلیدها. هیچ چیزی آن را نمی‌فرستد. پیش از آن‌که آن را
 به کسی بدهید مرورش کنید</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read: %2</source>
+        <translation>⁨%1⁩ را نمی‌توان خواند: ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>There is no bridge in %1.</source>
+        <translation>در ⁨%1⁩ پلی نیست.</translation>
+    </message>
+    <message>
+        <source>added: %1</source>
+        <translation>افزوده شد: ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>already there: %1</source>
+        <translation>از پیش هست: ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>add the bridges in a text to your own: in bridge lines, a whole e-mail or
+a web page. FILE &quot;-&quot; is standard input</source>
+        <translation>پل‌های درون یک متن را به پل‌های خودتان می‌افزاید: سطرهای پل، یک رایانامهٔ
+کامل یا یک صفحهٔ وب. FILE برابر «-» ورودی استاندارد است</translation>
+    </message>
+    <message>
+        <source>add-bridges needs a file; &quot;-&quot; is standard input.</source>
+        <translation>add-bridges یک پرونده می‌خواهد؛ «-» ورودی استاندارد است.</translation>
     </message>
 </context>
 <context>

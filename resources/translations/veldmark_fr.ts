@@ -123,6 +123,18 @@
         <source>Cancel</source>
         <translation>Annuler</translation>
     </message>
+    <message>
+        <source>There is no bridge in this file.</source>
+        <translation>Ce fichier ne contient aucun pont.</translation>
+    </message>
+    <message>
+        <source>Keep Only the Bridges</source>
+        <translation>Garder seulement les ponts</translation>
+    </message>
+    <message>
+        <source>Removes everything from the text but the bridges that were recognized</source>
+        <translation>Retire du texte tout sauf les ponts reconnus</translation>
+    </message>
 </context>
 <context>
     <name>ChooserWindow</name>
@@ -3848,6 +3860,32 @@ away</source>
         <translation>un rapport pour ceux qui vous aident : réglages, constats et journal, sans
 adresses, noms, ponts ni clés. Rien ne l’envoie. Parcourez-le avant de le
 donner</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read: %2</source>
+        <translation>Impossible de lire %1 : %2</translation>
+    </message>
+    <message>
+        <source>There is no bridge in %1.</source>
+        <translation>Il n’y a aucun pont dans %1.</translation>
+    </message>
+    <message>
+        <source>added: %1</source>
+        <translation>ajouté : %1</translation>
+    </message>
+    <message>
+        <source>already there: %1</source>
+        <translation>déjà présent : %1</translation>
+    </message>
+    <message>
+        <source>add the bridges in a text to your own: in bridge lines, a whole e-mail or
+a web page. FILE &quot;-&quot; is standard input</source>
+        <translation>ajouter les ponts d’un texte aux vôtres : lignes de ponts, e-mail entier ou
+page web. « - » comme FILE désigne l’entrée standard</translation>
+    </message>
+    <message>
+        <source>add-bridges needs a file; &quot;-&quot; is standard input.</source>
+        <translation>add-bridges a besoin d’un fichier ; « - » désigne l’entrée standard.</translation>
     </message>
 </context>
 <context>

@@ -123,6 +123,18 @@
         <source>Cancel</source>
         <translation>Cancelar</translation>
     </message>
+    <message>
+        <source>There is no bridge in this file.</source>
+        <translation>Este arquivo não contém nenhuma ponte.</translation>
+    </message>
+    <message>
+        <source>Keep Only the Bridges</source>
+        <translation>Manter só as pontes</translation>
+    </message>
+    <message>
+        <source>Removes everything from the text but the bridges that were recognized</source>
+        <translation>Remove do texto tudo, menos as pontes reconhecidas</translation>
+    </message>
 </context>
 <context>
     <name>ChooserWindow</name>
@@ -3848,6 +3860,32 @@ away</source>
         <translation>um relatório para quem ajuda você: configurações, constatações e registro sem
 endereços, nomes, pontes nem chaves. Nada o envia. Revise-o antes de
 entregá-lo</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read: %2</source>
+        <translation>Não é possível ler %1: %2</translation>
+    </message>
+    <message>
+        <source>There is no bridge in %1.</source>
+        <translation>Não há nenhuma ponte em %1.</translation>
+    </message>
+    <message>
+        <source>added: %1</source>
+        <translation>adicionada: %1</translation>
+    </message>
+    <message>
+        <source>already there: %1</source>
+        <translation>já existia: %1</translation>
+    </message>
+    <message>
+        <source>add the bridges in a text to your own: in bridge lines, a whole e-mail or
+a web page. FILE &quot;-&quot; is standard input</source>
+        <translation>adicionar às suas as pontes de um texto: linhas de pontes, um e-mail
+inteiro ou uma página web. FILE &quot;-&quot; é a entrada padrão</translation>
+    </message>
+    <message>
+        <source>add-bridges needs a file; &quot;-&quot; is standard input.</source>
+        <translation>add-bridges precisa de um arquivo; &quot;-&quot; é a entrada padrão.</translation>
     </message>
 </context>
 <context>

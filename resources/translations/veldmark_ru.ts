@@ -123,6 +123,18 @@
         <source>Cancel</source>
         <translation>Отмена</translation>
     </message>
+    <message>
+        <source>There is no bridge in this file.</source>
+        <translation>В этом файле нет мостов.</translation>
+    </message>
+    <message>
+        <source>Keep Only the Bridges</source>
+        <translation>Оставить только мосты</translation>
+    </message>
+    <message>
+        <source>Removes everything from the text but the bridges that were recognized</source>
+        <translation>Удаляет из текста всё, кроме распознанных мостов</translation>
+    </message>
 </context>
 <context>
     <name>ChooserWindow</name>
@@ -3848,6 +3860,32 @@ away</source>
         <translation>отчёт для тех, кто вам помогает: настройки, выводы проверки и журнал без
 адресов, имён, мостов и ключей. Ничто его не отправляет. Просмотрите его,
 прежде чем передать</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read: %2</source>
+        <translation>Не удаётся прочитать %1: %2</translation>
+    </message>
+    <message>
+        <source>There is no bridge in %1.</source>
+        <translation>В %1 нет мостов.</translation>
+    </message>
+    <message>
+        <source>added: %1</source>
+        <translation>добавлен: %1</translation>
+    </message>
+    <message>
+        <source>already there: %1</source>
+        <translation>уже есть: %1</translation>
+    </message>
+    <message>
+        <source>add the bridges in a text to your own: in bridge lines, a whole e-mail or
+a web page. FILE &quot;-&quot; is standard input</source>
+        <translation>добавить к своим мосты из текста: из строк мостов, целого письма или
+веб-страницы. FILE «-» — стандартный ввод</translation>
+    </message>
+    <message>
+        <source>add-bridges needs a file; &quot;-&quot; is standard input.</source>
+        <translation>add-bridges нужен файл; «-» — стандартный ввод.</translation>
     </message>
 </context>
 <context>

@@ -123,6 +123,18 @@
         <source>Cancel</source>
         <translation>İptal</translation>
     </message>
+    <message>
+        <source>There is no bridge in this file.</source>
+        <translation>Bu dosyada köprü yok.</translation>
+    </message>
+    <message>
+        <source>Keep Only the Bridges</source>
+        <translation>Yalnızca köprüleri tut</translation>
+    </message>
+    <message>
+        <source>Removes everything from the text but the bridges that were recognized</source>
+        <translation>Tanınan köprüler dışında metindeki her şeyi kaldırır</translation>
+    </message>
 </context>
 <context>
     <name>ChooserWindow</name>
@@ -3848,6 +3860,32 @@ away</source>
         <translation>size yardım edenler için rapor: adresler, adlar, köprüler ve anahtarlar
 olmadan ayarlar, bulgular ve günlük. Hiçbir şey onu göndermez. Vermeden önce
 gözden geçirin</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read: %2</source>
+        <translation>%1 okunamıyor: %2</translation>
+    </message>
+    <message>
+        <source>There is no bridge in %1.</source>
+        <translation>%1 içinde köprü yok.</translation>
+    </message>
+    <message>
+        <source>added: %1</source>
+        <translation>eklendi: %1</translation>
+    </message>
+    <message>
+        <source>already there: %1</source>
+        <translation>zaten var: %1</translation>
+    </message>
+    <message>
+        <source>add the bridges in a text to your own: in bridge lines, a whole e-mail or
+a web page. FILE &quot;-&quot; is standard input</source>
+        <translation>bir metindeki köprüleri kendi köprülerinize ekler: köprü satırları, bütün bir
+e-posta ya da web sayfası. FILE &quot;-&quot; standart girdidir</translation>
+    </message>
+    <message>
+        <source>add-bridges needs a file; &quot;-&quot; is standard input.</source>
+        <translation>add-bridges bir dosya ister; &quot;-&quot; standart girdidir.</translation>
     </message>
 </context>
 <context>

@@ -123,6 +123,18 @@
         <source>Cancel</source>
         <translation>Скасувати</translation>
     </message>
+    <message>
+        <source>There is no bridge in this file.</source>
+        <translation>У цьому файлі немає мостів.</translation>
+    </message>
+    <message>
+        <source>Keep Only the Bridges</source>
+        <translation>Залишити лише мости</translation>
+    </message>
+    <message>
+        <source>Removes everything from the text but the bridges that were recognized</source>
+        <translation>Вилучає з тексту все, крім розпізнаних мостів</translation>
+    </message>
 </context>
 <context>
     <name>ChooserWindow</name>
@@ -3848,6 +3860,32 @@ away</source>
         <translation>звіт для тих, хто вам допомагає: налаштування, висновки перевірки та журнал
 без адрес, імен, мостів і ключів. Ніщо його не надсилає. Перегляньте його,
 перш ніж передати</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read: %2</source>
+        <translation>Не вдається прочитати %1: %2</translation>
+    </message>
+    <message>
+        <source>There is no bridge in %1.</source>
+        <translation>У %1 немає мостів.</translation>
+    </message>
+    <message>
+        <source>added: %1</source>
+        <translation>додано: %1</translation>
+    </message>
+    <message>
+        <source>already there: %1</source>
+        <translation>уже є: %1</translation>
+    </message>
+    <message>
+        <source>add the bridges in a text to your own: in bridge lines, a whole e-mail or
+a web page. FILE &quot;-&quot; is standard input</source>
+        <translation>додати до власних мости з тексту: з рядків мостів, цілого листа або
+вебсторінки. FILE «-» — стандартний ввід</translation>
+    </message>
+    <message>
+        <source>add-bridges needs a file; &quot;-&quot; is standard input.</source>
+        <translation>add-bridges потребує файлу; «-» — стандартний ввід.</translation>
     </message>
 </context>
 <context>

@@ -123,6 +123,18 @@
         <source>Cancel</source>
         <translation>取消</translation>
     </message>
+    <message>
+        <source>There is no bridge in this file.</source>
+        <translation>此文件中没有网桥。</translation>
+    </message>
+    <message>
+        <source>Keep Only the Bridges</source>
+        <translation>只保留网桥</translation>
+    </message>
+    <message>
+        <source>Removes everything from the text but the bridges that were recognized</source>
+        <translation>从文本中移除除已识别网桥以外的所有内容</translation>
+    </message>
 </context>
 <context>
     <name>ChooserWindow</name>
@@ -3847,6 +3859,32 @@ names, bridges and keys. Nothing sends it. Look through it before you give it
 away</source>
         <translation>供帮助您的人使用的报告：设置、检查结果和日志，不含地址、名称、网桥和密钥。
 没有任何程序会发送它。交出之前请先过目</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>There is no bridge in %1.</source>
+        <translation>%1 中没有网桥。</translation>
+    </message>
+    <message>
+        <source>added: %1</source>
+        <translation>已添加：%1</translation>
+    </message>
+    <message>
+        <source>already there: %1</source>
+        <translation>已存在：%1</translation>
+    </message>
+    <message>
+        <source>add the bridges in a text to your own: in bridge lines, a whole e-mail or
+a web page. FILE &quot;-&quot; is standard input</source>
+        <translation>把文本中的网桥加入自己的网桥：网桥行、整封邮件或网页。
+FILE 为“-”时读取标准输入</translation>
+    </message>
+    <message>
+        <source>add-bridges needs a file; &quot;-&quot; is standard input.</source>
+        <translation>add-bridges 需要一个文件；“-”表示标准输入。</translation>
     </message>
 </context>
 <context>

@@ -21,12 +21,6 @@ const QRegularExpression &linePattern()
     return pattern;
 }
 
-bool isLineBreak(QChar c)
-{
-    return (c >= u'\n' && c <= u'\r') || c == QChar(0x0085) || c == QChar::LineSeparator
-        || c == QChar::ParagraphSeparator;
-}
-
 bool isHorizontalSpace(QChar c)
 {
     return c == u'\t' || c.category() == QChar::Separator_Space;
@@ -74,6 +68,12 @@ std::optional<quint16> parsePort(QStringView text)
 }
 
 } // namespace
+
+bool isLineBreak(QChar c)
+{
+    return (c >= u'\n' && c <= u'\r') || c == QChar(0x0085) || c == QChar::LineSeparator
+        || c == QChar::ParagraphSeparator;
+}
 
 QString normalised(QStringView line)
 {

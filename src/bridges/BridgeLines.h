@@ -40,6 +40,9 @@ namespace BridgeLines {
 inline constexpr qsizetype mostLines = 100;    // lines used at once
 inline constexpr qsizetype longestLine = 4096; // characters
 
+// Whether a character ends a line.
+bool isLineBreak(QChar c);
+
 // Splits a text into lines, at any of Unicode's line breaks. Blank lines and lines that begin with
 // "#" are skipped. Duplicates are kept.
 ParsedBridgeLines parse(QStringView text);

@@ -2,15 +2,18 @@
 
 #include "base/ResumeOnce.h"
 #include "bridges/BridgeLines.h"
+#include "bridges/BridgeText.h"
 #include "bridges/ManagedProxy.h"
 #include "bridges/PluggableTransports.h"
 #include "bridges/TransportDownloader.h"
+#include "cli/Commands.h"
 #include "cli/Console.h"
 #include "cli/ProgressLine.h"
 #include "controller/RealController.h"
 #include "instance/InstancePlace.h"
 #include "system/SignalWatcher.h"
 
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QThreadPool>
@@ -90,6 +93,25 @@ QString shortened(const QString &text)
             c = u'?';
     }
     return text.size() > line.size() ? line + u'…' : line;
+}
+
+// The text of a file, or of standard input for "-"; as much of it as is searched.
+Result<QString, Text> textOf(const QString &path)
+{
+    QFile file(path);
+    const bool isOpen = path == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly)
+                                                   : file.open(QIODevice::ReadOnly);
+    const QByteArray bytes = isOpen ? file.read(BridgeText::longestText) : QByteArray();
+    if (!isOpen || file.error() != QFileDevice::NoError)
+        return Failure(Text::tr("%1 can't be read: %2").arg(path, file.errorString()));
+    return QString::fromUtf8(bytes);
+}
+
+// "obfs4 192.0.2.1:443".
+QString shortBridge(const QString &line)
+{
+    QStringList words = line.split(u' ');
+    return words.mid(0, BridgeLines::transport(line) ? 2 : 1).join(u' ');
 }
 
 // The invalid lines of the user's own bridges, one text each.
@@ -188,6 +210,53 @@ QCoro::Task<ExitStatus> showBridges(Invocation invocation, PlatformProfile profi
     const bool allValid = own.value(QStringLiteral("invalid")).toArray().isEmpty()
         && own.value(QStringLiteral("surplus")).toArray().isEmpty();
     co_return allValid ? ExitStatus::done : ExitStatus::failed;
+}
+
+QCoro::Task<ExitStatus> addBridges(Invocation invocation, PlatformProfile profile)
+{
+    const auto text = textOf(invocation.key);
+    if (!text) {
+        Console::printError(text.error());
+        co_return ExitStatus::failed;
+    }
+    const QStringList found = BridgeText::found(*text);
+    if (found.isEmpty()) {
+        Console::printError(Text::tr("There is no bridge in %1.").arg(invocation.key));
+        co_return ExitStatus::failed;
+    }
+    QString own = SettingsStore(profile).string(QStringLiteral("customBridges"));
+    const ParsedBridgeLines stored = BridgeLines::parse(own);
+    QStringList added;
+    QStringList told;
+    for (const QString &line : found) {
+        const bool isNew = !stored.lines.contains(line);
+        if (isNew)
+            added << line;
+        told << (isNew ? Text::tr("added: %1") : Text::tr("already there: %1"))
+                    .arg(shortBridge(line))
+                    .translated();
+    }
+    if (stored.lines.size() + added.size() > BridgeLines::mostLines) {
+        Console::printError(
+            Text::tr("At most %1 custom bridges can be used. Remove some under Bridges → Custom….")
+                .arg(BridgeLines::mostLines));
+        co_return ExitStatus::failed;
+    }
+    if (!added.isEmpty()) {
+        if (!own.isEmpty() && !own.endsWith(u'\n'))
+            own += u'\n';
+        Invocation setting;
+        setting.verb = Verb::Id::set;
+        setting.key = QStringLiteral("customBridges");
+        setting.value = own + added.join(u'\n');
+        auto storing = execute(setting, profile);
+        const ExitStatus ended = co_await storing;
+        if (ended != ExitStatus::done)
+            co_return ended;
+    }
+    for (const QString &line : told)
+        Console::print(line);
+    co_return ExitStatus::done;
 }
 
 QString downloadedText(const PlatformProfile &profile, const QString &told)

@@ -16,6 +16,10 @@ struct PluggableTransports;
 // it. Fails when a custom line is not valid.
 QCoro::Task<ExitStatus> showBridges(Invocation invocation, PlatformProfile profile);
 
+// `veldmarkctl add-bridges FILE`: adds the bridges that are found in the file or in standard input
+// to the setting `customBridges`, and prints each. Lines that are there already stay as they are.
+QCoro::Task<ExitStatus> addBridges(Invocation invocation, PlatformProfile profile);
+
 // The text after a successful download; `told` is the controller's message, if any.
 QString downloadedText(const PlatformProfile &profile, const QString &told);
 // `veldmarkctl download-transports` without a running instance. Ctrl-C ends it and leaves no

@@ -231,6 +231,8 @@ QCoro::Task<ExitStatus> execute(Invocation invocation, PlatformProfile profile)
         return showLog(invocation, profile);
     if (invocation.verb == Verb::Id::bridges)
         return showBridges(invocation, profile);
+    if (invocation.verb == Verb::Id::addBridges)
+        return addBridges(invocation, profile);
     if (invocation.verb == Verb::Id::doctor)
         return showDoctor(invocation, profile);
     if (invocation.verb == Verb::Id::report)

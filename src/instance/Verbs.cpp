@@ -84,6 +84,13 @@ std::vector<Verb> makeTable()
          .options = {json},
          .help = Text::tr("the transport programs and built-in bridges that were found, and\n"
                           "which of your own bridge lines are not valid")},
+        {.id = Id::addBridges,
+         .name = QStringLiteral("add-bridges"),
+         .operands = {QStringLiteral("FILE")},
+         .help = Text::tr(
+             "add the bridges in a text to your own: in bridge lines, a whole e-mail or\n"
+             "a web page. FILE \"-\" is standard input"),
+         .missing = Text::tr("add-bridges needs a file; \"-\" is standard input.")},
         {.id = Id::downloadTransports,
          .name = QStringLiteral("download-transports"),
          .help = Text::tr("fetch the Tor Project's transport programs and built-in bridges"),

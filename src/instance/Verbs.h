@@ -42,6 +42,7 @@ struct Verb {
         newIdentity,
         log,
         bridges,
+        addBridges,
         downloadTransports,
         apps,
         launch,

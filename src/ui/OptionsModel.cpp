@@ -1,7 +1,11 @@
 #include "ui/OptionsModel.h"
 
 #include "bridges/BridgeLines.h"
+#include "bridges/BridgeText.h"
 #include "ui/Wording.h"
+
+#include <QFile>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <utility>
@@ -199,7 +203,9 @@ QString OptionsModel::downloadText() const
 
 QString OptionsModel::bridgeCount(const QString &text) const
 {
-    const auto count = static_cast<int>(BridgeLines::parse(text).lines.size());
+    const ParsedBridgeLines parsed = BridgeLines::parse(text);
+    const auto count = static_cast<int>(parsed.invalid.isEmpty() ? parsed.lines.size()
+                                                                 : BridgeText::found(text).size());
     if (count == 0)
         return {};
     return count == 1 ? tr("1 bridge recognized") : tr("%1 bridges recognized").arg(count);
@@ -220,6 +226,21 @@ QString OptionsModel::bridgeWarning(const QString &text) const
         warnings << tr("At most %1 bridges can be used").arg(BridgeLines::mostLines)
                 + inLines(parsed.surplusLineNumbers);
     return warnings.join(u'\n');
+}
+
+QString OptionsModel::onlyBridges(const QString &text) const
+{
+    return BridgeLines::parse(text).invalid.isEmpty() ? QString()
+                                                      : BridgeText::found(text).join(u'\n');
+}
+
+QString OptionsModel::bridgesInFile(const QUrl &file) const
+{
+    const QString path = file.toLocalFile();
+    QFile opened(path);
+    if (!QFileInfo(path).isFile() || !opened.open(QIODevice::ReadOnly))
+        return {};
+    return BridgeText::found(QString::fromUtf8(opened.read(BridgeText::longestText))).join(u'\n');
 }
 
 void OptionsModel::saveCustomBridges(const QString &text)

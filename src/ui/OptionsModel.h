@@ -3,6 +3,7 @@
 #include "ui/Session.h"
 
 #include <QQmlEngine>
+#include <QUrl>
 
 namespace veldmark {
 
@@ -69,10 +70,16 @@ public:
     QString downloadText() const;
     bool customChosen() const { return choices().bridgeChoice == BridgeChoice::custom; }
     QString customBridges() const { return choices().customBridges; }
-    // "3 bridges recognized", or empty.
+    // "3 bridges recognized", or empty; also bridges between other lines count.
     Q_INVOKABLE QString bridgeCount(const QString &text) const;
     // What of `text` cannot be used, and in which lines; empty when every line can.
     Q_INVOKABLE QString bridgeWarning(const QString &text) const;
+    // The bridges in a text that has other lines too, one per line; empty when it has none, or
+    // nothing else.
+    Q_INVOKABLE QString onlyBridges(const QString &text) const;
+    // The bridges in a file of the user's, one per line; empty when there is none, or when it
+    // cannot be read.
+    Q_INVOKABLE QString bridgesInFile(const QUrl &file) const;
     Q_INVOKABLE void saveCustomBridges(const QString &text);
     Q_INVOKABLE void download() { m_session.downloadTransports(); }
 

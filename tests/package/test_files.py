@@ -121,9 +121,10 @@ class Completion(InAHome):
         commands = self.commands()
         self.assertEqual(self.complete("veldmarkctl", ""), set(commands) | {"help", "--help", "--version"})
         for command, options in commands.items():
-            if command not in ("get", "set"):
+            if command not in ("get", "set", "add-bridges"):
                 self.assertEqual((command, self.complete("veldmarkctl", command, "")), (command, options))
         self.assertEqual(self.complete("veldmarkctl", "st"), {"status"})
+        self.assertEqual(self.complete("veldmarkctl", "add-bridges", "/etc/debian_v"), {"/etc/debian_version"})
 
     def test_bash_knows_the_fields_and_settings(self):
         self.assertEqual(self.complete("veldmarkctl", "get", ""), self.fields())
@@ -167,12 +168,13 @@ class Completion(InAHome):
         commands = self.commands()
         self.assertEqual(self.zsh("veldmarkctl", ""), set(commands) | {"help"})
         for command, options in commands.items():
-            if command not in ("get", "set", "launch"):
+            if command not in ("get", "set", "launch", "add-bridges"):
                 self.assertEqual((command, self.zsh("veldmarkctl", command, "")), (command, options))
         self.assertEqual(self.zsh("veldmarkctl", "get", ""), self.fields())
         self.assertEqual(self.zsh("veldmarkctl", "set", ""), self.settings())
         self.assertEqual(self.zsh("veldmarkctl", "set", "bridgeChoice", ""), {"off", "obfs4", "snowflake", "meek", "custom"})
         self.assertEqual(self.zsh("veldmarkctl", "set", "customTorPath", ""), {"FILES"})
+        self.assertEqual(self.zsh("veldmarkctl", "add-bridges", ""), {"FILES"})
 
     def test_each_word_has_its_help(self):
         for what in ("commands", "settings"):

@@ -69,6 +69,8 @@ QStringList stateOf(Stage &stage)
                  .arg(QGuiApplication::clipboard()->text().section(u'\n', 0, 0));
     if (const auto *lines = window->findChild<QQuickItem *>(QStringLiteral("lines")))
         state << QStringLiteral("follow %1").arg(lines->property("follow").toBool());
+    if (const auto *editor = window->findChild<QQuickItem *>(QStringLiteral("bridgeEditor")))
+        state << QStringLiteral("typed %1").arg(editor->property("text").toString().size());
     for (const char *name : {"applications", "bridges", "doctor"})
         if (const auto *sheet = window->findChild<QObject *>(QLatin1String(name)))
             state << QStringLiteral("sheet %1 %2")

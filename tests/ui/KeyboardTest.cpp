@@ -2,8 +2,11 @@
 #include "Stage.h"
 
 #include <QDesktopServices>
+#include <QDragEnterEvent>
+#include <QMimeData>
 #include <QQuickItem>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <algorithm>
@@ -46,6 +49,15 @@ class KeyboardTest : public QObject {
             if (QQuickItem *found = named(child, text))
                 return found;
         return nullptr;
+    }
+
+    static bool isShown(QQuickItem *item, const QString &text)
+    {
+        const QList<QQuickItem *> children = item->childItems();
+        return item->isVisible()
+            && (item->property("text").toString() == text
+                || std::any_of(children.begin(), children.end(),
+                               [&text](QQuickItem *child) { return isShown(child, text); }));
     }
 
     QStringList m_opened; // web pages
@@ -312,6 +324,65 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitFor(isOpen));
         QCOMPARE(window->activeFocusItem()->property("text").toString(),
                  QStringLiteral("192.0.2.1:443"));
+    }
+
+    void aPastedOrDroppedTextGivesItsBridges()
+    {
+        Stage stage;
+        QQuickWindow *window = stage.open(QStringLiteral("main/MainWindow.qml"), panel(stage));
+        window->requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(window));
+        stage.picture();
+        auto *sheet = window->findChild<QObject *>(QStringLiteral("bridges"));
+        QVERIFY(sheet && QMetaObject::invokeMethod(sheet, "open"));
+        QVERIFY(QTest::qWaitFor([sheet] { return sheet->property("opened").toBool(); }));
+        QQuickItem *editor = window->activeFocusItem();
+        QVERIFY(editor && editor->inherits("QQuickTextArea"));
+        auto *content = sheet->property("contentItem").value<QQuickItem *>();
+        QVERIFY(content);
+        const auto button = [content] {
+            return named(content, QStringLiteral("Keep Only the Bridges"));
+        };
+        const auto typed = [editor] { return editor->property("text").toString(); };
+        editor->setProperty("text", QStringLiteral("192.0.2.1:443"));
+        QVERIFY(!button());
+        const QString bridge = QStringLiteral("obfs4 192.0.2.1:443 cert=abc iat-mode=0");
+        editor->setProperty("text", QStringLiteral("Hello,\n> Bridge %1\n> Bye").arg(bridge));
+        QVERIFY(button());
+        QVERIFY(QMetaObject::invokeMethod(button(), "clicked"));
+        QCOMPARE(typed(), bridge);
+        QVERIFY(!button());
+        QCOMPARE(window->activeFocusItem(), editor);
+
+        QTemporaryDir folder;
+        const auto drop = [window, editor](const QMimeData &data) {
+            const QPointF place = editor->mapToScene(QPointF(5, 5));
+            QDragEnterEvent enter(place.toPoint(), Qt::CopyAction, &data, Qt::LeftButton, {});
+            QCoreApplication::sendEvent(window, &enter);
+            QDropEvent event(place, Qt::CopyAction, &data, Qt::LeftButton, {});
+            QCoreApplication::sendEvent(window, &event);
+        };
+        const auto dropped = [&](const QByteArray &bytes) {
+            QFile file(folder.filePath(QStringLiteral("mail.eml")));
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write(bytes);
+            file.close();
+            QMimeData data;
+            data.setUrls({QUrl::fromLocalFile(file.fileName())});
+            drop(data);
+        };
+        dropped("Your bridge:\r\n192.0.2.7:9001\r\nBye\r\n");
+        QCOMPARE(typed(), bridge + QStringLiteral("\n192.0.2.7:9001"));
+        const QString none = QStringLiteral("There is no bridge in this file.");
+        QVERIFY(!isShown(content, none));
+        dropped("Nothing here\n");
+        QCOMPARE(typed(), bridge + QStringLiteral("\n192.0.2.7:9001"));
+        QTRY_VERIFY(isShown(content, none));
+        QMimeData words;
+        words.setText(QStringLiteral("pasted"));
+        drop(words);
+        QCOMPARE(typed(), bridge + QStringLiteral("\n192.0.2.7:9001\npasted"));
+        QVERIFY(!isShown(content, none));
     }
 
     void theApplicationsSheetOpensWithoutAnEarlierError()

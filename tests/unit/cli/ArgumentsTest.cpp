@@ -71,6 +71,11 @@ private Q_SLOTS:
         const auto bridges = parseArguments({QStringLiteral("bridges"), QStringLiteral("--json")});
         QVERIFY(bridges && bridges->verb == Id::bridges && bridges->json);
         QVERIFY(!parseArguments({QStringLiteral("bridges")})->json);
+        const auto adding = parseArguments({QStringLiteral("add-bridges"), QStringLiteral("-")});
+        QVERIFY(adding && adding->verb == Id::addBridges);
+        QCOMPARE(adding->key, QStringLiteral("-"));
+        QCOMPARE(parseArguments({QStringLiteral("add-bridges")}).error().english(),
+                 QStringLiteral("add-bridges needs a file; \"-\" is standard input."));
         const auto download = parseArguments({QStringLiteral("download-transports")});
         QVERIFY(download && download->verb == Id::downloadTransports);
         const auto apps = parseArguments({QStringLiteral("apps"), QStringLiteral("--json")});
@@ -110,8 +115,8 @@ private Q_SLOTS:
     {
         for (const char *verb :
              {"run", "status", "connect", "disconnect", "restore", "check", "fix-dns", "circuits",
-              "close-circuit", "new-identity", "log", "bridges", "download-transports", "apps",
-              "launch", "report", "get", "set"})
+              "close-circuit", "new-identity", "log", "bridges", "add-bridges",
+              "download-transports", "apps", "launch", "report", "get", "set"})
             QVERIFY2(usageText().contains(QStringLiteral("\n  ") + QLatin1String(verb)), verb);
     }
 };

@@ -8,6 +8,7 @@
 #include "support/TestProgram.h"
 #include "support/Workbench.h"
 
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <optional>
@@ -266,6 +267,56 @@ private Q_SLOTS:
             many += u"192.0.2.1:%1\n"_s.arg(i);
         QCOMPARE(said(many),
                  u"veldmarkctl: 2 too many, from line 101 on; at most 100 can be used\n"_s);
+        if (running)
+            server->reset();
+        settle();
+    }
+
+    void addsTheBridgesOfAText_data() { bridgesThatCannotBeUsedAreNamedWhereTheyAreTyped_data(); }
+
+    void addsTheBridgesOfAText()
+    {
+        QFETCH(bool, running);
+        Workbench bench;
+        bench.controller().customBridges.set(u"# mine\n192.0.2.1:443"_s);
+        Result<std::unique_ptr<InstanceServer>, Text> server;
+        if (running) {
+            server = InstanceServer::start(bench.controller());
+            QVERIFY(server);
+        }
+        QTemporaryDir folder;
+        const QString mail = folder.filePath(u"mail"_s);
+        const auto said = [&](const QByteArray &text, ExitStatus expected) {
+            Computer::write(mail, text);
+            const Output output;
+            const Output errors(stderr);
+            const auto ended = outcome(Id::addBridges, bench.profile, mail);
+            return ended == expected ? output.text() + errors.text() : u"another status"_s;
+        };
+        const auto stored = [&bench] {
+            return SettingsStore(bench.profile).string(u"customBridges"_s);
+        };
+        const QString added = u"obfs4 192.0.2.2:443 cert=abc iat-mode=0"_s;
+        QCOMPARE(
+            said("Hello,\n> obfs4 192.0.2.2:443\n> cert=abc iat-mode=0\n> 192.0.2.1:443\nBye\n",
+                 ExitStatus::done),
+            u"added: obfs4 192.0.2.2:443\nalready there: 192.0.2.1:443\n"_s);
+        QCOMPARE(stored(), u"# mine\n192.0.2.1:443\n"_s + added);
+        QCOMPARE(said(added.toUtf8(), ExitStatus::done), u"already there: obfs4 192.0.2.2:443\n"_s);
+        QCOMPARE(said("Hello\n", ExitStatus::failed),
+                 u"veldmarkctl: There is no bridge in %1.\n"_s.arg(mail));
+        QByteArray many;
+        for (int i = 1; i <= 99; ++i)
+            many += "192.0.2.3:" + QByteArray::number(i) + "\n";
+        QCOMPARE(
+            said(many, ExitStatus::failed),
+            u"veldmarkctl: At most 100 custom bridges can be used. Remove some under Bridges → "
+            "Custom….\n"_s);
+        QCOMPARE(stored(), u"# mine\n192.0.2.1:443\n"_s + added);
+        const Output errors(stderr);
+        QVERIFY(outcome(Id::addBridges, bench.profile, folder.filePath(u"none"_s))
+                == ExitStatus::failed);
+        QVERIFY2(errors.text().contains(u"/none can't be read: "_s), qPrintable(errors.text()));
         if (running)
             server->reset();
         settle();

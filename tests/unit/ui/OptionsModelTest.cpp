@@ -6,6 +6,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/stat.h>
+
 using namespace veldmark;
 
 class OptionsModelTest : public QObject {
@@ -289,6 +291,34 @@ private Q_SLOTS:
         QCOMPARE(options.bridgeCount(text), QStringLiteral("100 bridges recognized"));
         QCOMPARE(options.bridgeWarning(text),
                  QStringLiteral("At most 100 bridges can be used (line 101)"));
+    }
+
+    void findsTheBridgesInOtherText()
+    {
+        StandInSession session(profile);
+        const OptionsModel options(session);
+        const QString bridge = QStringLiteral("obfs4 192.0.2.1:443 cert=abc");
+        const QString mail = QStringLiteral("> Bridge %1 iat-mode=0\n> Bye").arg(bridge);
+        QCOMPARE(options.bridgeCount(mail), QStringLiteral("1 bridge recognized"));
+        QCOMPARE(options.onlyBridges(mail), bridge + QStringLiteral(" iat-mode=0"));
+        QCOMPARE(options.onlyBridges(bridge + QStringLiteral("\n# note")), QString());
+        QCOMPARE(options.onlyBridges(QStringLiteral("nonsense")), QString());
+
+        QTemporaryDir folder;
+        const auto inFile = [&](const QString &name) {
+            return options.bridgesInFile(QUrl::fromLocalFile(folder.filePath(name)));
+        };
+        QFile file(folder.filePath(QStringLiteral("mail")));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(mail.toUtf8()) > 0);
+        file.close();
+        QCOMPARE(inFile(QStringLiteral("mail")), bridge + QStringLiteral(" iat-mode=0"));
+        QCOMPARE(inFile(QStringLiteral("missing")), QString());
+        QCOMPARE(inFile(QString()), QString()); // a folder
+        // One that never ends is not opened.
+        const QString fifo = folder.filePath(QStringLiteral("fifo"));
+        QCOMPARE(mkfifo(qPrintable(fifo), 0600), 0);
+        QCOMPARE(inFile(QStringLiteral("fifo")), QString());
+        QCOMPARE(options.bridgesInFile(QUrl(QStringLiteral("https://a.example/mail"))), QString());
     }
 
     void showsTheApplicationsThatTheSessionHas()

@@ -8,7 +8,9 @@ Sheet {
     required property OptionsModel model
 
     title: qsTr("Custom bridges")
+    property bool isDropEmpty: false // the last dropped files had no bridge
     onAboutToShow: {
+        isDropEmpty = false
         editor.text = model.customBridges
         editor.forceActiveFocus()
     }
@@ -36,6 +38,7 @@ Sheet {
             T.ScrollBar.vertical: ScrollBar {}
             T.TextArea.flickable: T.TextArea {
                 id: editor
+                objectName: "bridgeEditor"
                 LayoutMirroring.enabled: false // bridge lines are read from the left in every language
                 horizontalAlignment: TextEdit.AlignLeft
                 padding: 10
@@ -47,10 +50,29 @@ Sheet {
                 selectedTextColor: Theme.onTone
                 selectByMouse: true
                 Accessible.name: qsTr("Custom bridges")
+                onTextChanged: sheet.isDropEmpty = false
                 KeyNavigation.priority: KeyNavigation.BeforeItem
-                KeyNavigation.tab: save
+                KeyNavigation.tab: only.visible ? only : save
             }
         }
+        DropArea {
+            objectName: "bridgeDrop"
+            anchors.fill: parent
+            onDropped: drop => {
+                const lines = drop.hasUrls
+                    ? drop.urls.map(file => sheet.model.bridgesInFile(file)).filter(found => found !== "").join("\n")
+                    : drop.text
+                if (lines !== "")
+                    editor.text += (editor.text === "" || editor.text.endsWith("\n") ? "" : "\n") + lines
+                sheet.isDropEmpty = lines === ""
+            }
+        }
+    }
+    Words {
+        Layout.fillWidth: true
+        visible: sheet.isDropEmpty
+        text: qsTr("There is no bridge in this file.")
+        color: Theme.warning
     }
     Words {
         Layout.fillWidth: true
@@ -67,6 +89,17 @@ Sheet {
             Layout.fillWidth: true
             text: sheet.model.bridgeWarning(editor.text)
             color: Theme.warning
+        }
+    }
+    PushButton {
+        id: only
+        readonly property string lines: sheet.model.onlyBridges(editor.text)
+        visible: lines !== ""
+        text: qsTr("Keep Only the Bridges")
+        help: qsTr("Removes everything from the text but the bridges that were recognized")
+        onClicked: {
+            editor.text = lines
+            editor.forceActiveFocus()
         }
     }
     buttons: [
