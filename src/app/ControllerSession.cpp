@@ -54,8 +54,8 @@ void ControllerSession::read()
     next.activeBridge = c.activeBridge();
     next.bootstrapProgress = c.bootstrapProgress();
     next.statusDetail = c.statusDetail();
-    next.bootstrapProblem = next.phase == Phase::connecting ? c.bootstrapProblem()
-                                                            : c.problemBehindError();
+    next.bootstrapProblem = next.phase == ConnectionPhase::connecting ? c.bootstrapProblem()
+                                                                      : c.problemBehindError();
     next.isAnothers = c.otherSession().has_value();
     next.hasTorStopped = c.hasTorStopped();
     next.canCancel = c.canCancel();
@@ -64,7 +64,7 @@ void ControllerSession::read()
         next.errorMessage = c.settingsProblems().constFirst();
     next.killSwitch = c.killSwitch();
     // Check results are valid only while connected.
-    if (next.phase == Phase::connected) {
+    if (next.phase == ConnectionPhase::connected) {
         next.bytesRead = c.bytesRead();
         next.bytesWritten = c.bytesWritten();
         next.exitIP = c.exitIP();

@@ -194,7 +194,6 @@ public:
     Verdict verdict() const; // how safe the session is; every surface shows it
     Text title() const { return verdict().title; }
     QString menuBarSymbol() const { return verdict().symbol; }
-    bool optionsLocked() const;
     bool canDownloadTransports() const;
     bool canLaunchBypassed() const;
     // Whether the application is being opened; a password prompt may be shown.

@@ -96,7 +96,7 @@ QCoro::Task<Outcome> connect(Call call)
     const auto controller = call.controller;
     if (controller->phase() == ConnectionPhase::disconnecting)
         co_return refusal(notNow(*controller));
-    if (controller->optionsLocked())
+    if (locksOptions(controller->phase()))
         co_return refusal(
             Text::tr("Already connected or connecting; \"veldmarkctl status\" says more."));
     co_await controller->connect();

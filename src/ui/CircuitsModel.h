@@ -47,7 +47,7 @@ public:
     QHash<int, QByteArray> roleNames() const override;
 
     QString subtitle() const;
-    bool connected() const { return m_session.now().phase == Phase::connected; }
+    bool connected() const { return m_session.now().phase == ConnectionPhase::connected; }
     bool optimizing() const { return m_session.now().isOptimizing; }
     QString optimizeText() const;
     QString error() const;

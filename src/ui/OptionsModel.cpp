@@ -42,16 +42,11 @@ OptionsModel::OptionsModel(Session &session, QObject *parent)
     });
 }
 
-bool OptionsModel::locked() const
-{
-    const Phase phase = m_session.now().phase;
-    return phase == Phase::connecting || phase == Phase::connected || phase == Phase::disconnecting;
-}
-
 bool OptionsModel::strictMode() const
 {
     const Snapshot &now = m_session.now();
-    const bool isSessions = now.phase == Phase::connected || now.phase == Phase::disconnecting;
+    const bool isSessions = now.phase == ConnectionPhase::connected
+        || now.phase == ConnectionPhase::disconnecting;
     return isSessions && now.activeMode ? now.activeMode == RoutingMode::strict
                                         : choices().strictMode;
 }
@@ -237,7 +232,7 @@ QString OptionsModel::applicationCount() const
 
 bool OptionsModel::canLaunchBypassed() const
 {
-    return m_session.now().phase == Phase::connected
+    return m_session.now().phase == ConnectionPhase::connected
         && m_session.now().activeMode == RoutingMode::strict;
 }
 

@@ -42,7 +42,7 @@ public:
     // `session` must outlive the model.
     explicit OptionsModel(Session &session, QObject *parent = nullptr);
 
-    bool locked() const;     // the connection's options are locked while it lasts
+    bool locked() const { return locksOptions(m_session.now().phase); }
     bool strictMode() const; // while connected, the session's mode
     bool allowLocalNetwork() const { return choices().allowLocalNetwork; }
     bool optimizeSpeed() const { return choices().optimizeSpeed; }

@@ -73,7 +73,7 @@ public:
     QString detail() const;
     QString powerLabel() const;
     bool powerEnabled() const;
-    bool busy() const;
+    bool busy() const { return isChanging(m_session.now().phase); }
     double progress() const;  // 0…1; 0 unless Tor is bootstrapping
     QString pillText() const; // empty: no pill
     QString pillSymbol() const;
