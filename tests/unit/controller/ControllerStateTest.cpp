@@ -243,7 +243,8 @@ private Q_SLOTS:
         bench.restart();
         bench.controller().detectStaleState();
         QVERIFY(bench.controller().phase() == ConnectionPhase::stale);
-        QVERIFY(!locksOptions(bench.controller().phase()) && bench.controller().canDownloadTransports());
+        QVERIFY(!locksOptions(bench.controller().phase())
+                && bench.controller().canDownloadTransports());
         QVERIFY(!bench.controller().canLaunchBypassed());
     }
 
