@@ -32,20 +32,20 @@ Window {
             ColumnLayout {
                 Layout.fillWidth: true
                 spacing: 2
-                Words {
+                WrappedText {
                     text: qsTr("Circuits")
                     font.pixelSize: Theme.titleSize
                     font.weight: Font.DemiBold
                     Accessible.role: Accessible.Heading
                 }
-                Words {
+                WrappedText {
                     Layout.fillWidth: true
                     text: window.model.subtitle
                     font.pixelSize: Theme.smallSize
                     color: Theme.quiet
                 }
             }
-            Words {
+            WrappedText {
                 Layout.maximumWidth: 190
                 visible: text !== ""
                 text: window.model.optimizeText

@@ -13,7 +13,7 @@ Sheet {
         editor.forceActiveFocus()
     }
 
-    Words {
+    WrappedText {
         Layout.fillWidth: true
         text: qsTr("One bridge per line. Ask the Tor Project for bridges on its bridges page, by e-mail or through its Telegram bot, or use those of someone you trust. obfs4, webtunnel, Snowflake, meek and plain bridges are supported.")
         color: Theme.quiet
@@ -52,7 +52,7 @@ Sheet {
             }
         }
     }
-    Words {
+    WrappedText {
         Layout.fillWidth: true
         visible: text !== ""
         text: sheet.model.bridgeCount(editor.text)
@@ -62,7 +62,7 @@ Sheet {
     RowLayout {
         visible: warning.text !== ""
         Symbol { name: "exclamationmark.triangle.fill"; color: Theme.warning }
-        Words {
+        WrappedText {
             id: warning
             Layout.fillWidth: true
             text: sheet.model.bridgeWarning(editor.text)
