@@ -165,12 +165,12 @@ void ControllerSession::runChecks()
     m_controller.runChecks();
 }
 
-void ControllerSession::checkLookups()
+void ControllerSession::checkDNS()
 {
     m_controller.checkDNS(true);
 }
 
-void ControllerSession::fixLookups()
+void ControllerSession::fixDNS()
 {
     m_controller.fixDNS();
 }
@@ -194,7 +194,7 @@ void ControllerSession::newCircuit(const QString &id)
     m_controller.newCircuit(id);
 }
 
-void ControllerSession::findFasterCircuits()
+void ControllerSession::optimizeCircuits()
 {
     m_controller.optimizeCircuits();
 }

@@ -67,7 +67,7 @@ public:
     QString computer() const;
 
     Q_INVOKABLE void newIdentity() { m_session.newIdentity(); }
-    Q_INVOKABLE void findFaster() { m_session.findFasterCircuits(); }
+    Q_INVOKABLE void optimizeCircuits() { m_session.optimizeCircuits(); }
     Q_INVOKABLE void newCircuit() { m_session.newCircuit(followed()); }
     void refresh();
 

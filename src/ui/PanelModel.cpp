@@ -66,7 +66,7 @@ bool PanelModel::connected() const
     return m_session.now().phase == ConnectionPhase::connected;
 }
 
-bool PanelModel::lookupsLeak() const
+bool PanelModel::dnsLeaks() const
 {
     return connected() && m_session.now().dns.isLeak();
 }
@@ -256,7 +256,7 @@ QString PanelModel::verification() const
 
 QString PanelModel::leakText() const
 {
-    if (lookupsLeak())
+    if (dnsLeaks())
         return tr("DNS leak");
     const LeakStatus leak = knownLeak();
     switch (leak.kind()) {
@@ -296,7 +296,7 @@ QString PanelModel::leakHelp() const
 
 PanelModel::Tone PanelModel::leakTone() const
 {
-    if (lookupsLeak())
+    if (dnsLeaks())
         return Tone::Danger;
     switch (knownLeak().kind()) {
     case LeakStatus::Kind::exposed:

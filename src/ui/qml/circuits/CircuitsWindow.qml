@@ -71,7 +71,7 @@ Window {
                 symbol: "point.3.filled.connected.trianglepath.dotted"
                 help: qsTr("Time a request through Tor and get fresh circuits if it's slow")
                 enabled: window.model.connected && !window.model.optimizing
-                onClicked: window.model.findFaster()
+                onClicked: window.model.optimizeCircuits()
             }
         }
         Divider {}
