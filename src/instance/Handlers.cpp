@@ -71,6 +71,12 @@ QCoro::Task<Outcome> watch(Call call)
     co_return {};
 }
 
+QCoro::Task<Outcome> raise(Call call)
+{
+    call.raise();
+    co_return {};
+}
+
 QCoro::Task<Outcome> set(Call call)
 {
     const QJsonValue key = call.request.value(QStringLiteral("key"));
