@@ -1,6 +1,7 @@
 #include "ui/OptionsModel.h"
 
 #include "bridges/BridgeLines.h"
+#include "bridges/BridgePlan.h"
 #include "ui/Wording.h"
 
 #include <algorithm>
@@ -139,42 +140,17 @@ void OptionsModel::setBridgeIndex(int index)
     m_session.store(next);
 }
 
-bool OptionsModel::transportMissing() const
-{
-    const PluggableTransports &found = m_session.now().transports;
-    switch (choices().bridgeChoice) {
-    case BridgeChoice::off:
-        return false;
-    case BridgeChoice::obfs4:
-    case BridgeChoice::meek:
-        return !found.lyrebird || !found.builtinLines(choices().bridgeChoice);
-    case BridgeChoice::snowflake:
-        return !found.snowflake || !found.builtinLines(choices().bridgeChoice);
-    case BridgeChoice::custom:
-        break;
-    }
-    for (const QString &line : BridgeLines::parse(choices().customBridges).lines) {
-        const auto transport = BridgeLines::transport(line);
-        if (!transport)
-            continue;
-        if (*transport == u"snowflake"       ? !found.snowflake
-                : *transport == u"webtunnel" ? !found.webtunnel && !found.lyrebird
-                                             : !found.lyrebird)
-            return true;
-    }
-    return false;
-}
-
 bool OptionsModel::needsDownload() const
 {
-    return transportMissing();
+    return lacksTransport(choices().bridgeChoice, choices().customBridges,
+                          m_session.now().transports);
 }
 
 QString OptionsModel::bridgeNote() const
 {
     if (customChosen() && BridgeLines::parse(choices().customBridges).lines.isEmpty())
         return tr("No bridges added yet");
-    if (transportMissing())
+    if (needsDownload())
         return tr("Needs bridge programs: click Download");
     if (choices().bridgeChoice == BridgeChoice::off || customChosen())
         return {};
@@ -183,7 +159,7 @@ QString OptionsModel::bridgeNote() const
 
 bool OptionsModel::bridgeNoteIsWarning() const
 {
-    return transportMissing()
+    return needsDownload()
         || (customChosen() && BridgeLines::parse(choices().customBridges).lines.isEmpty());
 }
 

@@ -93,7 +93,6 @@ Q_SIGNALS:
 
 private:
     const Choices &choices() const { return m_session.now().choices; }
-    bool transportMissing() const;
 
     Session &m_session;
     const std::vector<ExitCountry> m_exits;
