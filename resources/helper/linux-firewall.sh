@@ -97,7 +97,7 @@ print_no_early_data() {
 # refused: rejects, so that applications fail at once.
 print_side_chains() {
   local users="0, $1" ports="ip saddr 127.0.0.1 tcp sport { $SOCKS_PORT, $CONTROL_PORT }"
-  local beside="ip6 saddr ::1 tcp sport { $SOCKS_PORT, $CONTROL_PORT }"
+  local on_ipv6="ip6 saddr ::1 tcp sport { $SOCKS_PORT, $CONTROL_PORT }"
   [[ $2 == 0 ]] || users="$users, $2"
   print_text <<END
 	set tors_own {
@@ -134,7 +134,7 @@ END
 $(print_no_early_data)
 		$(tors_key "$1") update @tors_own { ip saddr . tcp sport . ip daddr . tcp dport } accept
 		$ports reject with tcp reset
-		$beside reject with tcp reset
+		$on_ipv6 reject with tcp reset
 		delete @tors_own { ip saddr . tcp sport . ip daddr . tcp dport }
 		tcp dport $CONTROL_PORT ip daddr 127.0.0.0/8 goto control_port
 		accept
@@ -146,7 +146,7 @@ $(print_no_early_data)
 	chain answering {
 		$ports meta skuid $1 accept
 		$ports reject with tcp reset
-		$beside reject with tcp reset
+		$on_ipv6 reject with tcp reset
 		ip daddr . tcp dport . ip saddr . tcp sport @tors_own accept
 		meta skuid $1 reject with tcp reset
 		meta skuid 0-4294967294 accept

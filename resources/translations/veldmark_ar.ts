@@ -292,6 +292,21 @@
     </message>
 </context>
 <context>
+    <name>DNSCard</name>
+    <message>
+        <source>Lookups can go around Tor</source>
+        <translation>يمكن أن تمر استعلامات DNS خارج Tor</translation>
+    </message>
+    <message>
+        <source>Fix DNS</source>
+        <translation>إصلاح DNS</translation>
+    </message>
+    <message>
+        <source>Re-test</source>
+        <translation>إعادة الاختبار</translation>
+    </message>
+</context>
+<context>
     <name>DoctorSheet</name>
     <message>
         <source>This computer</source>
@@ -458,21 +473,6 @@
     <message>
         <source>Show</source>
         <translation>عرض</translation>
-    </message>
-</context>
-<context>
-    <name>LookupCard</name>
-    <message>
-        <source>Lookups can go around Tor</source>
-        <translation>يمكن أن تمر استعلامات DNS خارج Tor</translation>
-    </message>
-    <message>
-        <source>Fix DNS</source>
-        <translation>إصلاح DNS</translation>
-    </message>
-    <message>
-        <source>Re-test</source>
-        <translation>إعادة الاختبار</translation>
     </message>
 </context>
 <context>

@@ -292,6 +292,21 @@
     </message>
 </context>
 <context>
+    <name>DNSCard</name>
+    <message>
+        <source>Lookups can go around Tor</source>
+        <translation>Namensabfragen können an Tor vorbei</translation>
+    </message>
+    <message>
+        <source>Fix DNS</source>
+        <translation>DNS reparieren</translation>
+    </message>
+    <message>
+        <source>Re-test</source>
+        <translation>Neu testen</translation>
+    </message>
+</context>
+<context>
     <name>DoctorSheet</name>
     <message>
         <source>This computer</source>
@@ -458,21 +473,6 @@
     <message>
         <source>Show</source>
         <translation>Zeigen</translation>
-    </message>
-</context>
-<context>
-    <name>LookupCard</name>
-    <message>
-        <source>Lookups can go around Tor</source>
-        <translation>Namensabfragen können an Tor vorbei</translation>
-    </message>
-    <message>
-        <source>Fix DNS</source>
-        <translation>DNS reparieren</translation>
-    </message>
-    <message>
-        <source>Re-test</source>
-        <translation>Neu testen</translation>
     </message>
 </context>
 <context>

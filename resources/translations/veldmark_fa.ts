@@ -292,6 +292,21 @@
     </message>
 </context>
 <context>
+    <name>DNSCard</name>
+    <message>
+        <source>Lookups can go around Tor</source>
+        <translation>پرس‌وجوهای DNS می‌توانند Tor را دور بزنند</translation>
+    </message>
+    <message>
+        <source>Fix DNS</source>
+        <translation>اصلاح DNS</translation>
+    </message>
+    <message>
+        <source>Re-test</source>
+        <translation>آزمون دوباره</translation>
+    </message>
+</context>
+<context>
     <name>DoctorSheet</name>
     <message>
         <source>This computer</source>
@@ -458,21 +473,6 @@
     <message>
         <source>Show</source>
         <translation>نمایش</translation>
-    </message>
-</context>
-<context>
-    <name>LookupCard</name>
-    <message>
-        <source>Lookups can go around Tor</source>
-        <translation>پرس‌وجوهای DNS می‌توانند Tor را دور بزنند</translation>
-    </message>
-    <message>
-        <source>Fix DNS</source>
-        <translation>اصلاح DNS</translation>
-    </message>
-    <message>
-        <source>Re-test</source>
-        <translation>آزمون دوباره</translation>
     </message>
 </context>
 <context>

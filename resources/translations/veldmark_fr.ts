@@ -292,6 +292,21 @@
     </message>
 </context>
 <context>
+    <name>DNSCard</name>
+    <message>
+        <source>Lookups can go around Tor</source>
+        <translation>Des requêtes DNS peuvent contourner Tor</translation>
+    </message>
+    <message>
+        <source>Fix DNS</source>
+        <translation>Corriger le DNS</translation>
+    </message>
+    <message>
+        <source>Re-test</source>
+        <translation>Retester</translation>
+    </message>
+</context>
+<context>
     <name>DoctorSheet</name>
     <message>
         <source>This computer</source>
@@ -458,21 +473,6 @@
     <message>
         <source>Show</source>
         <translation>Afficher</translation>
-    </message>
-</context>
-<context>
-    <name>LookupCard</name>
-    <message>
-        <source>Lookups can go around Tor</source>
-        <translation>Des requêtes DNS peuvent contourner Tor</translation>
-    </message>
-    <message>
-        <source>Fix DNS</source>
-        <translation>Corriger le DNS</translation>
-    </message>
-    <message>
-        <source>Re-test</source>
-        <translation>Retester</translation>
     </message>
 </context>
 <context>

@@ -292,6 +292,21 @@
     </message>
 </context>
 <context>
+    <name>DNSCard</name>
+    <message>
+        <source>Lookups can go around Tor</source>
+        <translation>Consultas DNS podem sair por fora do Tor</translation>
+    </message>
+    <message>
+        <source>Fix DNS</source>
+        <translation>Corrigir DNS</translation>
+    </message>
+    <message>
+        <source>Re-test</source>
+        <translation>Testar de novo</translation>
+    </message>
+</context>
+<context>
     <name>DoctorSheet</name>
     <message>
         <source>This computer</source>
@@ -458,21 +473,6 @@
     <message>
         <source>Show</source>
         <translation>Mostrar</translation>
-    </message>
-</context>
-<context>
-    <name>LookupCard</name>
-    <message>
-        <source>Lookups can go around Tor</source>
-        <translation>Consultas DNS podem sair por fora do Tor</translation>
-    </message>
-    <message>
-        <source>Fix DNS</source>
-        <translation>Corrigir DNS</translation>
-    </message>
-    <message>
-        <source>Re-test</source>
-        <translation>Testar de novo</translation>
     </message>
 </context>
 <context>

@@ -292,6 +292,21 @@
     </message>
 </context>
 <context>
+    <name>DNSCard</name>
+    <message>
+        <source>Lookups can go around Tor</source>
+        <translation>DNS-запросы могут идти мимо Tor</translation>
+    </message>
+    <message>
+        <source>Fix DNS</source>
+        <translation>Исправить DNS</translation>
+    </message>
+    <message>
+        <source>Re-test</source>
+        <translation>Повторить</translation>
+    </message>
+</context>
+<context>
     <name>DoctorSheet</name>
     <message>
         <source>This computer</source>
@@ -458,21 +473,6 @@
     <message>
         <source>Show</source>
         <translation>Показать</translation>
-    </message>
-</context>
-<context>
-    <name>LookupCard</name>
-    <message>
-        <source>Lookups can go around Tor</source>
-        <translation>DNS-запросы могут идти мимо Tor</translation>
-    </message>
-    <message>
-        <source>Fix DNS</source>
-        <translation>Исправить DNS</translation>
-    </message>
-    <message>
-        <source>Re-test</source>
-        <translation>Повторить</translation>
     </message>
 </context>
 <context>

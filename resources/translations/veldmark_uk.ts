@@ -292,6 +292,21 @@
     </message>
 </context>
 <context>
+    <name>DNSCard</name>
+    <message>
+        <source>Lookups can go around Tor</source>
+        <translation>DNS-запити можуть іти повз Tor</translation>
+    </message>
+    <message>
+        <source>Fix DNS</source>
+        <translation>Виправити DNS</translation>
+    </message>
+    <message>
+        <source>Re-test</source>
+        <translation>Повторити тест</translation>
+    </message>
+</context>
+<context>
     <name>DoctorSheet</name>
     <message>
         <source>This computer</source>
@@ -458,21 +473,6 @@
     <message>
         <source>Show</source>
         <translation>Показати</translation>
-    </message>
-</context>
-<context>
-    <name>LookupCard</name>
-    <message>
-        <source>Lookups can go around Tor</source>
-        <translation>DNS-запити можуть іти повз Tor</translation>
-    </message>
-    <message>
-        <source>Fix DNS</source>
-        <translation>Виправити DNS</translation>
-    </message>
-    <message>
-        <source>Re-test</source>
-        <translation>Повторити тест</translation>
     </message>
 </context>
 <context>

@@ -292,6 +292,21 @@
     </message>
 </context>
 <context>
+    <name>DNSCard</name>
+    <message>
+        <source>Lookups can go around Tor</source>
+        <translation>DNS 查询可能绕过 Tor</translation>
+    </message>
+    <message>
+        <source>Fix DNS</source>
+        <translation>修复 DNS</translation>
+    </message>
+    <message>
+        <source>Re-test</source>
+        <translation>重新测试</translation>
+    </message>
+</context>
+<context>
     <name>DoctorSheet</name>
     <message>
         <source>This computer</source>
@@ -458,21 +473,6 @@
     <message>
         <source>Show</source>
         <translation>显示</translation>
-    </message>
-</context>
-<context>
-    <name>LookupCard</name>
-    <message>
-        <source>Lookups can go around Tor</source>
-        <translation>DNS 查询可能绕过 Tor</translation>
-    </message>
-    <message>
-        <source>Fix DNS</source>
-        <translation>修复 DNS</translation>
-    </message>
-    <message>
-        <source>Re-test</source>
-        <translation>重新测试</translation>
     </message>
 </context>
 <context>

@@ -20,14 +20,14 @@ Alerts::Alerts(Session &session) : m_session(session), m_phase(session.now().pha
 void Alerts::look()
 {
     const Snapshot &now = m_session.now();
-    const Phase before = std::exchange(m_phase, now.phase);
+    const ConnectionPhase before = std::exchange(m_phase, now.phase);
     // A disconnect by the user passes through `disconnecting`, so neither change below is the
     // user's. Tor may also die after another process has restored the network; then the phase is
     // `disconnected`. When another process's session has replaced this one, the banner is about
     // something else.
-    const bool isReplaced = now.phase == Phase::stale && !now.hasTorStopped;
-    if (before == Phase::connected
-        && (now.phase == Phase::stale || now.phase == Phase::disconnected))
+    const bool isReplaced = now.phase == ConnectionPhase::stale && !now.hasTorStopped;
+    if (before == ConnectionPhase::connected
+        && (now.phase == ConnectionPhase::stale || now.phase == ConnectionPhase::disconnected))
         tell(isReplaced ? tr("Another session has replaced this one") : tr("Tor stopped running"),
              (now.isAnothers ? now.statusDetail : now.errorMessage.value_or(now.statusDetail))
                  .translated());
@@ -35,8 +35,8 @@ void Alerts::look()
         m_wasWatched = now.killSwitch.has_value();
     if (const auto danger = now.verdict().danger; std::exchange(m_danger, danger) != danger)
         tellDanger(danger);
-    const bool isExposed = now.phase == Phase::connected && now.activeMode == RoutingMode::strict
-        && now.leak.isExposed();
+    const bool isExposed = now.phase == ConnectionPhase::connected
+        && now.activeMode == RoutingMode::strict && now.leak.isExposed();
     if (!std::exchange(m_wasExposed, isExposed) && isExposed
         && m_danger == Verdict::Danger::dnsLeak)
         tellDanger(Verdict::Danger::exposed); // the DNS alert alone told only half of it
@@ -85,7 +85,7 @@ void Alerts::tellPutBack(const std::optional<KillSwitch> &before)
         return;
     }
     // What happened before this object first saw the session is not told.
-    if (before == now.killSwitch || (!before && now.phase == Phase::stale))
+    if (before == now.killSwitch || (!before && now.phase == ConnectionPhase::stale))
         return;
     const bool wasPutBack = before && before->state == KillSwitch::State::putBack;
     if (wasPutBack && m_putBackTold.isValid()

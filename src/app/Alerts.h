@@ -26,7 +26,7 @@ private:
     void tellPutBack(const std::optional<KillSwitch> &before);
 
     Session &m_session;
-    Phase m_phase;
+    ConnectionPhase m_phase;
     Verdict::Danger m_danger = Verdict::Danger::none;
     std::optional<KillSwitch> m_killSwitch;
     bool m_wasExposed = false;

@@ -136,7 +136,7 @@ QCoro::Task<void> Application::begin(bool connectNow)
     co_await m_real.controller().updatePrivilegedHelper();
     if (!self)
         co_return;
-    if (connectNow && !m_real.controller().optionsLocked())
+    if (connectNow && !locksOptions(m_real.controller().phase()))
         co_await m_real.controller().connect();
     else
         co_await m_real.controller().autoConnectIfEnabled();

@@ -54,8 +54,8 @@ void ControllerSession::read()
     next.activeBridge = c.activeBridge();
     next.bootstrapProgress = c.bootstrapProgress();
     next.statusDetail = c.statusDetail();
-    next.bootstrapProblem = next.phase == Phase::connecting ? c.bootstrapProblem()
-                                                            : c.problemBehindError();
+    next.bootstrapProblem = next.phase == ConnectionPhase::connecting ? c.bootstrapProblem()
+                                                                      : c.problemBehindError();
     next.isAnothers = c.otherSession().has_value();
     next.hasTorStopped = c.hasTorStopped();
     next.canCancel = c.canCancel();
@@ -63,23 +63,20 @@ void ControllerSession::read()
     if (!next.errorMessage && !c.settingsProblems().isEmpty())
         next.errorMessage = c.settingsProblems().constFirst();
     next.killSwitch = c.killSwitch();
-    // Check results are valid only while connected.
-    if (next.phase == Phase::connected) {
-        next.bytesRead = c.bytesRead();
-        next.bytesWritten = c.bytesWritten();
-        next.exitIP = c.exitIP();
-        next.torVerified = c.torVerified();
-        next.stall = c.stall();
-        next.firewalls = c.denyingFirewalls();
-        next.leak = c.leakStatus();
-        next.dns = c.dnsStatus();
-        next.isChecking = c.isChecking();
-        next.latencyMs = c.latencyMs();
-        next.optimizeStatus = c.optimizeStatus();
-        next.isOptimizing = c.isOptimizing();
-        next.circuits = c.circuits();
-        next.circuitError = c.circuitError();
-    }
+    next.bytesRead = c.bytesRead.in(next.phase);
+    next.bytesWritten = c.bytesWritten.in(next.phase);
+    next.exitIP = c.exitIP.in(next.phase);
+    next.torVerified = c.torVerified.in(next.phase);
+    next.stall = c.stall.in(next.phase);
+    next.firewalls = c.denyingFirewalls.in(next.phase);
+    next.leak = c.leakStatus.in(next.phase);
+    next.dns = c.dnsStatus.in(next.phase);
+    next.isChecking = c.isChecking.in(next.phase);
+    next.latencyMs = c.latencyMs.in(next.phase);
+    next.optimizeStatus = c.optimizeStatus.in(next.phase);
+    next.isOptimizing = c.isOptimizing.in(next.phase);
+    next.circuits = c.circuits.in(next.phase);
+    next.circuitError = c.circuitError.in(next.phase);
     next.transports = c.transports();
     next.transportDownload = c.transportDownload();
     next.canDownloadTransports = c.canDownloadTransports();
@@ -168,12 +165,12 @@ void ControllerSession::runChecks()
     m_controller.runChecks();
 }
 
-void ControllerSession::checkLookups()
+void ControllerSession::checkDNS()
 {
     m_controller.checkDNS(true);
 }
 
-void ControllerSession::fixLookups()
+void ControllerSession::fixDNS()
 {
     m_controller.fixDNS();
 }
@@ -197,7 +194,7 @@ void ControllerSession::newCircuit(const QString &id)
     m_controller.newCircuit(id);
 }
 
-void ControllerSession::findFasterCircuits()
+void ControllerSession::optimizeCircuits()
 {
     m_controller.optimizeCircuits();
 }

@@ -37,11 +37,11 @@ public:
     void connectToTor() override;
     void disconnectFromTor() override;
     void runChecks() override;
-    void checkLookups() override;
-    void fixLookups() override;
+    void checkDNS() override;
+    void fixDNS() override;
     void newIdentity() override;
     void newCircuit(const QString &id) override;
-    void findFasterCircuits() override;
+    void optimizeCircuits() override;
     void refreshCircuits() override;
     void dismissError() override;
     void lookAgain() override;

@@ -15,18 +15,18 @@ namespace veldmark {
 namespace {
 
 // Made early and not freed by exit(), which may run when little else still works.
-struct Words {
+struct LastMessage {
     PlatformProfile profile;
     QByteArray text;
 };
-Words *words = nullptr;
+LastMessage *lastMessage = nullptr;
 
 void speak()
 {
-    if (!words || !RecoveryNotice::isNetworkLeft(words->profile))
+    if (!lastMessage || !RecoveryNotice::isNetworkLeft(lastMessage->profile))
         return;
-    [[maybe_unused]] const auto written = ::write(STDERR_FILENO, words->text.constData(),
-                                                  static_cast<size_t>(words->text.size()));
+    [[maybe_unused]] const auto written = ::write(STDERR_FILENO, lastMessage->text.constData(),
+                                                  static_cast<size_t>(lastMessage->text.size()));
 }
 
 } // namespace
@@ -49,7 +49,7 @@ QString RecoveryNotice::advice(const PlatformProfile &profile)
 
 RecoveryNotice::RecoveryNotice(const PlatformProfile &profile)
 {
-    words = new Words{
+    lastMessage = new LastMessage{
         profile,
         "veldmark: "
             + Text::tr(
@@ -63,8 +63,8 @@ RecoveryNotice::RecoveryNotice(const PlatformProfile &profile)
 
 RecoveryNotice::~RecoveryNotice()
 {
-    delete words;
-    words = nullptr;
+    delete lastMessage;
+    lastMessage = nullptr;
 }
 
 } // namespace veldmark

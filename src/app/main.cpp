@@ -115,7 +115,8 @@ int main(int argc, char **argv)
         return QApplication::exec();
     }
 
-    const LastTurn lastTurn; // goes last: lets the coroutines that still wait run to their ends
+    const CoroutineEnds coroutineEnds; // goes last: lets the coroutines that still wait run to
+                                       // their ends
     const RecoveryNotice recoveryNotice(profile);
     Application program(profile);
     if (const auto started = program.start(line.has(line.hidden), line.has(line.connectNow));

@@ -21,4 +21,10 @@ constexpr bool isChanging(ConnectionPhase phase)
     return phase == ConnectionPhase::connecting || phase == ConnectionPhase::disconnecting;
 }
 
+// Whether a connection begins, lasts or ends, so that the options that it was made with are locked.
+constexpr bool locksOptions(ConnectionPhase phase)
+{
+    return phase == ConnectionPhase::connected || isChanging(phase);
+}
+
 } // namespace veldmark

@@ -37,11 +37,11 @@ private:
 
 // Declared after the application and before every object with a coroutine. Its destructor runs
 // last, when the event loop has ended, and lets the waiting coroutines run to their ends.
-class LastTurn {
+class CoroutineEnds {
 public:
-    LastTurn() = default;
-    ~LastTurn() { Resumption::deliverAll(); }
-    Q_DISABLE_COPY_MOVE(LastTurn)
+    CoroutineEnds() = default;
+    ~CoroutineEnds() { Resumption::deliverAll(); }
+    Q_DISABLE_COPY_MOVE(CoroutineEnds)
 };
 
 } // namespace veldmark

@@ -33,6 +33,32 @@ Result<QStringList, BridgeError> selectedBridgeLines(const BridgeRequest &reques
                                                   : transports.builtinLines(request.choice);
 }
 
+bool lacksTransport(BridgeChoice choice, const QString &customBridges,
+                    const PluggableTransports &found)
+{
+    switch (choice) {
+    case BridgeChoice::off:
+        return false;
+    case BridgeChoice::obfs4:
+    case BridgeChoice::meek:
+        return !found.lyrebird || !found.builtinLines(choice);
+    case BridgeChoice::snowflake:
+        return !found.snowflake || !found.builtinLines(choice);
+    case BridgeChoice::custom:
+        break;
+    }
+    for (const QString &line : BridgeLines::parse(customBridges).lines) {
+        const auto transport = BridgeLines::transport(line);
+        if (!transport)
+            continue;
+        if (*transport == snowflake       ? !found.snowflake
+                : *transport == webtunnel ? !found.webtunnel && !found.lyrebird
+                                          : !found.lyrebird)
+            return true;
+    }
+    return false;
+}
+
 Result<QStringList, BridgeError> bridgeArguments(const QStringList &lines,
                                                  const PluggableTransports &transports)
 {

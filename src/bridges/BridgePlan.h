@@ -61,6 +61,10 @@ QCoro::Task<BridgePlan> planBridges(BridgeRequest request, BridgeTools tools);
 Result<QStringList, BridgeError> selectedBridgeLines(const BridgeRequest &request,
                                                      const PluggableTransports &transports);
 
+// Whether a program or the built-in lines are missing that a download brings.
+bool lacksTransport(BridgeChoice choice, const QString &customBridges,
+                    const PluggableTransports &found);
+
 // The helper's options for these lines. The error is a sentence about the first transport, in
 // alphabetical order, that no program serves, or about the missing program.
 Result<QStringList, BridgeError> bridgeArguments(const QStringList &lines,

@@ -93,7 +93,7 @@ private:
 } // namespace
 
 // The state that an installation uses; it may outlive the downloader.
-struct TransportDownloader::Means {
+struct TransportDownloader::InstallerState {
     PlatformProfile profile;
     ProcessRunner *runner; // null once the downloader is gone
     Clock *clock;
@@ -106,7 +106,7 @@ struct TransportDownloader::Means {
 
 // One running installation.
 struct TransportDownloader::Job {
-    std::shared_ptr<Means> means;
+    std::shared_ptr<InstallerState> state;
     std::shared_ptr<BundleFolder> folder;
     std::shared_ptr<HTTPSSession> session;
     std::shared_ptr<BundleTools> tools;
@@ -137,29 +137,29 @@ QUrl DownloadSource::archiveURL(const QString &version, const QString &archiveNa
 
 TransportDownloader::TransportDownloader(PlatformProfile profile, ProcessRunner &runner,
                                          Clock &clock, DownloadSource source)
-    : m_means(std::make_shared<Means>(
-        Means{std::move(profile), &runner, &clock, std::move(source), {}, {}, false, false}))
+    : m_state(std::make_shared<InstallerState>(InstallerState{
+        std::move(profile), &runner, &clock, std::move(source), {}, {}, false, false}))
 {
     // Restores a bundle that a killed installation had moved away between its two steps.
-    if (!QFileInfo::exists(m_means->profile.bundleDirectory)
-        && QFileInfo::exists(QFileInfo(m_means->profile.bundleDirectory).absolutePath()))
-        BundleFolder::claim(m_means->profile.bundleDirectory);
+    if (!QFileInfo::exists(m_state->profile.bundleDirectory)
+        && QFileInfo::exists(QFileInfo(m_state->profile.bundleDirectory).absolutePath()))
+        BundleFolder::claim(m_state->profile.bundleDirectory);
 }
 
 TransportDownloader::~TransportDownloader()
 {
     cancel();
-    m_means->runner = nullptr;
-    if (const auto tools = m_means->tools.lock())
+    m_state->runner = nullptr;
+    if (const auto tools = m_state->tools.lock())
         tools->forget();
 }
 
 void TransportDownloader::cancel()
 {
-    m_means->isCancelled = true;
-    if (const auto session = m_means->session.lock())
+    m_state->isCancelled = true;
+    if (const auto session = m_state->session.lock())
         session->cancel();
-    if (const auto tools = m_means->tools.lock())
+    if (const auto tools = m_state->tools.lock())
         tools->cancel();
 }
 
@@ -186,71 +186,70 @@ std::optional<QString> TransportDownloader::gpgPath(const PlatformProfile &profi
 QCoro::Task<TransportDownloader::Outcome> TransportDownloader::install(bool throughTor,
                                                                        Progress progress)
 {
-    return run(m_means, throughTor, std::move(progress));
+    return run(m_state, throughTor, std::move(progress));
 }
 
-QCoro::Task<TransportDownloader::Outcome> TransportDownloader::run(std::shared_ptr<Means> means,
-                                                                   bool throughTor,
-                                                                   Progress progress)
+QCoro::Task<TransportDownloader::Outcome> TransportDownloader::run(
+    std::shared_ptr<InstallerState> state, bool throughTor, Progress progress)
 {
-    if (means->isBusy)
+    if (state->isBusy)
         co_return Failure(DownloadError::other(Text::tr("Another download is under way.")));
-    means->isBusy = true;
-    means->isCancelled = false;
+    state->isBusy = true;
+    state->isCancelled = false;
     progress(Text::tr("Checking latest version…"));
 
     using Claim = Result<std::shared_ptr<BundleFolder>, Text>;
-    const std::function<Claim()> claim = [folder = means->profile.bundleDirectory] {
+    const std::function<Claim()> claim = [folder = state->profile.bundleDirectory] {
         return BundleFolder::claim(folder);
     };
     auto claiming = elsewhere<Claim>(claim);
     const Claim folder = co_await claiming;
     if (!folder) {
-        means->isBusy = false;
+        state->isBusy = false;
         co_return Failure(DownloadError::other(folder.error()));
     }
 
     const auto job = std::make_shared<Job>();
-    job->means = means;
+    job->state = state;
     job->folder = *folder;
-    job->temporary = newTemporaryName(means->source.temporaryRoot);
+    job->temporary = newTemporaryName(state->source.temporaryRoot);
     job->report = std::move(progress);
     job->tools = std::make_shared<BundleTools>(
-        means->profile.places.root + QStringLiteral("/usr/bin/tar"),
-        gpgPath(means->profile).value_or(QString()), means->runner, *means->clock);
-    means->tools = job->tools;
-    if (means->isCancelled)
+        state->profile.places.root + QStringLiteral("/usr/bin/tar"),
+        gpgPath(state->profile).value_or(QString()), state->runner, *state->clock);
+    state->tools = job->tools;
+    if (state->isCancelled)
         job->tools->cancel();
-    if (isTemporaryName(means->source.temporaryRoot, job->folder->forgotten())) {
+    if (isTemporaryName(state->source.temporaryRoot, job->folder->forgotten())) {
         auto clearing = clearUp(job, job->folder->forgotten());
         co_await clearing;
     }
     job->folder->note(job->temporary);
-    const std::optional<quint16> proxy = throughTor ? std::optional(means->source.socksPort)
+    const std::optional<quint16> proxy = throughTor ? std::optional(state->source.socksPort)
                                                     : std::nullopt;
 
     Outcome outcome = Failure(DownloadError::cancelled());
-    if (means->runner && !means->isCancelled) {
-        job->session = std::make_shared<HTTPSSession>(*means->clock, proxy, means->source.tls);
-        means->session = job->session;
+    if (state->runner && !state->isCancelled) {
+        job->session = std::make_shared<HTTPSSession>(*state->clock, proxy, state->source.tls);
+        state->session = job->session;
         auto filling = fill(job);
         outcome = co_await filling;
         job->session.reset();
-        if (!outcome && means->isCancelled) // whichever step noticed the cancel first
+        if (!outcome && state->isCancelled) // whichever step noticed the cancel first
             outcome = Failure(DownloadError::cancelled());
     }
     auto clearing = clearUp(job, job->temporary);
     co_await clearing;
     job->folder->note(QString());
-    means->isBusy = false;
+    state->isBusy = false;
     co_return outcome;
 }
 
 QCoro::Task<TransportDownloader::Outcome> TransportDownloader::fill(std::shared_ptr<Job> job)
 {
-    const std::shared_ptr<Means> means = job->means;
-    const DownloadSource &source = means->source;
-    const auto isGone = [means] { return means->isCancelled || !means->runner; };
+    const std::shared_ptr<InstallerState> state = job->state;
+    const DownloadSource &source = state->source;
+    const auto isGone = [state] { return state->isCancelled || !state->runner; };
 
     const Fetch index{source.versionURL, Text::tr("the version index"), indexLimitBytes, {}, {}};
     auto asking = HTTPSSession::fetch(job->session, index);
@@ -261,7 +260,7 @@ QCoro::Task<TransportDownloader::Outcome> TransportDownloader::fill(std::shared_
     if (!version)
         co_return Failure(DownloadError::badVersion());
     // An old bundle, with defects fixed since, has a valid signature, too.
-    const BundleRecord former = BundleRecord::read(means->profile.bundleDirectory);
+    const BundleRecord former = BundleRecord::read(state->profile.bundleDirectory);
     if (former.version && isOlderVersion(*version, *former.version))
         co_return Failure(DownloadError::olderVersion(*version, *former.version));
 
@@ -270,7 +269,7 @@ QCoro::Task<TransportDownloader::Outcome> TransportDownloader::fill(std::shared_
                                                    .arg(job->temporary, qt_error_string(errno))));
     const QString archive = job->at("archive.tar.gz");
     const QUrl archiveURL = source.archiveURL(
-        *version, means->profile.bundleArchivePrefix + *version + QStringLiteral(".tar.gz"));
+        *version, state->profile.bundleArchivePrefix + *version + QStringLiteral(".tar.gz"));
     const Text line = Text::tr("Downloading Tor %1 bridge programs…").arg(*version);
     job->report(line);
     const Fetch large{archiveURL, Text::tr("the bridge programs"), archiveLimitBytes, archive,
@@ -308,7 +307,7 @@ QCoro::Task<TransportDownloader::Outcome> TransportDownloader::fill(std::shared_
 
     const InstalledBundle bundle{*version, hasGnuPG};
     using Published = Result<void, Text>;
-    const bool isKept = hasGnuPG && SignedBundle::isOfUse(means->profile);
+    const bool isKept = hasGnuPG && SignedBundle::isOfUse(state->profile);
     const std::function<Published()> publish = [folder = job->folder, bundle, signedAt, isKept,
                                                 archive, signature = job->at("archive.tar.gz.asc"),
                                                 key = job->at("key.gpg")] {
@@ -329,7 +328,7 @@ QCoro::Task<Result<qint64, DownloadError>> TransportDownloader::verify(std::shar
                                                                        QString archive,
                                                                        QUrl archiveURL)
 {
-    const std::shared_ptr<Means> means = job->means;
+    const std::shared_ptr<InstallerState> state = job->state;
     const QString signature = job->at("archive.tar.gz.asc");
     const QUrl signatureURL(archiveURL.toString() + QStringLiteral(".asc"));
     const Fetch small{signatureURL, Text::tr("signature"), signatureLimitBytes, signature, {}};
@@ -340,7 +339,7 @@ QCoro::Task<Result<qint64, DownloadError>> TransportDownloader::verify(std::shar
 
     job->report(Text::tr("Verifying signature…"));
     const QString key = job->at("key.asc");
-    const Fetch asking{means->source.keyURL, Text::tr("signing key"), keyLimitBytes, key, {}};
+    const Fetch asking{state->source.keyURL, Text::tr("signing key"), keyLimitBytes, key, {}};
     auto fetching = HTTPSSession::fetch(job->session, asking);
     const auto fetched = co_await fetching;
     if (!fetched)
@@ -351,10 +350,10 @@ QCoro::Task<Result<qint64, DownloadError>> TransportDownloader::verify(std::shar
         co_return Failure(DownloadError::other(
             Text::tr("Couldn't make the folder %1: %2.").arg(home, qt_error_string(errno))));
     auto verifying = BundleTools::verify(job->tools, home, key, signature, archive,
-                                         means->source.fingerprint);
+                                         state->source.fingerprint);
     const Result<qint64, DownloadError> verified = co_await verifying;
-    if (verified && SignedBundle::isOfUse(means->profile)) {
-        auto exporting = BundleTools::exportKey(job->tools, home, means->source.fingerprint,
+    if (verified && SignedBundle::isOfUse(state->profile)) {
+        auto exporting = BundleTools::exportKey(job->tools, home, state->source.fingerprint,
                                                 job->at("key.gpg"));
         co_await exporting;
     }

@@ -81,9 +81,9 @@ public:
     static std::optional<QString> gpgPath(const PlatformProfile &profile);
 
 private:
-    struct Means;
+    struct InstallerState;
     struct Job;
-    static QCoro::Task<Outcome> run(std::shared_ptr<Means> means, bool throughTor,
+    static QCoro::Task<Outcome> run(std::shared_ptr<InstallerState> state, bool throughTor,
                                     Progress progress);
     static QCoro::Task<Outcome> fill(std::shared_ptr<Job> job);
     static QCoro::Task<Result<qint64, DownloadError>> verify(std::shared_ptr<Job> job,
@@ -92,7 +92,7 @@ private:
                                                            QString archive);
     static QCoro::Task<void> clearUp(std::shared_ptr<Job> job, QString temporary);
 
-    std::shared_ptr<Means> m_means;
+    std::shared_ptr<InstallerState> m_state;
 };
 
 } // namespace veldmark

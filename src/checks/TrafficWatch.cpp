@@ -16,30 +16,30 @@ constexpr int routelessLooks = 2; // between two networks there is briefly no ro
 
 } // namespace
 
-std::optional<TrafficWatch::Stall> TrafficWatch::take(const Look &look)
+std::optional<TrafficWatch::Stall> TrafficWatch::take(const Sample &sample)
 {
-    const bool hasRead = !m_last || look.read - m_last->read >= cellBytes;
-    m_last = look;
-    if (!m_answer || look.read - m_answer->read >= cellBytes) {
-        m_answer = look;
+    const bool hasRead = !m_last || sample.read - m_last->read >= cellBytes;
+    m_last = sample;
+    if (!m_answer || sample.read - m_answer->read >= cellBytes) {
+        m_answer = sample;
         m_unanswered = std::nullopt;
-    } else if (look.written - m_answer->written >= cellBytes && !m_unanswered) {
-        m_unanswered = look.at;
+    } else if (sample.written - m_answer->written >= cellBytes && !m_unanswered) {
+        m_unanswered = sample.at;
     }
-    if (look.hasCircuit != false)
+    if (sample.hasCircuit != false)
         m_circuitless = std::nullopt;
     else if (!m_circuitless)
-        m_circuitless = look.at;
+        m_circuitless = sample.at;
     // Incoming cells prove a route, whatever the routing table says: a bridge may be in the local
     // network.
-    m_routeless = look.hasRoute || hasRead ? 0 : m_routeless + 1;
+    m_routeless = sample.hasRoute || hasRead ? 0 : m_routeless + 1;
 
     if (m_routeless >= routelessLooks)
         return Stall::noNetwork;
-    if (m_circuitless && look.at - *m_circuitless >= circuitPatience)
-        return look.isInVPN ? Stall::vpn : Stall::noCircuit;
-    if (m_unanswered && look.at - *m_unanswered >= answerPatience)
-        return look.isInVPN ? Stall::vpn : Stall::noAnswer;
+    if (m_circuitless && sample.at - *m_circuitless >= circuitPatience)
+        return sample.isInVPN ? Stall::vpn : Stall::noCircuit;
+    if (m_unanswered && sample.at - *m_unanswered >= answerPatience)
+        return sample.isInVPN ? Stall::vpn : Stall::noAnswer;
     return std::nullopt;
 }
 

@@ -24,7 +24,7 @@ public:
         firewall,
     };
 
-    struct Look {
+    struct Sample {
         Clock::TimePoint at;
         // Bytes since Tor started, without the control port's. They include the traffic between
         // applications and Tor.
@@ -38,16 +38,16 @@ public:
     // Absent while traffic gets through, or when too little is known. noAnswer ends as soon as Tor
     // has read a relay's smallest message, noCircuit as soon as Tor stops reporting that no circuit
     // works.
-    std::optional<Stall> take(const Look &look);
+    std::optional<Stall> take(const Sample &sample);
 
     static QString name(Stall stall); // "noNetwork" …
 
 private:
-    std::optional<Look> m_last;
-    std::optional<Look> m_answer; // the last look at which Tor had received an answer
+    std::optional<Sample> m_last;
+    std::optional<Sample> m_answer; // the last sample at which Tor had received an answer
     std::optional<Clock::TimePoint> m_unanswered; // since when Tor sends without an answer
     std::optional<Clock::TimePoint> m_circuitless;
-    int m_routeless = 0; // number of looks in a row
+    int m_routeless = 0; // number of samples in a row
 };
 
 } // namespace veldmark

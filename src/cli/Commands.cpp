@@ -17,6 +17,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <map>
+
 #include <unistd.h>
 
 namespace veldmark {
@@ -78,13 +80,6 @@ bool show(const Invocation &invocation, const QJsonObject &state)
 bool showsEveryState(const Invocation &invocation)
 {
     return invocation.verb == Verb::Id::status && invocation.watch;
-}
-
-bool showsLastState(const Invocation &invocation)
-{
-    return invocation.verb != Verb::Id::set && invocation.verb != Verb::Id::newIdentity
-        && invocation.verb != Verb::Id::closeCircuit && invocation.verb != Verb::Id::launch
-        && invocation.verb != Verb::Id::downloadTransports;
 }
 
 // Prints invalid bridge lines. The setting stores them unchanged; a connect refuses them.
@@ -150,67 +145,81 @@ QCoro::Task<ExitStatus> askInstance(Invocation invocation, PlatformProfile profi
         if (told.isEmpty() || (Console::isTerminal() && told.size() >= Console::width()))
             Console::print(downloadedText(profile, told));
     }
-    if (showsEveryState(invocation) || !showsLastState(invocation))
+    if (showsEveryState(invocation) || verbOf(invocation.verb).printsNoState)
         co_return ExitStatus::done;
     co_return show(invocation, *last) ? ExitStatus::done : ExitStatus::usage;
 }
 
-// Executes the command without a running instance, with a controller of its own.
-QCoro::Task<ExitStatus> doHere(Invocation invocation, std::shared_ptr<RealController> real)
+void printSettingsProblems(const TorController &controller)
+{
+    for (const Text &problem : controller.settingsProblems())
+        Console::printError(problem);
+}
+
+QJsonObject stateForReader(const Invocation &invocation, const TorController &controller)
+{
+    return forReader(invocation, publishedState(controller), publishedTexts(controller));
+}
+
+// The commands below are executed without a running instance, with a controller of their own.
+QCoro::Task<ExitStatus> setHere(Invocation invocation, std::shared_ptr<RealController> real)
 {
     TorController &controller = real->controller();
-    if (invocation.verb != Verb::Id::status || invocation.json) { // the report has it too
-        for (const Text &problem : controller.settingsProblems())
-            Console::printError(problem);
+    printSettingsProblems(controller);
+    const auto set = setSetting(controller, invocation.key, invocation.value);
+    if (!set) {
+        Console::printError(set.error().description());
+        co_return set.error().kind() == SettingError::Kind::Refused ? ExitStatus::usage
+                                                                    : ExitStatus::failed;
     }
-    if (invocation.verb == Verb::Id::set) {
-        const auto set = setSetting(controller, invocation.key, invocation.value);
-        if (!set) {
-            Console::printError(set.error().description());
-            co_return set.error().kind() == SettingError::Kind::Refused ? ExitStatus::usage
-                                                                        : ExitStatus::failed;
-        }
-        tellOfBridges(invocation);
-        if (invocation.key == controller.terminalMode.name() && controller.terminalMode()) {
-            co_await controller.askTerminalHint();
-            tellOfTerminal(
-                invocation,
-                forReader(invocation, publishedState(controller), publishedTexts(controller)));
-        }
-        co_return ExitStatus::done;
+    tellOfBridges(invocation);
+    if (invocation.key == controller.terminalMode.name() && controller.terminalMode()) {
+        co_await controller.askTerminalHint();
+        tellOfTerminal(invocation, stateForReader(invocation, controller));
     }
+    co_return ExitStatus::done;
+}
 
+QCoro::Task<ExitStatus> restoreHere(Invocation invocation, std::shared_ptr<RealController> real)
+{
+    TorController &controller = real->controller();
+    printSettingsProblems(controller);
     controller.detectStaleState();
-    if (invocation.verb == Verb::Id::disconnect || invocation.verb == Verb::Id::restore) {
-        const auto lock = lockInstance(controller.profile()); // no other process starts meanwhile
-        if (!lock) {
-            Console::printError(lock.error());
-            co_return ExitStatus::alreadyRunning;
-        }
-        const auto ended = co_await controller.restore();
-        if (!ended) {
-            Console::printError(ended.error().isEmpty() ? Text::tr("Cancelled.") : ended.error());
-            co_return ExitStatus::failed;
-        }
-    } else if (invocation.verb == Verb::Id::status || invocation.verb == Verb::Id::get) {
-        const auto asking = controller.askTerminalHint();
-        co_await controller.locateTransports();
-        co_await asking;
+    const auto lock = lockInstance(controller.profile()); // no other process starts meanwhile
+    if (!lock) {
+        Console::printError(lock.error());
+        co_return ExitStatus::alreadyRunning;
     }
-    co_return show(invocation,
-                   forReader(invocation, publishedState(controller), publishedTexts(controller)))
-        ? ExitStatus::done
-        : ExitStatus::usage;
+    const auto ended = co_await controller.restore();
+    if (!ended) {
+        Console::printError(ended.error().isEmpty() ? Text::tr("Cancelled.") : ended.error());
+        co_return ExitStatus::failed;
+    }
+    show(invocation, stateForReader(invocation, controller));
+    co_return ExitStatus::done;
+}
+
+QCoro::Task<ExitStatus> showHere(Invocation invocation, std::shared_ptr<RealController> real)
+{
+    TorController &controller = real->controller();
+    if (invocation.verb != Verb::Id::status || invocation.json) // the report has them too
+        printSettingsProblems(controller);
+    controller.detectStaleState();
+    const auto asking = controller.askTerminalHint();
+    co_await controller.locateTransports();
+    co_await asking;
+    co_return show(invocation, stateForReader(invocation, controller)) ? ExitStatus::done
+                                                                       : ExitStatus::usage;
 }
 
 // For root: no approval is needed, and the helper itself checks that a strict session is in force,
 // whichever user owns it. So it also works where no password prompt is possible: `sudo veldmarkctl
 // launch …`.
-QCoro::Task<ExitStatus> launchHere(QString path, std::shared_ptr<RealController> real)
+QCoro::Task<ExitStatus> launchHere(Invocation invocation, std::shared_ptr<RealController> real)
 {
     const QStringList arguments = {QStringLiteral("launch"), QStringLiteral("--uid"),
                                    QString::number(SessionOwner::callerOfHelper()),
-                                   QStringLiteral("--app"), path};
+                                   QStringLiteral("--app"), invocation.key};
     const auto launched = co_await real->privileged().runHelper(arguments);
     if (!launched)
         Console::printError(launched.error().description());
@@ -223,28 +232,61 @@ QCoro::Task<ExitStatus> refuse(Text reason = notRunning, ExitStatus status = Exi
     co_return status;
 }
 
+using Command = QCoro::Task<ExitStatus> (*)(Invocation, PlatformProfile);
+using CommandHere = QCoro::Task<ExitStatus> (*)(Invocation, std::shared_ptr<RealController>);
+
+template <CommandHere command>
+QCoro::Task<ExitStatus> here(Invocation invocation, PlatformProfile profile)
+{
+    return command(invocation, std::make_shared<RealController>(profile));
+}
+
+// What veldmarkctl does by itself, whether an instance runs or not.
+const std::map<Verb::Id, Command> &ownCommands()
+{
+    static const std::map<Verb::Id, Command> table{
+        {Verb::Id::log, showLog},
+        {Verb::Id::bridges, showBridges},
+        {Verb::Id::addBridges, addBridges},
+        {Verb::Id::doctor, showDoctor},
+        {Verb::Id::report, showReport},
+        {Verb::Id::apps, showApplications},
+        {Verb::Id::identities, showIdentities},
+        {Verb::Id::renew, renewIdentity},
+        {Verb::Id::runAs, runAs},
+    };
+    return table;
+}
+
+// What it does where no instance runs.
+const std::map<Verb::Id, Command> &commandsWithoutInstance()
+{
+    static const std::map<Verb::Id, Command> table{
+        {Verb::Id::status,
+         [](Invocation invocation, PlatformProfile profile) {
+             return invocation.watch ? refuse() : here<showHere>(invocation, profile);
+         }},
+        {Verb::Id::get, here<showHere>},
+        {Verb::Id::set, here<setHere>},
+        {Verb::Id::disconnect, here<restoreHere>},
+        {Verb::Id::restore, here<restoreHere>},
+        {Verb::Id::downloadTransports,
+         [](Invocation, PlatformProfile profile) { return downloadTransportsHere(profile); }},
+        {Verb::Id::launch,
+         [](Invocation invocation, PlatformProfile profile) {
+             return geteuid() == 0 ? here<launchHere>(invocation, profile) : refuse();
+         }},
+    };
+    return table;
+}
+
 } // namespace
 
 QCoro::Task<ExitStatus> execute(Invocation invocation, PlatformProfile profile)
 {
-    if (invocation.verb == Verb::Id::log)
-        return showLog(invocation, profile);
-    if (invocation.verb == Verb::Id::bridges)
-        return showBridges(invocation, profile);
-    if (invocation.verb == Verb::Id::addBridges)
-        return addBridges(invocation, profile);
-    if (invocation.verb == Verb::Id::doctor)
-        return showDoctor(invocation, profile);
-    if (invocation.verb == Verb::Id::report)
-        return showReport(invocation, profile);
-    if (invocation.verb == Verb::Id::apps)
-        return showApplications(invocation, profile);
-    if (invocation.verb == Verb::Id::identities)
-        return showIdentities(invocation, profile);
-    if (invocation.verb == Verb::Id::renew)
-        return renewIdentity(invocation, profile);
-    if (invocation.verb == Verb::Id::runAs)
-        return runAs(invocation, profile);
+    const auto &own = ownCommands();
+    if (const auto command = own.find(invocation.verb); command != own.end())
+        return command->second(invocation, profile);
     if (invocation.verb == Verb::Id::launch) {
         const auto path = applicationPath(invocation.key);
         if (!path)
@@ -253,24 +295,9 @@ QCoro::Task<ExitStatus> execute(Invocation invocation, PlatformProfile profile)
     }
     if (const auto instance = InstanceClient::connectTo(profile))
         return askInstance(invocation, profile, instance);
-    switch (invocation.verb) {
-    case Verb::Id::status:
-    case Verb::Id::get:
-    case Verb::Id::set:
-    case Verb::Id::disconnect:
-    case Verb::Id::restore:
-        if (!invocation.watch)
-            return doHere(invocation, std::make_shared<RealController>(profile));
-        return refuse();
-    case Verb::Id::downloadTransports:
-        return downloadTransportsHere(profile);
-    case Verb::Id::launch:
-        return geteuid() == 0
-            ? launchHere(invocation.key, std::make_shared<RealController>(profile))
-            : refuse();
-    default:
-        return refuse();
-    }
+    const auto &alone = commandsWithoutInstance();
+    const auto command = alone.find(invocation.verb);
+    return command == alone.end() ? refuse() : command->second(invocation, profile);
 }
 
 } // namespace veldmark

@@ -49,7 +49,7 @@ int main(int argc, char **argv)
             showCompletions(*invocation, PlatformProfile::current(Places::fromEnvironment())));
 
     // resumes the remaining coroutines after all other objects are destroyed
-    const LastTurn lastTurn;
+    const CoroutineEnds coroutineEnds;
     const PlatformProfile profile = PlatformProfile::current(Places::fromEnvironment());
     std::unique_ptr<RunCommand> run;
     if (invocation->verb == Verb::Id::run) {

@@ -50,14 +50,14 @@ QCoro::Task<void> TorController::checkDNS(bool live)
             };
             auto testing = DNSCheck::liveTest(capture, lookup);
             liveResult = co_await testing;
-            if (attempt.isOver() || phase() != ConnectionPhase::connected)
+            if (attempt.isOver())
                 co_return;
             if (liveResult == DNSStatus::throughTor())
                 m_dnsLiveVerified = true;
         }
     }
     const auto system = co_await m_services.resolvers.resolvers();
-    if (attempt.isOver() || phase() != ConnectionPhase::connected)
+    if (attempt.isOver())
         co_return;
     dnsStatus = DNSCheck::statusAfter(DNSCheck::leaks(system.resolvers), system.isComplete,
                                       liveResult, m_dnsLiveVerified, dnsStatus());

@@ -80,7 +80,7 @@ QCoro::Task<Result<void, Text>> TorController::disconnect()
     denyingFirewalls = firewalls;
     stall = stalled; // until the monitor's next look
     enterConnected();
-    if (attempt.isOver() || phase() != ConnectionPhase::connected)
+    if (attempt.isOver())
         co_return Failure(reason);
     applyTerminalMode();
     startMonitoring();

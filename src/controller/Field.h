@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/ConnectionPhase.h"
 #include "base/Text.h"
 
 #include <QJsonValue>
@@ -31,6 +32,8 @@ public:
     // The name in the published state and in the settings' file.
     QString name() const { return m_name; }
     virtual QJsonValue toJson() const = 0;
+    // The value that counts in that phase.
+    virtual QJsonValue toJsonIn(ConnectionPhase phase) const = 0;
     // Like Text::toJson() for a text; else null.
     virtual QJsonValue textToJson() const = 0;
     // Absent for a field that is not a setting.

@@ -13,18 +13,29 @@ namespace veldmark {
 
 class TorController;
 
+// When a field's value counts: what a check or Tor says of the session, only while connected.
+enum class Valid { always, whileConnected };
+
 // A field of the controller that views observe. Any caller reads it as `controller.phase()`; only
 // the controller assigns it. An assignment that changes the value emits changed().
 template <typename T> class Published : public Field {
 public:
-    Published(FieldOwner *owner, const char *name, T initial = {})
+    Published(FieldOwner *owner, const char *name, T initial = {}, Valid valid = Valid::always)
         : Field(owner, name),
           m_value(std::move(initial))
     {
+        if (valid == Valid::whileConnected)
+            m_unconnected.emplace(m_value);
     }
 
     const T &operator()() const { return m_value; }
+    // The value, or the initial one where the value does not count in that phase.
+    const T &in(ConnectionPhase phase) const
+    {
+        return m_unconnected && phase != ConnectionPhase::connected ? *m_unconnected : m_value;
+    }
     QJsonValue toJson() const override { return json(m_value); }
+    QJsonValue toJsonIn(ConnectionPhase phase) const override { return json(in(phase)); }
     QJsonValue textToJson() const override { return textJson(m_value); }
 
 protected:
@@ -43,6 +54,9 @@ protected:
     }
 
     T m_value{};
+
+private:
+    std::optional<T> m_unconnected; // absent: the value always counts
 };
 
 // Whether a setting can be changed while connected.

@@ -31,22 +31,7 @@ QJsonObject publishedState(const TorController &controller)
 {
     QJsonObject state;
     for (const Field *field : controller.fields())
-        state.insert(field->name(), field->toJson());
-    // Check results are valid only while connected.
-    if (controller.phase() != ConnectionPhase::connected) {
-        for (const Field *field : std::initializer_list<const Field *>{
-                 &controller.exitIP, &controller.torVerified, &controller.latencyMs,
-                 &controller.optimizeStatus, &controller.circuitError})
-            state.insert(field->name(), QJsonValue(QJsonValue::Null));
-        for (const Field *field :
-             std::initializer_list<const Field *>{&controller.bytesRead, &controller.bytesWritten})
-            state.insert(field->name(), 0);
-        state.insert(controller.leakStatus.name(), json(LeakStatus::notTested()));
-        state.insert(controller.dnsStatus.name(), json(DNSStatus::unknown()));
-        state.insert(controller.circuits.name(), QJsonArray());
-        state.insert(controller.isChecking.name(), false);
-        state.insert(controller.isOptimizing.name(), false);
-    }
+        state.insert(field->name(), field->toJsonIn(controller.phase()));
     // After a failed bootstrap the reason belongs to the banner, and goes with it.
     if (controller.phase() != ConnectionPhase::connecting)
         state.insert(controller.bootstrapProblem.name(), json(controller.problemBehindError()));

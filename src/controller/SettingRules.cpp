@@ -29,7 +29,7 @@ Result<void, SettingError> store(const TorController &controller, Setting<T> &se
 
 std::optional<Text> lock(const TorController &controller, const Field &setting)
 {
-    if (!controller.optionsLocked() || !setting.setting()->isOfConnection)
+    if (!locksOptions(controller.phase()) || !setting.setting()->isOfConnection)
         return std::nullopt;
     return Text::tr("\"%1\" can't be changed during a connection. Disconnect to change it.")
         .arg(setting.name());

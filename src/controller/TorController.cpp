@@ -47,11 +47,6 @@ Verdict TorController::verdict() const
                         .firewalls = denyingFirewalls()});
 }
 
-bool TorController::optionsLocked() const
-{
-    return phase() == ConnectionPhase::connected || isChanging(phase());
-}
-
 bool TorController::canDownloadTransports() const
 {
     return !m_isDownloading && !isChanging(phase());

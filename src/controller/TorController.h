@@ -153,31 +153,34 @@ public:
     // The banner; absent = none. Operations clear it first, except disconnect() when no session was
     // up.
     Published<std::optional<Text>> errorMessage{this, "errorMessage"};
-    Published<quint64> bytesRead{this, "bytesRead"}; // since Tor started
-    Published<quint64> bytesWritten{this, "bytesWritten"};
+    Published<quint64> bytesRead{this, "bytesRead", 0, Valid::whileConnected}; // since Tor started
+    Published<quint64> bytesWritten{this, "bytesWritten", 0, Valid::whileConnected};
     // Why nothing gets through Tor although the phase is `connected`; absent while traffic flows.
-    Published<std::optional<TrafficWatch::Stall>> stall{this, "stall"};
+    Published<std::optional<TrafficWatch::Stall>> stall{this, "stall", {}, Valid::whileConnected};
     // For the stall "firewall": the names of the firewalls that deny outgoing traffic; else empty.
-    Published<QStringList> denyingFirewalls{this, "denyingFirewalls"};
+    Published<QStringList> denyingFirewalls{this, "denyingFirewalls", {}, Valid::whileConnected};
 
     // --- The checks. ---
     // The state of the rules in the kernel as the watcher last reported it; absent without a strict
     // session. Read in every phase but `disconnected` and `disconnecting`, even when Tor is dead,
     // and before traffic is said to be blocked.
     Published<std::optional<KillSwitch>> killSwitch{this, "killSwitch"};
-    Published<std::optional<QString>> exitIP{this, "exitIP"};
-    Published<std::optional<bool>> torVerified{this, "torVerified"}; // absent = not checked yet
-    Published<LeakStatus> leakStatus{this, "leakStatus", LeakStatus::notTested()};
-    Published<DNSStatus> dnsStatus{this, "dnsStatus", DNSStatus::unknown()};
-    Published<bool> isChecking{this, "isChecking"};
+    Published<std::optional<QString>> exitIP{this, "exitIP", {}, Valid::whileConnected};
+    Published<std::optional<bool>> torVerified{
+        this, "torVerified", {}, Valid::whileConnected}; // absent = not checked yet
+    Published<LeakStatus> leakStatus{this, "leakStatus", LeakStatus::notTested(),
+                                     Valid::whileConnected};
+    Published<DNSStatus> dnsStatus{this, "dnsStatus", DNSStatus::unknown(), Valid::whileConnected};
+    Published<bool> isChecking{this, "isChecking", false, Valid::whileConnected};
     // Of a request through Tor, in milliseconds.
-    Published<std::optional<qint64>> latencyMs{this, "latencyMs"};
-    Published<std::optional<Text>> optimizeStatus{this, "optimizeStatus"};
-    Published<bool> isOptimizing{this, "isOptimizing"};
+    Published<std::optional<qint64>> latencyMs{this, "latencyMs", {}, Valid::whileConnected};
+    Published<std::optional<Text>> optimizeStatus{
+        this, "optimizeStatus", {}, Valid::whileConnected};
+    Published<bool> isOptimizing{this, "isOptimizing", false, Valid::whileConnected};
 
     // --- Circuits, transports, and the settings' own messages. ---
-    Published<std::vector<CircuitInfo>> circuits{this, "circuits"};
-    Published<std::optional<Text>> circuitError{this, "circuitError"};
+    Published<std::vector<CircuitInfo>> circuits{this, "circuits", {}, Valid::whileConnected};
+    Published<std::optional<Text>> circuitError{this, "circuitError", {}, Valid::whileConnected};
     Published<PluggableTransports> transports{this, "transports"};
     Published<std::optional<Text>> transportDownload{this, "transportDownload"};
     Published<bool> passwordlessInstalled{this, "passwordlessInstalled"};
@@ -194,7 +197,6 @@ public:
     Verdict verdict() const; // how safe the session is; every surface shows it
     Text title() const { return verdict().title; }
     QString menuBarSymbol() const { return verdict().symbol; }
-    bool optionsLocked() const;
     bool canDownloadTransports() const;
     bool canLaunchBypassed() const;
     // Whether the application is being opened; a password prompt may be shown.

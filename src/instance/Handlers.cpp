@@ -71,6 +71,12 @@ QCoro::Task<Outcome> watch(Call call)
     co_return {};
 }
 
+QCoro::Task<Outcome> raise(Call call)
+{
+    call.raise();
+    co_return {};
+}
+
 QCoro::Task<Outcome> set(Call call)
 {
     const QJsonValue key = call.request.value(QStringLiteral("key"));
@@ -96,7 +102,7 @@ QCoro::Task<Outcome> connect(Call call)
     const auto controller = call.controller;
     if (controller->phase() == ConnectionPhase::disconnecting)
         co_return refusal(notNow(*controller));
-    if (controller->optionsLocked())
+    if (locksOptions(controller->phase()))
         co_return refusal(
             Text::tr("Already connected or connecting; \"veldmarkctl status\" says more."));
     co_await controller->connect();

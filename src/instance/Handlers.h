@@ -11,6 +11,7 @@ QJsonObject stateMessage(const TorController &controller);
 
 QCoro::Task<Outcome> status(Call call);
 QCoro::Task<Outcome> watch(Call call); // until the client disconnects
+QCoro::Task<Outcome> raise(Call call);
 QCoro::Task<Outcome> set(Call call);
 QCoro::Task<Outcome> connect(Call call);
 QCoro::Task<Outcome> disconnect(Call call);

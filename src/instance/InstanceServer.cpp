@@ -190,15 +190,10 @@ QCoro::Task<Result<void, InstanceError>> InstanceServer::execute(QJsonObject req
 {
     const QPointer<TorController> controller(&m_controller);
     const QString command = request.value(QStringLiteral("command")).toString();
-    // Another process may have changed the session. A disconnect ends only the session that was
-    // shown until now, so the new one is not looked up first.
-    if (command != QLatin1String("disconnect") || !m_controller.isSessionMarkerPresent())
-        m_controller.lookAtSession();
-    if (command == QLatin1String("raise")) {
-        Q_EMIT raiseRequested();
-        co_return {};
-    }
     const Verb *const verb = verbRequested(command);
+    // Another process may have changed the session.
+    if (!verb || !verb->meansShownSession || !m_controller.isSessionMarkerPresent())
+        m_controller.lookAtSession();
     if (!verb)
         co_return refusal(Text::tr("Unknown command \"%1\".").arg(command.left(40).simplified()));
     std::optional<StateStream> stream;
@@ -206,7 +201,7 @@ QCoro::Task<Result<void, InstanceError>> InstanceServer::execute(QJsonObject req
         stream.emplace(m_controller, lines);
     if (verb->needsSession && controller->phase() != ConnectionPhase::connected)
         co_return refusal(Text::tr("Not connected."));
-    const Call call{controller, request, lines};
+    const Call call{controller, request, lines, [this] { Q_EMIT raiseRequested(); }};
     auto handling = verb->handler(call);
     const Outcome done = co_await handling;
     if (!done)

@@ -35,6 +35,7 @@ std::vector<Verb> makeTable()
          .name = disconnect,
          .help = Text::tr("restore the network and stop Tor"),
          .streams = true,
+         .meansShownSession = true,
          .handler = Handlers::disconnect},
         {.id = Id::restore,
          .name = QStringLiteral("restore"),
@@ -67,12 +68,14 @@ std::vector<Verb> makeTable()
              "close-circuit needs a circuit's number; \"veldmarkctl circuits\" shows them."),
          .needsSession = true,
          .streams = true,
+         .printsNoState = true,
          .handler = Handlers::closeCircuit},
         {.id = Id::newIdentity,
          .name = QStringLiteral("new-identity"),
          .help = Text::tr("new circuits for everything"),
          .needsSession = true,
          .streams = true,
+         .printsNoState = true,
          .handler = Handlers::newIdentity},
         {.id = Id::log,
          .name = QStringLiteral("log"),
@@ -95,6 +98,7 @@ std::vector<Verb> makeTable()
          .name = QStringLiteral("download-transports"),
          .help = Text::tr("fetch the Tor Project's transport programs and built-in bridges"),
          .streams = true,
+         .printsNoState = true,
          .handler = Handlers::downloadTransports},
         {.id = Id::apps,
          .name = QStringLiteral("apps"),
@@ -111,6 +115,7 @@ std::vector<Verb> makeTable()
          .missing = Text::tr("launch needs an application; \"veldmarkctl apps\" lists them."),
          .needsSession = true,
          .streams = true,
+         .printsNoState = true,
          .handler = Handlers::launch},
         {.id = Id::identities,
          .name = QStringLiteral("identities"),
@@ -155,6 +160,7 @@ std::vector<Verb> makeTable()
          .name = QStringLiteral("set"),
          .operands = {QStringLiteral("KEY"), QStringLiteral("VALUE")},
          .help = Text::tr("change a setting; most of them only while not connected"),
+         .printsNoState = true,
          .handler = Handlers::set},
         {.id = Id::help, .name = QStringLiteral("help")},
         {.id = Id::help, .name = QStringLiteral("--help")},
@@ -166,7 +172,12 @@ std::vector<Verb> makeTable()
         {.id = Id::watch,
          .name = QStringLiteral("watch"),
          .streams = true,
+         .isOnlyForSocket = true,
          .handler = Handlers::watch},
+        {.id = Id::raise,
+         .name = QStringLiteral("raise"),
+         .isOnlyForSocket = true,
+         .handler = Handlers::raise},
     };
 }
 
@@ -200,7 +211,7 @@ const Verb &verbOf(Verb::Id id)
 const Verb *verbTyped(const QString &name)
 {
     return firstVerb(
-        [&name](const Verb &verb) { return verb.name == name && verb.id != Verb::Id::watch; });
+        [&name](const Verb &verb) { return verb.name == name && !verb.isOnlyForSocket; });
 }
 
 const Verb *verbRequested(const QString &command)

@@ -10,6 +10,7 @@
 
 #include <qcorotask.h>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -23,6 +24,7 @@ struct Call {
     QPointer<TorController> controller; // may be destroyed while the handler waits
     QJsonObject request;
     std::shared_ptr<JsonLines> lines; // the client's connection
+    std::function<void()> raise;      // shows the instance's window
 };
 using Outcome = Result<void, InstanceError>;
 
@@ -56,7 +58,8 @@ struct Verb {
         help,
         version,
         complete,
-        watch, // only for the socket
+        watch, // only for the socket, as the next
+        raise,
     };
     struct Option {
         QString name; // "--json"
@@ -74,10 +77,14 @@ struct Verb {
     Text help = {}; // one or more lines; empty: hidden from users
     // The error for a missing operand; empty: the default one.
     Text missing = {};
-    QString command = {};      // the socket's word, when it differs
-    bool takesProgram = false; // a program and its words follow the operands
-    bool needsSession = false; // refused by the instance unless it is connected
-    bool streams = false;      // the client receives every change until it ends
+    QString command = {};       // the socket's word, when it differs
+    bool takesProgram = false;  // a program and its words follow the operands
+    bool needsSession = false;  // refused by the instance unless it is connected
+    bool streams = false;       // the client receives every change until it ends
+    bool printsNoState = false; // veldmarkctl prints something else after it, or nothing
+    // Only the session that was shown until now is meant, so a newer one is not looked up first.
+    bool meansShownSession = false;
+    bool isOnlyForSocket = false;
     Handler handler = nullptr; // in the running instance; null: veldmarkctl does the work
 
     // The command's name on the socket.

@@ -45,14 +45,14 @@ constexpr int unapprovedStatus = 3;
 constexpr int unapprovedProgramStatus = 4;
 
 // The words of a run: those on its command line, which every user can read, and its standard input.
-struct Words {
+struct HelperWords {
     QStringList shown;
     std::optional<QByteArray> input;
 };
 
 // The options of a connect contain bridges, exit and the hashed password. Those of the other verbs
 // are the subject of the administrator's approval, and stay where the dialog can show them.
-Words hidden(const QStringList &arguments)
+HelperWords hidden(const QStringList &arguments)
 {
     const QString verb = arguments.value(0);
     const auto fitsALine = [](const QString &word) { // the helper refuses words that do not fit
@@ -67,7 +67,7 @@ Words hidden(const QStringList &arguments)
 }
 
 QCoro::Task<Result<ProcessResult, StartError>> start(ProcessRunner *runner, QString program,
-                                                     QStringList before, Words words)
+                                                     QStringList before, HelperWords words)
 {
     const QStringList all = before + words.shown;
     return words.input ? runner->runWithInput(program, all, *words.input)
@@ -215,27 +215,28 @@ QString appleScriptSource(const QStringList &words, const QString &promptText)
 
 PrivilegedRunner::PrivilegedRunner(PlatformProfile profile, ProcessRunner &runner,
                                    uid_t effectiveUser)
-    : m_means(std::make_shared<Means>(Means{std::move(profile), &runner, effectiveUser == 0, {}}))
+    : m_data(
+        std::make_shared<RunData>(RunData{std::move(profile), &runner, effectiveUser == 0, {}}))
 {
 }
 
 PrivilegedRunner::~PrivilegedRunner()
 {
-    m_means->runner = nullptr;
-    m_means->question = nullptr;
+    m_data->runner = nullptr;
+    m_data->question = nullptr;
 }
 
 void PrivilegedRunner::askWith(Question question)
 {
-    m_means->question = std::move(question);
+    m_data->question = std::move(question);
 }
 
-bool PrivilegedRunner::Means::passwordlessInstalled() const
+bool PrivilegedRunner::RunData::passwordlessInstalled() const
 {
     return QFile::exists(profile.installedHelper) && QFile::exists(profile.sudoersRule);
 }
 
-PrivilegedRunner::Outcome PrivilegedRunner::Means::bundledHelper() const
+PrivilegedRunner::Outcome PrivilegedRunner::RunData::bundledHelper() const
 {
     const QString path = profile.bundledHelper();
     if (path.isEmpty())
@@ -245,15 +246,15 @@ PrivilegedRunner::Outcome PrivilegedRunner::Means::bundledHelper() const
 
 bool PrivilegedRunner::passwordlessInstalled() const
 {
-    return m_means->passwordlessInstalled();
+    return m_data->passwordlessInstalled();
 }
 
 PrivilegedRunner::Outcome PrivilegedRunner::bundledHelper() const
 {
-    return m_means->bundledHelper();
+    return m_data->bundledHelper();
 }
 
-bool PrivilegedRunner::Means::privilegedHelperOutdated() const
+bool PrivilegedRunner::RunData::privilegedHelperOutdated() const
 {
     const Outcome shipped = bundledHelper();
     if (!passwordlessInstalled() || !shipped)
@@ -264,30 +265,31 @@ bool PrivilegedRunner::Means::privilegedHelperOutdated() const
 
 bool PrivilegedRunner::privilegedHelperOutdated() const
 {
-    return m_means->privilegedHelperOutdated();
+    return m_data->privilegedHelperOutdated();
 }
 
 QCoro::Task<PrivilegedRunner::Outcome> PrivilegedRunner::runHelper(QStringList arguments)
 {
-    return run(m_means, arguments);
+    return run(m_data, arguments);
 }
 
 QCoro::Task<PrivilegedRunner::Outcome> PrivilegedRunner::runWithPrompt(
     QStringList arguments, std::optional<QString> script)
 {
-    return prompt(m_means, arguments, script);
+    return prompt(m_data, arguments, script);
 }
 
-QCoro::Task<PrivilegedRunner::Outcome> PrivilegedRunner::run(std::shared_ptr<const Means> means,
+QCoro::Task<PrivilegedRunner::Outcome> PrivilegedRunner::run(std::shared_ptr<const RunData> data,
                                                              QStringList arguments)
 {
-    const bool needsNobody = means->isRoot && means->profile.promptKind == PromptKind::PolicyKit;
-    if (!needsNobody && means->passwordlessInstalled()) {
-        const QStringList before{QStringLiteral("-n"), means->profile.installedHelper};
+    const bool needsNobody = data->isRoot && data->profile.promptKind == PromptKind::PolicyKit;
+    if (!needsNobody && data->passwordlessInstalled()) {
+        const QStringList before{QStringLiteral("-n"), data->profile.installedHelper};
         // A copy of another version may not read its standard input.
-        const Words words = means->privilegedHelperOutdated() ? Words{arguments, std::nullopt}
-                                                              : hidden(arguments);
-        auto running = start(means->runner, means->profile.sudo, before, words);
+        const HelperWords words = data->privilegedHelperOutdated()
+            ? HelperWords{arguments, std::nullopt}
+            : hidden(arguments);
+        auto running = start(data->runner, data->profile.sudo, before, words);
         const auto run = co_await running;
         if (!run)
             co_return Failure(HelperError::notStarted(run.error()));
@@ -300,29 +302,29 @@ QCoro::Task<PrivilegedRunner::Outcome> PrivilegedRunner::run(std::shared_ptr<con
             arguments = approvable(arguments);
         else if (!sudoRefused(*run))
             co_return Failure(failure(run->stderr.isEmpty() ? run->stdout : run->stderr));
-        if (!means->runner)
+        if (!data->runner)
             co_return Failure(HelperError::cancelled());
     }
-    const Outcome outcome = co_await prompt(means, arguments, std::nullopt);
+    const Outcome outcome = co_await prompt(data, arguments, std::nullopt);
     co_return outcome;
 }
 
-QCoro::Task<PrivilegedRunner::Outcome> PrivilegedRunner::prompt(std::shared_ptr<const Means> means,
+QCoro::Task<PrivilegedRunner::Outcome> PrivilegedRunner::prompt(std::shared_ptr<const RunData> data,
                                                                 QStringList arguments,
                                                                 std::optional<QString> script)
 {
     if (!script) {
-        const Outcome shipped = means->bundledHelper();
+        const Outcome shipped = data->bundledHelper();
         if (!shipped)
             co_return shipped;
         script = *shipped;
     }
-    if (means->profile.promptKind == PromptKind::AppleScript) {
+    if (data->profile.promptKind == PromptKind::AppleScript) {
         const QStringList words = QStringList{shell, *script} + arguments;
         const QStringList source = {
             QStringLiteral("-e"),
-            appleScriptSource(words, promptText(means->profile, arguments).translated())};
-        const auto run = co_await means->runner->run(means->profile.promptProgram, source);
+            appleScriptSource(words, promptText(data->profile, arguments).translated())};
+        const auto run = co_await data->runner->run(data->profile.promptProgram, source);
         if (!run)
             co_return Failure(HelperError::notStarted(run.error()));
         if (run->status == 0)
@@ -333,31 +335,31 @@ QCoro::Task<PrivilegedRunner::Outcome> PrivilegedRunner::prompt(std::shared_ptr<
         co_return Failure(failure(run->stderr));
     }
     const QString helper = *script;
-    const auto allowed = co_await askRoot(means, arguments);
+    const auto allowed = co_await askRoot(data, arguments);
     if (!allowed)
         co_return Failure(allowed.error());
-    const Outcome outcome = co_await runAsRoot(means, helper, arguments);
+    const Outcome outcome = co_await runAsRoot(data, helper, arguments);
     const QStringList more = approvable(arguments);
     if (outcome || outcome.error().kind() != HelperError::Kind::Unapproved || more == arguments
-        || !means->runner)
+        || !data->runner)
         co_return outcome;
     // The first dialog did not say that a strict session would be weakened; this one does.
-    const Outcome approved = co_await runAsRoot(means, helper, more);
+    const Outcome approved = co_await runAsRoot(data, helper, more);
     co_return approved;
 }
 
-QCoro::Task<Result<void, HelperError>> PrivilegedRunner::askRoot(std::shared_ptr<const Means> means,
-                                                                 QStringList arguments)
+QCoro::Task<Result<void, HelperError>> PrivilegedRunner::askRoot(
+    std::shared_ptr<const RunData> data, QStringList arguments)
 {
-    if (!means->isRoot || arguments.value(0) != QLatin1String("approve"))
+    if (!data->isRoot || arguments.value(0) != QLatin1String("approve"))
         co_return Result<void, HelperError>{};
     const Text program = visible(valueOf(arguments, "--program"));
     Answer answer = Answer::nobodyThere;
-    if (means->question) {
-        auto asking = means->question(promptText(means->profile, arguments));
+    if (data->question) {
+        auto asking = data->question(promptText(data->profile, arguments));
         answer = co_await asking;
     }
-    if (!means->runner)
+    if (!data->runner)
         co_return Failure(HelperError::cancelled());
     if (answer == Answer::no)
         co_return Failure(HelperError::failed(Text::tr("%1 was not approved.").arg(program)));
@@ -370,20 +372,20 @@ QCoro::Task<Result<void, HelperError>> PrivilegedRunner::askRoot(std::shared_ptr
 }
 
 QCoro::Task<PrivilegedRunner::Outcome> PrivilegedRunner::runAsRoot(
-    std::shared_ptr<const Means> means, QString script, QStringList arguments)
+    std::shared_ptr<const RunData> data, QString script, QStringList arguments)
 {
     // pkexec gets the script itself and no shell: the installed policy's actions, whose texts the
     // dialog shows, match that path and the verb after it.
-    const QString program = means->isRoot ? shell : means->profile.promptProgram;
+    const QString program = data->isRoot ? shell : data->profile.promptProgram;
     const QStringList before{script};
-    const Words words = hidden(arguments);
-    auto running = start(means->runner, program, before, words);
+    const HelperWords words = hidden(arguments);
+    auto running = start(data->runner, program, before, words);
     const auto run = co_await running;
     if (!run)
         co_return Failure(HelperError::notStarted(run.error()));
     if (run->status == 0)
         co_return run->stdout;
-    const HelperError error = means->isRoot ? failure(run->stderr) : policyKitError(*run, script);
+    const HelperError error = data->isRoot ? failure(run->stderr) : policyKitError(*run, script);
     if (run->status == unapprovedStatus && error.kind() == HelperError::Kind::Failed)
         co_return Failure(HelperError::unapproved(error.description()));
     if (run->status == unapprovedProgramStatus && error.kind() == HelperError::Kind::Failed)

@@ -71,7 +71,7 @@ public:
 
 private:
     // The data of a run, valid until its end; `runner` becomes null when this object is destroyed.
-    struct Means {
+    struct RunData {
         PlatformProfile profile;
         ProcessRunner *runner;
         bool isRoot;
@@ -81,16 +81,16 @@ private:
         bool privilegedHelperOutdated() const;
         Outcome bundledHelper() const;
     };
-    static QCoro::Task<Outcome> run(std::shared_ptr<const Means> means, QStringList arguments);
-    static QCoro::Task<Outcome> prompt(std::shared_ptr<const Means> means, QStringList arguments,
+    static QCoro::Task<Outcome> run(std::shared_ptr<const RunData> data, QStringList arguments);
+    static QCoro::Task<Outcome> prompt(std::shared_ptr<const RunData> data, QStringList arguments,
                                        std::optional<QString> script);
     // Success when `arguments` need no answer of root's, or have got it.
-    static QCoro::Task<Result<void, HelperError>> askRoot(std::shared_ptr<const Means> means,
+    static QCoro::Task<Result<void, HelperError>> askRoot(std::shared_ptr<const RunData> data,
                                                           QStringList arguments);
-    static QCoro::Task<Outcome> runAsRoot(std::shared_ptr<const Means> means, QString script,
+    static QCoro::Task<Outcome> runAsRoot(std::shared_ptr<const RunData> data, QString script,
                                           QStringList arguments);
 
-    std::shared_ptr<Means> m_means;
+    std::shared_ptr<RunData> m_data;
 };
 
 // `word` quoted as one word of a POSIX shell command line.

@@ -47,7 +47,7 @@ public:
     QHash<int, QByteArray> roleNames() const override;
 
     QString subtitle() const;
-    bool connected() const { return m_session.now().phase == Phase::connected; }
+    bool connected() const { return m_session.now().phase == ConnectionPhase::connected; }
     bool optimizing() const { return m_session.now().isOptimizing; }
     QString optimizeText() const;
     QString error() const;
@@ -67,7 +67,7 @@ public:
     QString computer() const;
 
     Q_INVOKABLE void newIdentity() { m_session.newIdentity(); }
-    Q_INVOKABLE void findFaster() { m_session.findFasterCircuits(); }
+    Q_INVOKABLE void optimizeCircuits() { m_session.optimizeCircuits(); }
     Q_INVOKABLE void newCircuit() { m_session.newCircuit(followed()); }
     void refresh();
 

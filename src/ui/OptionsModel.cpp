@@ -1,6 +1,7 @@
 #include "ui/OptionsModel.h"
 
 #include "bridges/BridgeLines.h"
+#include "bridges/BridgePlan.h"
 #include "bridges/BridgeText.h"
 #include "ui/Wording.h"
 
@@ -46,16 +47,11 @@ OptionsModel::OptionsModel(Session &session, QObject *parent)
     });
 }
 
-bool OptionsModel::locked() const
-{
-    const Phase phase = m_session.now().phase;
-    return phase == Phase::connecting || phase == Phase::connected || phase == Phase::disconnecting;
-}
-
 bool OptionsModel::strictMode() const
 {
     const Snapshot &now = m_session.now();
-    const bool isSessions = now.phase == Phase::connected || now.phase == Phase::disconnecting;
+    const bool isSessions = now.phase == ConnectionPhase::connected
+        || now.phase == ConnectionPhase::disconnecting;
     return isSessions && now.activeMode ? now.activeMode == RoutingMode::strict
                                         : choices().strictMode;
 }
@@ -148,42 +144,17 @@ void OptionsModel::setBridgeIndex(int index)
     m_session.store(next);
 }
 
-bool OptionsModel::transportMissing() const
-{
-    const PluggableTransports &found = m_session.now().transports;
-    switch (choices().bridgeChoice) {
-    case BridgeChoice::off:
-        return false;
-    case BridgeChoice::obfs4:
-    case BridgeChoice::meek:
-        return !found.lyrebird || !found.builtinLines(choices().bridgeChoice);
-    case BridgeChoice::snowflake:
-        return !found.snowflake || !found.builtinLines(choices().bridgeChoice);
-    case BridgeChoice::custom:
-        break;
-    }
-    for (const QString &line : BridgeLines::parse(choices().customBridges).lines) {
-        const auto transport = BridgeLines::transport(line);
-        if (!transport)
-            continue;
-        if (*transport == u"snowflake"       ? !found.snowflake
-                : *transport == u"webtunnel" ? !found.webtunnel && !found.lyrebird
-                                             : !found.lyrebird)
-            return true;
-    }
-    return false;
-}
-
 bool OptionsModel::needsDownload() const
 {
-    return transportMissing();
+    return lacksTransport(choices().bridgeChoice, choices().customBridges,
+                          m_session.now().transports);
 }
 
 QString OptionsModel::bridgeNote() const
 {
     if (customChosen() && BridgeLines::parse(choices().customBridges).lines.isEmpty())
         return tr("No bridges added yet");
-    if (transportMissing())
+    if (needsDownload())
         return tr("Needs bridge programs: click Download");
     if (choices().bridgeChoice == BridgeChoice::off || customChosen())
         return {};
@@ -192,7 +163,7 @@ QString OptionsModel::bridgeNote() const
 
 bool OptionsModel::bridgeNoteIsWarning() const
 {
-    return transportMissing()
+    return needsDownload()
         || (customChosen() && BridgeLines::parse(choices().customBridges).lines.isEmpty());
 }
 
@@ -258,7 +229,7 @@ QString OptionsModel::applicationCount() const
 
 bool OptionsModel::canLaunchBypassed() const
 {
-    return m_session.now().phase == Phase::connected
+    return m_session.now().phase == ConnectionPhase::connected
         && m_session.now().activeMode == RoutingMode::strict;
 }
 

@@ -43,7 +43,7 @@ public:
     // `session` must outlive the model.
     explicit OptionsModel(Session &session, QObject *parent = nullptr);
 
-    bool locked() const;     // the connection's options are locked while it lasts
+    bool locked() const { return locksOptions(m_session.now().phase); }
     bool strictMode() const; // while connected, the session's mode
     bool allowLocalNetwork() const { return choices().allowLocalNetwork; }
     bool optimizeSpeed() const { return choices().optimizeSpeed; }
@@ -100,7 +100,6 @@ Q_SIGNALS:
 
 private:
     const Choices &choices() const { return m_session.now().choices; }
-    bool transportMissing() const;
 
     Session &m_session;
     const std::vector<ExitCountry> m_exits;

@@ -32,14 +32,14 @@ void PanelModel::update()
     const Snapshot &now = m_session.now();
     const bool moved = std::exchange(m_lastProgress, now.bootstrapProgress) != now.bootstrapProgress
         || std::exchange(m_lastDetail, now.statusDetail) != now.statusDetail;
-    if (now.phase != Phase::connecting) {
+    if (now.phase != ConnectionPhase::connecting) {
         m_stillness.stop();
         m_still = false;
     } else if (moved || !(m_stillness.isActive() || m_still)) {
         m_still = false;
         m_stillness.start();
     }
-    if (now.phase == Phase::connected)
+    if (now.phase == ConnectionPhase::connected)
         m_traffic.add(now.bytesRead, now.bytesWritten);
     else
         m_traffic.clear();
@@ -63,10 +63,10 @@ void PanelModel::rememberExitCountry()
 
 bool PanelModel::connected() const
 {
-    return m_session.now().phase == Phase::connected;
+    return m_session.now().phase == ConnectionPhase::connected;
 }
 
-bool PanelModel::lookupsLeak() const
+bool PanelModel::dnsLeaks() const
 {
     return connected() && m_session.now().dns.isLeak();
 }
@@ -74,7 +74,7 @@ bool PanelModel::lookupsLeak() const
 bool PanelModel::throughBridge() const
 {
     const Snapshot &now = m_session.now();
-    return now.phase == Phase::connected && now.activeBridge
+    return now.phase == ConnectionPhase::connected && now.activeBridge
         && *now.activeBridge != BridgeChoice::off;
 }
 
@@ -128,15 +128,15 @@ QString PanelModel::detail() const
 QString PanelModel::powerLabel() const
 {
     switch (m_session.now().phase) {
-    case Phase::disconnected:
+    case ConnectionPhase::disconnected:
         return tr("Connect to Tor");
-    case Phase::connecting:
+    case ConnectionPhase::connecting:
         return tr("Cancel");
-    case Phase::connected:
+    case ConnectionPhase::connected:
         return tr("Disconnect");
-    case Phase::disconnecting:
+    case ConnectionPhase::disconnecting:
         return {};
-    case Phase::stale:
+    case ConnectionPhase::stale:
         return m_session.now().isAnothers ? QString() : tr("Reconnect");
     }
     return {};
@@ -146,24 +146,18 @@ bool PanelModel::powerEnabled() const
 {
     const Snapshot &now = m_session.now();
     switch (now.phase) {
-    case Phase::disconnected:
+    case ConnectionPhase::disconnected:
         return now.canTryTor();
-    case Phase::stale: // another process's session is only ended, never replaced
+    case ConnectionPhase::stale: // another process's session is only ended, never replaced
         return now.canTryTor() && !now.isAnothers;
-    case Phase::connecting:
+    case ConnectionPhase::connecting:
         return now.canCancel;
-    case Phase::connected:
+    case ConnectionPhase::connected:
         return true;
-    case Phase::disconnecting:
+    case ConnectionPhase::disconnecting:
         return false;
     }
     return false;
-}
-
-bool PanelModel::busy() const
-{
-    const Phase phase = m_session.now().phase;
-    return phase == Phase::connecting || phase == Phase::disconnecting;
 }
 
 double PanelModel::progress() const
@@ -171,15 +165,15 @@ double PanelModel::progress() const
     // While the session is taken down it keeps Tor's last report, which is not the progress of
     // that.
     const Snapshot &now = m_session.now();
-    return now.phase == Phase::connecting ? now.bootstrapProgress : 0;
+    return now.phase == ConnectionPhase::connecting ? now.bootstrapProgress : 0;
 }
 
 void PanelModel::pressPower()
 {
     if (!powerEnabled())
         return;
-    const Phase phase = m_session.now().phase;
-    if (phase == Phase::disconnected || phase == Phase::stale)
+    const ConnectionPhase phase = m_session.now().phase;
+    if (phase == ConnectionPhase::disconnected || phase == ConnectionPhase::stale)
         m_session.connectToTor();
     else
         m_session.disconnectFromTor();
@@ -192,7 +186,7 @@ QString PanelModel::pillText() const
         return tr("Connected through %1 bridges").arg(shownName(*now.activeBridge));
     if (now.activeMode)
         return *now.activeMode == RoutingMode::strict ? tr("Strict") : tr("Proxy");
-    if (now.phase == Phase::stale)
+    if (now.phase == ConnectionPhase::stale)
         return {};
     return now.choices.strictMode ? tr("Strict") : tr("Proxy");
 }
@@ -210,11 +204,11 @@ QString PanelModel::pillSymbol() const
 QString PanelModel::footnote() const
 {
     const Snapshot &now = m_session.now();
-    if (!now.canTryTor() && now.phase == Phase::disconnected)
+    if (!now.canTryTor() && now.phase == ConnectionPhase::disconnected)
         return tr("Install Tor to get started");
-    if (now.phase == Phase::disconnected)
+    if (now.phase == ConnectionPhase::disconnected)
         return tr("Click to connect");
-    if (now.phase == Phase::connected)
+    if (now.phase == ConnectionPhase::connected)
         return tr("Click to disconnect");
     return {};
 }
@@ -222,13 +216,14 @@ QString PanelModel::footnote() const
 bool PanelModel::canRestore() const
 {
     const Snapshot &now = m_session.now();
-    return now.phase == Phase::stale || (now.phase == Phase::disconnected && now.markerPresent);
+    return now.phase == ConnectionPhase::stale
+        || (now.phase == ConnectionPhase::disconnected && now.markerPresent);
 }
 
 QString PanelModel::waitingFor() const
 {
     const Snapshot &now = m_session.now();
-    if (now.phase == Phase::connecting && now.bootstrapProblem)
+    if (now.phase == ConnectionPhase::connecting && now.bootstrapProblem)
         return now.bootstrapProblem->translated();
     if (!m_still)
         return {};
@@ -261,7 +256,7 @@ QString PanelModel::verification() const
 
 QString PanelModel::leakText() const
 {
-    if (lookupsLeak())
+    if (dnsLeaks())
         return tr("DNS leak");
     const LeakStatus leak = knownLeak();
     switch (leak.kind()) {
@@ -301,7 +296,7 @@ QString PanelModel::leakHelp() const
 
 PanelModel::Tone PanelModel::leakTone() const
 {
-    if (lookupsLeak())
+    if (dnsLeaks())
         return Tone::Danger;
     switch (knownLeak().kind()) {
     case LeakStatus::Kind::exposed:
@@ -350,7 +345,7 @@ QString PanelModel::error() const
 {
     const Snapshot &now = m_session.now();
     const QString error = shown(now.errorMessage);
-    if (error.isEmpty() || now.phase != Phase::stale || !now.bootstrapProblem)
+    if (error.isEmpty() || now.phase != ConnectionPhase::stale || !now.bootstrapProblem)
         return error;
     return error + u' ' + now.bootstrapProblem->translated();
 }
@@ -358,7 +353,8 @@ QString PanelModel::error() const
 bool PanelModel::torMissing() const
 {
     const Snapshot &now = m_session.now();
-    return !now.canTryTor() && (now.phase == Phase::disconnected || now.phase == Phase::stale);
+    return !now.canTryTor()
+        && (now.phase == ConnectionPhase::disconnected || now.phase == ConnectionPhase::stale);
 }
 
 QString PanelModel::installHint() const

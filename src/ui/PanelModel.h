@@ -47,7 +47,7 @@ class PanelModel : public QObject {
     Q_PROPERTY(bool checking READ checking NOTIFY changed)
     Q_PROPERTY(QString optimizeText READ optimizeText NOTIFY changed)
 
-    Q_PROPERTY(bool lookupsLeak READ lookupsLeak NOTIFY changed)
+    Q_PROPERTY(bool dnsLeaks READ dnsLeaks NOTIFY changed)
     Q_PROPERTY(QStringList leakingResolvers READ leakingResolvers NOTIFY changed)
     Q_PROPERTY(QString moreResolvers READ moreResolvers NOTIFY changed)
 
@@ -73,7 +73,7 @@ public:
     QString detail() const;
     QString powerLabel() const;
     bool powerEnabled() const;
-    bool busy() const;
+    bool busy() const { return isChanging(m_session.now().phase); }
     double progress() const;  // 0…1; 0 unless Tor is bootstrapping
     QString pillText() const; // empty: no pill
     QString pillSymbol() const;
@@ -102,7 +102,7 @@ public:
     bool checking() const { return m_session.now().isChecking; }
     QString optimizeText() const;
 
-    bool lookupsLeak() const; // in the running session
+    bool dnsLeaks() const; // in the running session
     QStringList leakingResolvers() const;
     QString moreResolvers() const;
 
@@ -116,8 +116,8 @@ public:
     Q_INVOKABLE void restore() { m_session.disconnectFromTor(); }
     Q_INVOKABLE void newIdentity() { m_session.newIdentity(); }
     Q_INVOKABLE void leakTest() { m_session.runChecks(); }
-    Q_INVOKABLE void fixDNS() { m_session.fixLookups(); }
-    Q_INVOKABLE void retestDNS() { m_session.checkLookups(); }
+    Q_INVOKABLE void fixDNS() { m_session.fixDNS(); }
+    Q_INVOKABLE void retestDNS() { m_session.checkDNS(); }
     Q_INVOKABLE void dismissError() { m_session.dismissError(); }
     Q_INVOKABLE void recheckTor() { m_session.lookAgain(); }
     Q_INVOKABLE void copy(const QString &text) const;

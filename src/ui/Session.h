@@ -33,11 +33,11 @@ public:
     virtual void connectToTor() = 0;
     virtual void disconnectFromTor() = 0; // also ends an attempt, and restores a left-over network
     virtual void runChecks() = 0;
-    virtual void checkLookups() = 0; // with a live test
-    virtual void fixLookups() = 0;
+    virtual void checkDNS() = 0; // with a live test
+    virtual void fixDNS() = 0;
     virtual void newIdentity() = 0;
     virtual void newCircuit(const QString &id) = 0;
-    virtual void findFasterCircuits() = 0;
+    virtual void optimizeCircuits() = 0;
     virtual void refreshCircuits() = 0;
     virtual void dismissError() = 0;
     // Reads again what other programs may change: tor, the session marker, the terminal's files,

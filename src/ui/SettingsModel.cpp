@@ -60,12 +60,6 @@ QString SettingsModel::torPlace() const
         : tr("Install it with %1").arg(shownHint(m_session.profile().torInstallHint));
 }
 
-bool SettingsModel::torLocked() const
-{
-    const Phase phase = now().phase;
-    return phase == Phase::connecting || phase == Phase::connected || phase == Phase::disconnecting;
-}
-
 QString SettingsModel::installCommand() const
 {
     const QString &hint = m_session.profile().torInstallHint;
@@ -180,8 +174,7 @@ QString SettingsModel::onComputer() const
 
 bool SettingsModel::canRestore() const
 {
-    const Phase phase = now().phase;
-    return now().markerPresent && phase != Phase::connecting && phase != Phase::disconnecting;
+    return now().markerPresent && !isChanging(now().phase);
 }
 
 void SettingsModel::copy(const QString &text) const

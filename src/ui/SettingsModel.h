@@ -65,7 +65,7 @@ public:
     bool torFound() const { return now().torPath.has_value(); }
     QString torStatus() const; // "Found", "Missing" (a custom one), "Not found" (none)
     QString torPlace() const;
-    bool torLocked() const; // a session keeps its tor
+    bool torLocked() const { return locksOptions(now().phase); } // a session keeps its tor
     // The command that `torPlace` tells the user to run; empty when it names none.
     QString installCommand() const;
     bool torCustom() const { return !now().choices.customTorPath.isEmpty(); }

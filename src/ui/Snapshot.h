@@ -23,8 +23,6 @@
 // qml/panel/Panel.qml.
 namespace veldmark {
 
-using Phase = ConnectionPhase;
-
 // The user's choices. A view changes a copy and passes it to Session::store().
 struct Choices {
     bool strictMode = true;
@@ -46,7 +44,7 @@ struct Choices {
 struct Snapshot {
     Choices choices;
 
-    Phase phase = Phase::disconnected;
+    ConnectionPhase phase = ConnectionPhase::disconnected;
     std::optional<RoutingMode> activeMode;
     std::optional<BridgeChoice> activeBridge;
     double bootstrapProgress = 0; // 0…1

@@ -474,7 +474,7 @@ private Q_SLOTS:
         stage.picture();
         QVERIFY(named(window->contentItem(), QStringLiteral("Fix DNS")));
         QVERIFY(named(window->contentItem(), QStringLiteral("Leak Test")));
-        snapshot.phase = Phase::stale;
+        snapshot.phase = ConnectionPhase::stale;
         stage.session.show(snapshot);
         stage.picture();
         QVERIFY(!named(window->contentItem(), QStringLiteral("Fix DNS")));

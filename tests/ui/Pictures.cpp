@@ -35,7 +35,7 @@ void drawPanel(Stage &stage, const QDir &folder, const QString &suffix, int widt
     for (const Scenes::Scene &scene : Scenes::panel()) {
         stage.panel.traffic()->clear();
         stage.session.show(scene.snapshot);
-        if (scene.snapshot.phase == Phase::connected) {
+        if (scene.snapshot.phase == ConnectionPhase::connected) {
             const auto start = TrafficHistory::TimePoint() + std::chrono::hours(1);
             stage.panel.traffic()->clear();
             quint64 read = 0;

@@ -57,7 +57,7 @@ Snapshot protectedSession()
 {
     Snapshot s;
     s.torPath = QStringLiteral("/usr/bin/tor");
-    s.phase = Phase::connected;
+    s.phase = ConnectionPhase::connected;
     s.activeMode = RoutingMode::strict;
     s.statusDetail = Text::tr("All traffic is locked to Tor");
     s.killSwitch = KillSwitch{KillSwitch::State::standing, 0,
@@ -153,7 +153,7 @@ std::vector<Scene> panel()
     add("disconnected-error-programs-missing", s);
 
     s = idle;
-    s.phase = Phase::connecting;
+    s.phase = ConnectionPhase::connecting;
     s.activeMode = RoutingMode::strict;
     s.statusDetail = Text::tr("Waiting for administrator approval…");
     add("connecting-approval", s);
@@ -252,7 +252,7 @@ std::vector<Scene> panel()
     add("connected-proxy-dns-leak", s);
 
     s = protectedSession();
-    s.phase = Phase::disconnecting;
+    s.phase = ConnectionPhase::disconnecting;
     s.statusDetail = Text::tr("Restoring your network settings…");
     s.bootstrapProgress = 1; // as Tor reported last
     add("disconnecting-strict", s);
@@ -261,7 +261,7 @@ std::vector<Scene> panel()
     add("disconnecting-proxy", s);
 
     s = idle;
-    s.phase = Phase::stale;
+    s.phase = ConnectionPhase::stale;
     s.activeMode = RoutingMode::strict;
     s.markerPresent = true;
     s.statusDetail = Text::tr("Tor stopped running");

@@ -62,11 +62,11 @@ public:
     void connectToTor() override { asked << QStringLiteral("connect"); }
     void disconnectFromTor() override { asked << QStringLiteral("disconnect"); }
     void runChecks() override { asked << QStringLiteral("runChecks"); }
-    void checkLookups() override { asked << QStringLiteral("checkDNS"); }
-    void fixLookups() override { asked << QStringLiteral("fixDNS"); }
+    void checkDNS() override { asked << QStringLiteral("checkDNS"); }
+    void fixDNS() override { asked << QStringLiteral("fixDNS"); }
     void newIdentity() override { asked << QStringLiteral("newIdentity"); }
     void newCircuit(const QString &id) override { asked << QStringLiteral("newCircuit ") + id; }
-    void findFasterCircuits() override { asked << QStringLiteral("optimizeCircuits"); }
+    void optimizeCircuits() override { asked << QStringLiteral("optimizeCircuits"); }
     void refreshCircuits() override { asked << QStringLiteral("refreshCircuits"); }
     void dismissError() override
     {

@@ -22,14 +22,14 @@ class AlertsTest : public QObject {
         return {state, missed, QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC)};
     }
 
-    static Snapshot inPhase(Phase phase)
+    static Snapshot inPhase(ConnectionPhase phase)
     {
         Snapshot s;
         s.phase = phase;
         s.activeMode = RoutingMode::strict;
-        if (phase != Phase::disconnected)
+        if (phase != ConnectionPhase::disconnected)
             s.killSwitch = rules(KillSwitch::State::standing);
-        s.hasTorStopped = phase == Phase::stale;
+        s.hasTorStopped = phase == ConnectionPhase::stale;
         return s;
     }
 
@@ -39,11 +39,11 @@ private Q_SLOTS:
         StandInSession session(profile);
         Alerts alerts(session);
         QSignalSpy told(&alerts, &Alerts::told);
-        session.show(inPhase(Phase::connected));
-        session.show(inPhase(Phase::stale));
+        session.show(inPhase(ConnectionPhase::connected));
+        session.show(inPhase(ConnectionPhase::stale));
         QCOMPARE(told.count(), 1);
         QCOMPARE(told.at(0).at(0).toString(), QStringLiteral("Tor stopped running"));
-        session.show(inPhase(Phase::stale));
+        session.show(inPhase(ConnectionPhase::stale));
         QCOMPARE(told.count(), 1);
     }
 
@@ -52,8 +52,8 @@ private Q_SLOTS:
         StandInSession session(profile);
         Alerts alerts(session);
         QSignalSpy told(&alerts, &Alerts::told);
-        session.show(inPhase(Phase::connected));
-        Snapshot replaced = inPhase(Phase::stale);
+        session.show(inPhase(ConnectionPhase::connected));
+        Snapshot replaced = inPhase(ConnectionPhase::stale);
         replaced.isAnothers = true;
         replaced.hasTorStopped = false;
         // the message is about something else
@@ -75,15 +75,16 @@ private Q_SLOTS:
         Alerts alerts(session);
         QSignalSpy told(&alerts, &Alerts::told);
         QVERIFY(bench.connect());
-        QVERIFY(until(
-            [&] { return session.now().phase == Phase::connected && !session.now().isChecking; }));
+        QVERIFY(until([&] {
+            return session.now().phase == ConnectionPhase::connected && !session.now().isChecking;
+        }));
         const QString marker = bench.profile.sessionMarker;
         bench.writeFile(marker + QStringLiteral(".new"), "strict\n");
         QVERIFY(std::rename(QFile::encodeName(marker + QStringLiteral(".new")).constData(),
                             QFile::encodeName(marker).constData())
                 == 0);
         bench.clock.advance(std::chrono::seconds(1));
-        QVERIFY(until([&] { return session.now().phase == Phase::stale; }));
+        QVERIFY(until([&] { return session.now().phase == ConnectionPhase::stale; }));
         QCOMPARE(told.count(), 1);
         QCOMPARE(told.at(0).at(0).toString(),
                  QStringLiteral("Another session has replaced this one"));
@@ -100,7 +101,7 @@ private Q_SLOTS:
         bench.tor.stopListening();
         for (int tick = 0; tick < 3; ++tick)
             QVERIFY(bench.tick());
-        QVERIFY(until([&] { return session.now().phase == Phase::stale; }));
+        QVERIFY(until([&] { return session.now().phase == ConnectionPhase::stale; }));
         QCOMPARE(told.count(), 1);
         QCOMPARE(told.at(0).at(0).toString(), QStringLiteral("Tor stopped running"));
     }
@@ -110,8 +111,8 @@ private Q_SLOTS:
         StandInSession session(profile);
         Alerts alerts(session);
         QSignalSpy told(&alerts, &Alerts::told);
-        session.show(inPhase(Phase::connected));
-        Snapshot ended = inPhase(Phase::disconnected);
+        session.show(inPhase(ConnectionPhase::connected));
+        Snapshot ended = inPhase(ConnectionPhase::disconnected);
         ended.errorMessage = QStringLiteral(
             "Tor stopped running, and your network is no longer set up for it.");
         session.show(ended);
@@ -125,7 +126,7 @@ private Q_SLOTS:
         StandInSession session(profile);
         Alerts alerts(session);
         QSignalSpy told(&alerts, &Alerts::told);
-        Snapshot s = inPhase(Phase::connected);
+        Snapshot s = inPhase(ConnectionPhase::connected);
         session.show(s);
         QCOMPARE(told.count(), 0);
         s.killSwitch = rules(State::putBack, 1);
@@ -159,7 +160,7 @@ private Q_SLOTS:
         StandInSession session(profile);
         Alerts alerts(session);
         QSignalSpy told(&alerts, &Alerts::told);
-        Snapshot s = inPhase(Phase::connected);
+        Snapshot s = inPhase(ConnectionPhase::connected);
         s.activeMode = RoutingMode::strict;
         s.killSwitch = rules(State::standing);
         session.show(s);
@@ -180,7 +181,7 @@ private Q_SLOTS:
         StandInSession session(profile);
         Alerts alerts(session);
         QSignalSpy told(&alerts, &Alerts::told);
-        Snapshot s = inPhase(Phase::connected);
+        Snapshot s = inPhase(ConnectionPhase::connected);
         session.show(s);
         for (int second = 0; second < 60; ++second) {
             s.killSwitch = rules(State::putBack, second + 1, 1'800'000'000 + second);
@@ -192,10 +193,10 @@ private Q_SLOTS:
         QCOMPARE(told.count(), 2);
         // The first notification comes again in another session.
         s.killSwitch.reset();
-        s.phase = Phase::disconnecting;
+        s.phase = ConnectionPhase::disconnecting;
         session.show(s);
         s.killSwitch = rules(State::putBack, 1, 1'800'000'070);
-        s.phase = Phase::connected;
+        s.phase = ConnectionPhase::connected;
         session.show(s);
         QCOMPARE(told.count(), 3);
     }
@@ -207,7 +208,7 @@ private Q_SLOTS:
             StandInSession session(profile);
             Alerts alerts(session);
             QSignalSpy told(&alerts, &Alerts::told);
-            Snapshot s = inPhase(Phase::stale);
+            Snapshot s = inPhase(ConnectionPhase::stale);
             s.killSwitch = rules(state, 3);
             session.show(s);
             QCOMPARE(told.count(), state == State::open ? 1 : 0); // this session's rules failed now
@@ -219,9 +220,11 @@ private Q_SLOTS:
         StandInSession session(profile);
         Alerts alerts(session);
         QSignalSpy told(&alerts, &Alerts::told);
-        for (const Phase phase :
-             {Phase::connecting, Phase::connected, Phase::disconnecting, Phase::connected,
-              Phase::disconnecting, Phase::disconnected, Phase::stale})
+        for (const ConnectionPhase phase :
+             {ConnectionPhase::connecting, ConnectionPhase::connected,
+              ConnectionPhase::disconnecting, ConnectionPhase::connected,
+              ConnectionPhase::disconnecting, ConnectionPhase::disconnected,
+              ConnectionPhase::stale})
             session.show(inPhase(phase));
         QCOMPARE(told.count(), 0);
     }
@@ -231,7 +234,7 @@ private Q_SLOTS:
         StandInSession session(profile);
         Alerts alerts(session);
         QSignalSpy told(&alerts, &Alerts::told);
-        Snapshot s = inPhase(Phase::connected);
+        Snapshot s = inPhase(ConnectionPhase::connected);
         session.show(s);
         s.dns = DNSStatus::leak({QStringLiteral("192.168.1.1")});
         session.show(s);

@@ -333,7 +333,7 @@ private Q_SLOTS:
     {
         Shown shown;
         Snapshot connected;
-        connected.phase = Phase::connected;
+        connected.phase = ConnectionPhase::connected;
         const auto read = [&shown] { return shown.session.asked.removeAll(u"refreshCircuits"_s); };
         QVERIFY(shown.windows->open(u"circuits"_s)); // before the session
         settle();                                    // QML learns late that a window is visible

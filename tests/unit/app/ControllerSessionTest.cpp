@@ -31,7 +31,7 @@ private Q_SLOTS:
         bench.controller().exitCountry.set(u"de"_s);
         const ControllerSession session(bench.controller(), *bench.settings, bench.applications);
         QCOMPARE(session.now().choices.exitCountry, u"de"_s);
-        QVERIFY(session.now().phase == Phase::disconnected);
+        QVERIFY(session.now().phase == ConnectionPhase::disconnected);
         QVERIFY(session.now().torPath);
         QVERIFY(!session.now().markerPresent);
     }
@@ -84,7 +84,7 @@ private Q_SLOTS:
         QVERIFY(Workbench::finished(refreshing));
         settle();
         const Snapshot connected = session.now(); // there is something to hide
-        QVERIFY(connected.phase == Phase::connected && connected.exitIP
+        QVERIFY(connected.phase == ConnectionPhase::connected && connected.exitIP
                 && connected.torVerified == true);
         QVERIFY(connected.leak == LeakStatus::blocked() && connected.bytesRead == 1000);
         QCOMPARE(connected.circuits.size(), std::size_t(1));
@@ -93,7 +93,7 @@ private Q_SLOTS:
         bench.tor.disconnectAll();
         for (int read = 0; read < 3; ++read)
             QVERIFY(bench.tick());
-        QVERIFY(until([&] { return session.now().phase == Phase::stale; }));
+        QVERIFY(until([&] { return session.now().phase == ConnectionPhase::stale; }));
         QVERIFY(bench.controller().exitIP()); // the controller keeps it
         const Snapshot &stale = session.now();
         QVERIFY(!stale.exitIP && !stale.torVerified && !stale.latencyMs && !stale.isChecking);
@@ -432,7 +432,7 @@ private Q_SLOTS:
         bench.clock.advance(std::chrono::minutes(5));
         QVERIFY(Workbench::finished(connecting));
         settle();
-        QVERIFY(session.now().phase == Phase::stale && session.now().bootstrapProblem);
+        QVERIFY(session.now().phase == ConnectionPhase::stale && session.now().bootstrapProblem);
         bench.controller().showProblem(QStringLiteral("The settings can't be written."));
         settle();
         QVERIFY(!session.now().bootstrapProblem);
@@ -453,7 +453,7 @@ private Q_SLOTS:
         bench.disconnect();
         bench.clock.advance(std::chrono::seconds(1));
         QVERIFY(Workbench::finished(connecting));
-        QVERIFY(until([&] { return session.now().phase == Phase::stale; }));
+        QVERIFY(until([&] { return session.now().phase == ConnectionPhase::stale; }));
         QVERIFY(session.now().errorMessage && !bench.controller().settingsProblems().isEmpty());
         QVERIFY(!session.now().bootstrapProblem);
     }
@@ -569,7 +569,7 @@ private Q_SLOTS:
         QVERIFY(bench.connect());
         bench.hold(u"disconnect"_s);
         const auto disconnecting = bench.controller().disconnect();
-        QVERIFY(until([&] { return session.now().phase == Phase::disconnecting; }));
+        QVERIFY(until([&] { return session.now().phase == ConnectionPhase::disconnecting; }));
         QCOMPARE(session.now().bootstrapProgress, 1.0); // must not appear as the disconnect's
                                                         // message
         QCOMPARE(session.now().statusDetail, u"Restoring your network settings…"_s);
@@ -577,7 +577,7 @@ private Q_SLOTS:
         bench.processes.hold = nullptr;
         bench.processes.release();
         QVERIFY(Workbench::finished(disconnecting));
-        QVERIFY(until([&] { return session.now().phase == Phase::disconnected; }));
+        QVERIFY(until([&] { return session.now().phase == ConnectionPhase::disconnected; }));
         QCOMPARE(session.now().bootstrapProgress, 0.0);
     }
 };

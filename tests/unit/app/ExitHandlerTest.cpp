@@ -10,7 +10,6 @@
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace veldmark;
-using Phase = ConnectionPhase;
 
 namespace {
 
@@ -137,7 +136,7 @@ private Q_SLOTS:
         QVERIFY(until([&] { return settled.count() == 1; }));
         QCOMPARE(settled.at(0).at(0).toBool(), true);
         QCOMPARE(leaving.mayEnd.count(), 0);
-        QVERIFY(leaving.bench.controller().phase() == Phase::disconnected);
+        QVERIFY(leaving.bench.controller().phase() == ConnectionPhase::disconnected);
     }
 
     void patienceIsLostAgainWithAHelperThatStillHangs()

@@ -290,8 +290,9 @@ private Q_SLOTS:
         Tray tray(session);
         auto *icon = tray.findChild<QSystemTrayIcon *>();
         int combinations = 0;
-        for (const Phase phase : {Phase::disconnected, Phase::connecting, Phase::connected,
-                                  Phase::disconnecting, Phase::stale})
+        for (const ConnectionPhase phase :
+             {ConnectionPhase::disconnected, ConnectionPhase::connecting,
+              ConnectionPhase::connected, ConnectionPhase::disconnecting, ConnectionPhase::stale})
             for (const std::optional<RoutingMode> mode :
                  {std::optional<RoutingMode>(), std::optional(RoutingMode::strict),
                   std::optional(RoutingMode::proxy)})

@@ -16,7 +16,7 @@ class TrayTest : public QObject {
 
     static QMenu *menu(Tray &tray) { return tray.findChild<QSystemTrayIcon *>()->contextMenu(); }
 
-    static Snapshot inPhase(Phase phase)
+    static Snapshot inPhase(ConnectionPhase phase)
     {
         Snapshot s;
         s.phase = phase;
@@ -141,7 +141,7 @@ private Q_SLOTS:
         Tray tray(session);
         auto *icon = tray.findChild<QSystemTrayIcon *>();
         QVERIFY(icon);
-        session.show(inPhase(Phase::disconnected));
+        session.show(inPhase(ConnectionPhase::disconnected));
         QCOMPARE(icon->toolTip(), QStringLiteral("Veldmark: Not Protected"));
         QAction *power = menu(tray)->actions().at(1);
         QCOMPARE(power->text(), QStringLiteral("Connect to Tor"));
@@ -149,7 +149,7 @@ private Q_SLOTS:
         power->trigger();
         QCOMPARE(session.asked, QStringList(QStringLiteral("connect")));
 
-        Snapshot connected = inPhase(Phase::connected);
+        Snapshot connected = inPhase(ConnectionPhase::connected);
         connected.torVerified = true;
         connected.killSwitch = KillSwitch{KillSwitch::State::standing, 0, {}};
         session.show(connected);
@@ -157,11 +157,11 @@ private Q_SLOTS:
         menu(tray)->actions().at(1)->trigger();
         QCOMPARE(session.asked.last(), QStringLiteral("disconnect"));
 
-        session.show(inPhase(Phase::disconnecting));
+        session.show(inPhase(ConnectionPhase::disconnecting));
         QVERIFY(!power->isVisible());
-        session.show(inPhase(Phase::stale));
+        session.show(inPhase(ConnectionPhase::stale));
         QCOMPARE(icon->toolTip(), QStringLiteral("Veldmark: Needs Attention"));
-        Snapshot without = inPhase(Phase::disconnected);
+        Snapshot without = inPhase(ConnectionPhase::disconnected);
         without.torPath.reset();
         session.show(without);
         QVERIFY(!power->isEnabled());

@@ -71,7 +71,7 @@ private Q_SLOTS:
     {
         int resumed = 0;
         {
-            const LastTurn lastTurn;
+            const CoroutineEnds coroutineEnds;
             const ResumeOnce<bool> told;
             const ResumeOnce<bool> elsewhere;
             await(told, &resumed);

@@ -81,6 +81,25 @@ BridgePlan planned(const BridgeRequest &request, Stage &stage)
 class BridgePlanTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
+    void tellsWhetherADownloadIsNeeded()
+    {
+        PluggableTransports withLines = found(QStringLiteral("l"));
+        QVERIFY(!lacksTransport(BridgeChoice::off, obfs4, found({})));
+        QVERIFY(lacksTransport(BridgeChoice::obfs4, {}, withLines)); // no built-in lines
+        withLines.builtin = {{QStringLiteral("obfs4"), {obfs4}},
+                             {QStringLiteral("snowflake"), {snowflake}}};
+        QVERIFY(!lacksTransport(BridgeChoice::obfs4, {}, withLines));
+        QVERIFY(lacksTransport(BridgeChoice::snowflake, {}, withLines)); // no program
+        withLines.snowflake = snowflakeClient;
+        QVERIFY(!lacksTransport(BridgeChoice::snowflake, {}, withLines));
+        QVERIFY(!lacksTransport(BridgeChoice::custom, plain, found({})));
+        QVERIFY(lacksTransport(BridgeChoice::custom, snowflake, found(QStringLiteral("lw"))));
+        QVERIFY(!lacksTransport(BridgeChoice::custom, webtunnel, found(QStringLiteral("l"))));
+        QVERIFY(!lacksTransport(BridgeChoice::custom, webtunnel, found(QStringLiteral("w"))));
+        QVERIFY(lacksTransport(BridgeChoice::custom, plain + u'\n' + obfs4,
+                               found(QStringLiteral("sw"))));
+    }
+
     void namesTheProgramsThatTheLinesNeed_data()
     {
         QTest::addColumn<QStringList>("lines");

@@ -6,7 +6,7 @@
 using namespace std::chrono_literals;
 using namespace veldmark;
 using Stall = TrafficWatch::Stall;
-using Look = TrafficWatch::Look;
+using Sample = TrafficWatch::Sample;
 
 namespace {
 

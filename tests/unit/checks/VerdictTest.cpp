@@ -7,7 +7,6 @@
 
 using namespace Qt::StringLiterals;
 using namespace veldmark;
-using Phase = ConnectionPhase;
 using State = KillSwitch::State;
 using Level = Verdict::Level;
 using Danger = Verdict::Danger;
@@ -18,8 +17,9 @@ namespace {
 // All values.
 void forEachSession(const std::function<void(const SessionFacts &)> &look)
 {
-    for (const Phase phase : {Phase::disconnected, Phase::connecting, Phase::connected,
-                              Phase::disconnecting, Phase::stale})
+    for (const ConnectionPhase phase :
+         {ConnectionPhase::disconnected, ConnectionPhase::connecting, ConnectionPhase::connected,
+          ConnectionPhase::disconnecting, ConnectionPhase::stale})
         for (const std::optional<RoutingMode> mode :
              {std::optional<RoutingMode>(), std::optional(RoutingMode::strict),
               std::optional(RoutingMode::proxy)})
@@ -48,13 +48,9 @@ void forEachSession(const std::function<void(const SessionFacts &)> &look)
 
 SessionFacts strict()
 {
-    return {Phase::connected,
-            RoutingMode::strict,
-            State::standing,
-            false,
-            false,
-            true,
-            u"All traffic is locked to Tor"_s};
+    return {
+        ConnectionPhase::connected,       RoutingMode::strict, State::standing, false, false, true,
+        u"All traffic is locked to Tor"_s};
 }
 
 } // namespace
@@ -68,7 +64,7 @@ private Q_SLOTS:
         forEachSession([&](const SessionFacts &facts) {
             ++sessions;
             const Verdict verdict = Verdict::of(facts);
-            const bool isConnected = facts.phase == Phase::connected;
+            const bool isConnected = facts.phase == ConnectionPhase::connected;
             const bool rulesStand = facts.killSwitch == State::standing
                 || facts.killSwitch == State::putBack;
             const bool isSafe = isConnected && facts.mode == RoutingMode::strict && rulesStand
@@ -113,8 +109,8 @@ private Q_SLOTS:
         forEachSession([](const SessionFacts &facts) {
             if (facts.killSwitch != State::open)
                 return;
-            const bool isAskedFor = facts.phase == Phase::disconnected
-                || facts.phase == Phase::disconnecting;
+            const bool isAskedFor = facts.phase == ConnectionPhase::disconnected
+                || facts.phase == ConnectionPhase::disconnecting;
             const Verdict verdict = Verdict::of(facts);
             QCOMPARE(verdict.danger == Danger::killSwitchOpen, !isAskedFor);
             QCOMPARE(verdict.title == u"Kill Switch Failed"_s, !isAskedFor);
@@ -127,27 +123,27 @@ private Q_SLOTS:
         forEachSession([](const SessionFacts &facts) {
             const Verdict verdict = Verdict::of(facts);
             QCOMPARE(verdict.danger == Danger::leftOver,
-                     facts.phase == Phase::stale && facts.killSwitch != State::open);
+                     facts.phase == ConnectionPhase::stale && facts.killSwitch != State::open);
             if (verdict.danger != Danger::none && verdict.danger != Danger::leftOver)
                 return;
             switch (facts.phase) {
-            case Phase::disconnected:
+            case ConnectionPhase::disconnected:
                 QCOMPARE(verdict.title.english() + verdict.symbol, u"Not Protectedshield.slash"_s);
                 break;
-            case Phase::connecting:
+            case ConnectionPhase::connecting:
                 QCOMPARE(verdict.title.english() + verdict.symbol,
                          u"Connecting…shield.lefthalf.filled"_s);
                 break;
-            case Phase::connected:
+            case ConnectionPhase::connected:
                 QCOMPARE(verdict.title,
                          facts.mode == RoutingMode::strict ? u"Protected"_s : u"Proxy Active"_s);
                 QCOMPARE(verdict.symbol, u"lock.shield.fill"_s);
                 break;
-            case Phase::disconnecting:
+            case ConnectionPhase::disconnecting:
                 QCOMPARE(verdict.title.english() + verdict.symbol,
                          u"Disconnecting…shield.lefthalf.filled"_s);
                 break;
-            case Phase::stale:
+            case ConnectionPhase::stale:
                 QCOMPARE(verdict.title.english() + verdict.symbol,
                          u"Needs Attentionexclamationmark.shield"_s);
                 break;
@@ -208,10 +204,10 @@ private Q_SLOTS:
         facts.killSwitch = State::open;
         row("open as well", facts, u"danger"_s, u"Kill Switch Failed"_s,
             u"Traffic may leave this computer directly"_s);
-        facts.phase = Phase::stale;
+        facts.phase = ConnectionPhase::stale;
         row("Tor is dead, and it is open", facts, u"danger"_s, u"Kill Switch Failed"_s,
             u"Traffic may leave this computer directly"_s);
-        facts = {Phase::connected,
+        facts = {ConnectionPhase::connected,
                  RoutingMode::proxy,
                  std::nullopt,
                  true,
@@ -230,8 +226,8 @@ private Q_SLOTS:
         row("proxy, look-ups leak", facts, u"danger"_s, u"DNS Leak"_s,
             u"Lookups can go around Tor"_s);
         row("nothing", {}, u"neutral"_s, u"Not Protected"_s, QString());
-        row("connecting", {.phase = Phase::connecting, .detail = u"Preparing Tor…"_s}, u"working"_s,
-            u"Connecting…"_s, u"Preparing Tor…"_s);
+        row("connecting", {.phase = ConnectionPhase::connecting, .detail = u"Preparing Tor…"_s},
+            u"working"_s, u"Connecting…"_s, u"Preparing Tor…"_s);
     }
 
     void theWorstIsSaid()

@@ -115,7 +115,7 @@ private Q_SLOTS:
         Computer computer;
         bool ended = false;
         {
-            const LastTurn lastTurn;
+            const CoroutineEnds coroutineEnds;
             auto run = std::make_unique<RunCommand>(computer.profile, connects);
             application->interrupt(resumption, moment, [&] {
                 ended = true;
@@ -135,7 +135,7 @@ private Q_SLOTS:
         Computer computer;
         Computer::write(computer.profile.helperCandidates.constFirst(), "#!/bin/bash\nsleep 2\n");
         {
-            const LastTurn lastTurn;
+            const CoroutineEnds coroutineEnds;
             RunCommand run(computer.profile, true);
             run.start();
             QTest::qWait(500);

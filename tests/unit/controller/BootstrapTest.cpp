@@ -6,7 +6,6 @@
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace veldmark;
-using Phase = ConnectionPhase;
 
 class BootstrapTest : public QObject {
     Q_OBJECT
@@ -143,7 +142,7 @@ private Q_SLOTS:
         bench.setBootstrap("PROGRESS=100 TAG=done SUMMARY=\"Done\"");
         bench.clock.advance(1s);
         QVERIFY(Workbench::finished(connecting));
-        QVERIFY(c.phase() == Phase::connected && !c.bootstrapProblem());
+        QVERIFY(c.phase() == ConnectionPhase::connected && !c.bootstrapProblem());
     }
 
     void aSilentBridgeProgramIsNamedAfterTenSeconds_data()
@@ -246,13 +245,13 @@ private Q_SLOTS:
         QVERIFY(waitsAfterPoll(bench, 1));
         bench.clock.advance(300s);
         QVERIFY(Workbench::finished(connecting));
-        QVERIFY(c.phase() == Phase::stale);
+        QVERIFY(c.phase() == ConnectionPhase::stale);
         QCOMPARE(c.errorMessage().value(),
                  u"Tor didn't finish connecting within 5 minutes. Your network is still pointed "
                  "at Tor. Click Restore Network to undo."_s);
         QCOMPARE(c.bootstrapProblem().value(), u"Tor reports: Connection refused."_s);
         bench.disconnect();
-        QVERIFY(c.phase() == Phase::disconnected && !c.bootstrapProblem());
+        QVERIFY(c.phase() == ConnectionPhase::disconnected && !c.bootstrapProblem());
     }
 
     void anotherAttemptForgetsTheProblem()
@@ -277,7 +276,7 @@ private Q_SLOTS:
         bench.setBootstrap("PROGRESS=85 TAG=x SUMMARY=\"Connected to a relay\"");
         const auto connecting = c.connect();
         QVERIFY(waitsAfterPoll(bench, 1));
-        QVERIFY(c.phase() == Phase::connecting && c.canCancel());
+        QVERIFY(c.phase() == ConnectionPhase::connecting && c.canCancel());
         QCOMPARE(c.bootstrapProgress(), 0.85);
         QCOMPARE(c.statusDetail(), u"Connected to a relay"_s);
 
@@ -290,7 +289,7 @@ private Q_SLOTS:
         bench.setBootstrap("PROGRESS=100 TAG=done SUMMARY=\"Done\"");
         bench.clock.advance(1s);
         QVERIFY(Workbench::finished(connecting));
-        QVERIFY(c.phase() == Phase::connected && !c.canCancel());
+        QVERIFY(c.phase() == ConnectionPhase::connected && !c.canCancel());
     }
 
     void asksOnceASecond()
@@ -329,12 +328,12 @@ private Q_SLOTS:
         bench.tor.stopListening();
         const auto connecting = bench.controller().connect();
         QVERIFY(until([&] { return bench.clock.sleepers() == 2; }));
-        QVERIFY(bench.controller().phase() == Phase::connecting);
+        QVERIFY(bench.controller().phase() == ConnectionPhase::connecting);
         QCOMPARE(bench.controller().statusDetail(), u"Starting Tor…"_s);
         bench.tor.listen();
         bench.clock.advance(1s);
         QVERIFY(Workbench::finished(connecting));
-        QVERIFY(bench.controller().phase() == Phase::connected);
+        QVERIFY(bench.controller().phase() == ConnectionPhase::connected);
         QVERIFY(!bench.controller().errorMessage());
     }
 
@@ -364,11 +363,11 @@ private Q_SLOTS:
             bench.clock.advance(1s);
             QVERIFY(waitsAfterPoll(bench, second + 1));
         }
-        QVERIFY(c.phase() == Phase::connecting && c.canCancel());
+        QVERIFY(c.phase() == ConnectionPhase::connecting && c.canCancel());
         bench.clock.advance(1s);
         QVERIFY(Workbench::finished(connecting));
         QCOMPARE(bench.commandCount(Workbench::bootstrapCommand), 300);
-        QVERIFY(c.phase() == Phase::stale && !c.canCancel());
+        QVERIFY(c.phase() == ConnectionPhase::stale && !c.canCancel());
         QCOMPARE(c.statusDetail(), u"Tor didn't finish connecting"_s);
         QCOMPARE(
             c.errorMessage().value(),
@@ -380,7 +379,7 @@ private Q_SLOTS:
         QCOMPARE(bench.clock.sleepers(), std::size_t(1)); // only the rules are watched
 
         bench.disconnect(); // Restore Network
-        QVERIFY(c.phase() == Phase::disconnected);
+        QVERIFY(c.phase() == ConnectionPhase::disconnected);
         QVERIFY(!c.errorMessage() && !c.activeMode());
     }
 
@@ -395,7 +394,7 @@ private Q_SLOTS:
         QVERIFY(until([&] { return bench.clock.sleepers() == 2; }));
         bench.clock.advance(1s);
         QVERIFY(Workbench::finished(connecting));
-        QVERIFY(bench.controller().phase() == Phase::stale);
+        QVERIFY(bench.controller().phase() == ConnectionPhase::stale);
         QVERIFY(bench.controller().errorMessage()->english().contains(
             u" (Tor didn't answer on its control port in time.) "_s));
     }
@@ -420,13 +419,13 @@ private Q_SLOTS:
         QVERIFY(asleep ? waitsAfterPoll(bench, 1) : bench.hears(Workbench::bootstrapCommand));
         QVERIFY(c.canCancel());
         bench.disconnect();
-        QVERIFY(c.phase() == Phase::disconnected && !c.canCancel());
+        QVERIFY(c.phase() == ConnectionPhase::disconnected && !c.canCancel());
         QCOMPARE(c.statusDetail(), u"Your traffic is not going through Tor"_s);
         QVERIFY(!bench.hasMarker());
         bench.tor.hangUp();
         bench.clock.advance(1s);
         QVERIFY(Workbench::finished(connecting));
-        QVERIFY(c.phase() == Phase::disconnected && !c.errorMessage() && !c.activeMode());
+        QVERIFY(c.phase() == ConnectionPhase::disconnected && !c.errorMessage() && !c.activeMode());
         QCOMPARE(c.bootstrapProgress(), 0.0);
         QCOMPARE(bench.commandCount(Workbench::bootstrapCommand), 1);
     }
@@ -445,7 +444,7 @@ private Q_SLOTS:
         QVERIFY(Workbench::finished(first));
         // two rule watches; the first one ends
         QVERIFY(until([&] { return bench.clock.sleepers() == 3; }));
-        QVERIFY(c.phase() == Phase::connecting && c.canCancel());
+        QVERIFY(c.phase() == ConnectionPhase::connecting && c.canCancel());
         bench.clock.advance(1s);
         QVERIFY(bench.hears(Workbench::bootstrapCommand, 3));
         QVERIFY(!second.isReady());

@@ -6,7 +6,6 @@
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace veldmark;
-using Phase = ConnectionPhase;
 
 Q_DECLARE_METATYPE(veldmark::ProbeResult)
 Q_DECLARE_METATYPE(veldmark::LeakStatus)

@@ -5,7 +5,6 @@
 
 using namespace Qt::StringLiterals;
 using namespace veldmark;
-using Phase = ConnectionPhase;
 
 namespace {
 
@@ -116,7 +115,7 @@ private Q_SLOTS:
             bench.tor.stopListening();
             for (int tick = 0; tick < 3; ++tick)
                 QVERIFY(bench.tick());
-            QVERIFY(c.phase() == Phase::stale);
+            QVERIFY(c.phase() == ConnectionPhase::stale);
             bench.tor.listen();
         } else {
             bench.disconnect();
@@ -227,7 +226,7 @@ private Q_SLOTS:
         const auto refreshing = bench.controller().refreshCircuits();
         QVERIFY(bench.hears(question.constData()));
         bench.disconnect();
-        QVERIFY(bench.controller().phase() == Phase::disconnected);
+        QVERIFY(bench.controller().phase() == ConnectionPhase::disconnected);
         bench.tor.answerIgnored();
         QVERIFY(Workbench::finished(refreshing));
         QVERIFY(!bench.tor.commands().contains(u"GETINFO ip-to-country/192.0.2.2"_s));

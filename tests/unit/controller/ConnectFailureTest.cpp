@@ -6,20 +6,19 @@
 using namespace Qt::StringLiterals;
 using namespace veldmark;
 using System = Workbench::System;
-using Phase = ConnectionPhase;
 
 class ConnectFailureTest : public QObject {
     Q_OBJECT
 private:
     static bool isNormal(const TorController &c)
     {
-        return c.phase() == Phase::disconnected && !c.activeMode() && !c.activeBridge()
+        return c.phase() == ConnectionPhase::disconnected && !c.activeMode() && !c.activeBridge()
             && !c.canCancel() && c.statusDetail() == u"Your traffic is not going through Tor"_s;
     }
 
     static bool isLeftSetUp(const TorController &c)
     {
-        return c.phase() == Phase::stale && !c.canCancel()
+        return c.phase() == ConnectionPhase::stale && !c.canCancel()
             && c.statusDetail() == u"Your network is still set up for Tor"_s;
     }
 
@@ -59,7 +58,7 @@ private Q_SLOTS:
         bench.controller().detectStaleState();
         QVERIFY(!bench.connect());
         QCOMPARE(bench.controller().errorMessage().value(), message);
-        QVERIFY(bench.controller().phase() == Phase::stale);
+        QVERIFY(bench.controller().phase() == ConnectionPhase::stale);
         QVERIFY(bench.controller().activeMode() == RoutingMode::proxy);
         QVERIFY(bench.processes.calls.empty());
     }
@@ -88,7 +87,7 @@ private Q_SLOTS:
         bench.writeMarker("strict");
         bench.controller().detectStaleState();
         QVERIFY(!bench.connect());
-        QVERIFY(bench.controller().phase() == Phase::stale);
+        QVERIFY(bench.controller().phase() == ConnectionPhase::stale);
         QCOMPARE(bench.searches, 1); // that of the start
         QVERIFY(bench.processes.calls.empty());
     }

@@ -13,7 +13,6 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace veldmark;
 using System = Workbench::System;
-using Phase = ConnectionPhase;
 
 // The start of a connection and the helper's arguments. BootstrapTest tests Tor's answers,
 // ConnectFailureTest the failures.
@@ -27,7 +26,7 @@ private Q_SLOTS:
         Workbench bench(system);
         TorController &c = bench.controller();
         QStringList details;
-        std::vector<Phase> phases;
+        std::vector<ConnectionPhase> phases;
         QObject::connect(&c.statusDetail, &Field::changed,
                          [&] { details << c.statusDetail().english(); });
         QObject::connect(&c.phase, &Field::changed, [&] { phases.push_back(c.phase()); });
@@ -35,7 +34,7 @@ private Q_SLOTS:
         QCOMPARE(details,
                  QStringList({u"Preparing Tor…"_s, u"Waiting for administrator approval…"_s,
                               u"Starting Tor…"_s, u"Done"_s, u"All traffic is locked to Tor"_s}));
-        QVERIFY((phases == std::vector{Phase::connecting, Phase::connected}));
+        QVERIFY((phases == std::vector{ConnectionPhase::connecting, ConnectionPhase::connected}));
         QVERIFY(c.activeMode() == RoutingMode::strict);
         QVERIFY(!c.activeBridge() && !c.errorMessage() && !c.canCancel());
         QCOMPARE(c.bootstrapProgress(), 1.0);
@@ -246,7 +245,7 @@ private Q_SLOTS:
             bench.tor.stopListening();
             for (int failure = 0; failure < 3; ++failure)
                 QVERIFY(bench.tick());
-            QVERIFY(bench.controller().phase() == Phase::stale);
+            QVERIFY(bench.controller().phase() == ConnectionPhase::stale);
             bench.tor.listen();
         };
         QVERIFY(bench.connect());
@@ -276,7 +275,7 @@ private Q_SLOTS:
         bench.cancelPrompt(u"approve"_s);
         QVERIFY(!bench.connect());
         QCOMPARE(bench.helperRunCount(u"connect"_s), 0);
-        QVERIFY(bench.controller().phase() == Phase::disconnected
+        QVERIFY(bench.controller().phase() == ConnectionPhase::disconnected
                 && !bench.controller().errorMessage());
         bench.failHelper(u"approve"_s, u"No."_s);
         QVERIFY(!bench.connect());
@@ -397,7 +396,7 @@ private Q_SLOTS:
 
         bench.cancelPrompt(u"approve"_s);
         QVERIFY(!bench.connect());
-        QVERIFY(bench.controller().phase() == Phase::disconnected
+        QVERIFY(bench.controller().phase() == ConnectionPhase::disconnected
                 && !bench.controller().errorMessage());
 
         // A helper of an earlier version, which runs without a password, does not know the option.
@@ -421,14 +420,14 @@ private Q_SLOTS:
         bench.processes.hold = nullptr;
         bench.processes.release();
         QVERIFY(Workbench::finished(connecting));
-        QVERIFY(c.phase() == Phase::connected);
+        QVERIFY(c.phase() == ConnectionPhase::connected);
         const auto third = c.connect();
         QVERIFY(third.isReady());
         QCOMPARE(bench.helperRunCount(u"connect"_s), 1);
         bench.hold(u"disconnect"_s);
         const auto disconnecting = c.disconnect();
         const auto fourth = c.connect();
-        QVERIFY(fourth.isReady() && c.phase() == Phase::disconnecting);
+        QVERIFY(fourth.isReady() && c.phase() == ConnectionPhase::disconnecting);
         bench.processes.hold = nullptr;
         bench.processes.release();
         QVERIFY(Workbench::finished(disconnecting));
@@ -440,12 +439,12 @@ private Q_SLOTS:
         Workbench bench;
         TorController &c = bench.controller();
         QObject::connect(&c.phase, &Field::changed, [&c] {
-            if (c.phase() == Phase::connected)
+            if (c.phase() == ConnectionPhase::connected)
                 c.disconnect();
         });
         const auto connecting = c.connect();
         QVERIFY(Workbench::finished(connecting));
-        QVERIFY(until([&] { return c.phase() == Phase::disconnected; }));
+        QVERIFY(until([&] { return c.phase() == ConnectionPhase::disconnected; }));
         QVERIFY(!bench.hasMarker());
         QCOMPARE(bench.probe.torProbes, 0);
         bench.clock.advance(std::chrono::seconds(2));
@@ -462,12 +461,12 @@ private Q_SLOTS:
         bench.tor.stopListening();
         for (int failure = 0; failure < 3; ++failure)
             QVERIFY(bench.tick());
-        QVERIFY(c.phase() == Phase::stale);
+        QVERIFY(c.phase() == ConnectionPhase::stale);
         QVERIFY(c.exitIP() && c.torVerified() && c.latencyMs() && c.errorMessage());
         bench.tor.listen();
         bench.hold(u"connect"_s);
         const auto connecting = c.connect();
-        QVERIFY(c.phase() == Phase::connecting);
+        QVERIFY(c.phase() == ConnectionPhase::connecting);
         QVERIFY(!c.exitIP() && !c.torVerified() && !c.latencyMs() && !c.errorMessage());
         QVERIFY(c.leakStatus() == LeakStatus::notTested() && c.dnsStatus() == DNSStatus::unknown());
         QVERIFY(c.bytesRead() == 0 && c.bytesWritten() == 0);
@@ -475,7 +474,7 @@ private Q_SLOTS:
         bench.processes.hold = nullptr;
         bench.processes.release();
         QVERIFY(Workbench::finished(connecting));
-        QVERIFY(c.phase() == Phase::connected);
+        QVERIFY(c.phase() == ConnectionPhase::connected);
     }
 };
 

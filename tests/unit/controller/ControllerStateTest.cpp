@@ -148,7 +148,6 @@ private Q_SLOTS:
 
     void titleAndSymbol_data()
     {
-        using Phase = ConnectionPhase;
         QTest::addColumn<ConnectionPhase>("phase");
         QTest::addColumn<std::optional<RoutingMode>>("mode");
         QTest::addColumn<bool>("leak");
@@ -159,23 +158,25 @@ private Q_SLOTS:
         const QString lock = u"lock.shield.fill"_s, mark = u"exclamationmark.shield"_s;
         const QString half = u"shield.lefthalf.filled"_s, slash = u"shield.slash"_s;
         QTest::newRow("disconnected")
-            << Phase::disconnected << none << false << u"Not Protected"_s << slash;
+            << ConnectionPhase::disconnected << none << false << u"Not Protected"_s << slash;
         QTest::newRow("connecting")
-            << Phase::connecting << none << false << u"Connecting…"_s << half;
+            << ConnectionPhase::connecting << none << false << u"Connecting…"_s << half;
         QTest::newRow("connected, strict")
-            << Phase::connected << strict << false << u"Protected"_s << lock;
+            << ConnectionPhase::connected << strict << false << u"Protected"_s << lock;
         QTest::newRow("connected, proxy")
-            << Phase::connected << proxy << false << u"Proxy Active"_s << lock;
+            << ConnectionPhase::connected << proxy << false << u"Proxy Active"_s << lock;
         QTest::newRow("connected, no mode")
-            << Phase::connected << none << false << u"Proxy Active"_s << lock;
+            << ConnectionPhase::connected << none << false << u"Proxy Active"_s << lock;
         QTest::newRow("leak, strict")
-            << Phase::connected << strict << true << u"DNS Leak"_s << mark;
-        QTest::newRow("leak, proxy") << Phase::connected << proxy << true << u"DNS Leak"_s << mark;
+            << ConnectionPhase::connected << strict << true << u"DNS Leak"_s << mark;
+        QTest::newRow("leak, proxy")
+            << ConnectionPhase::connected << proxy << true << u"DNS Leak"_s << mark;
         QTest::newRow("disconnecting")
-            << Phase::disconnecting << strict << true << u"Disconnecting…"_s << half;
-        QTest::newRow("stale") << Phase::stale << strict << true << u"Needs Attention"_s << mark;
+            << ConnectionPhase::disconnecting << strict << true << u"Disconnecting…"_s << half;
+        QTest::newRow("stale") << ConnectionPhase::stale << strict << true << u"Needs Attention"_s
+                               << mark;
         QTest::newRow("disconnected, old leak")
-            << Phase::disconnected << none << true << u"Not Protected"_s << slash;
+            << ConnectionPhase::disconnected << none << true << u"Not Protected"_s << slash;
     }
 
     void titleAndSymbol()
@@ -217,20 +218,20 @@ private Q_SLOTS:
     {
         Workbench bench;
         TorController &c = bench.controller();
-        QVERIFY(!c.optionsLocked() && c.canDownloadTransports() && !c.canLaunchBypassed());
+        QVERIFY(!locksOptions(c.phase()) && c.canDownloadTransports() && !c.canLaunchBypassed());
         bench.hold(u"connect"_s);
         const auto connecting = c.connect();
         QVERIFY(c.phase() == ConnectionPhase::connecting);
-        QVERIFY(c.optionsLocked() && !c.canDownloadTransports() && !c.canLaunchBypassed());
+        QVERIFY(locksOptions(c.phase()) && !c.canDownloadTransports() && !c.canLaunchBypassed());
         QVERIFY(until([&] { return bench.processes.held() == 1; }));
         bench.processes.hold = nullptr;
         bench.processes.release();
         QVERIFY(Workbench::finished(connecting));
-        QVERIFY(c.optionsLocked() && c.canDownloadTransports() && c.canLaunchBypassed());
+        QVERIFY(locksOptions(c.phase()) && c.canDownloadTransports() && c.canLaunchBypassed());
         bench.hold(u"disconnect"_s);
         const auto disconnecting = c.disconnect();
         QVERIFY(c.phase() == ConnectionPhase::disconnecting);
-        QVERIFY(c.optionsLocked() && !c.canDownloadTransports() && !c.canLaunchBypassed());
+        QVERIFY(locksOptions(c.phase()) && !c.canDownloadTransports() && !c.canLaunchBypassed());
         bench.failHelper(u"disconnect"_s, u"no"_s);
         bench.removeMarker();
         bench.writeMarker("strict");
@@ -242,7 +243,8 @@ private Q_SLOTS:
         bench.restart();
         bench.controller().detectStaleState();
         QVERIFY(bench.controller().phase() == ConnectionPhase::stale);
-        QVERIFY(!bench.controller().optionsLocked() && bench.controller().canDownloadTransports());
+        QVERIFY(!locksOptions(bench.controller().phase())
+                && bench.controller().canDownloadTransports());
         QVERIFY(!bench.controller().canLaunchBypassed());
     }
 

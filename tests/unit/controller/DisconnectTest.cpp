@@ -6,7 +6,6 @@
 using namespace Qt::StringLiterals;
 using namespace veldmark;
 using System = Workbench::System;
-using Phase = ConnectionPhase;
 
 class DisconnectTest : public QObject {
     Q_OBJECT
@@ -61,13 +60,14 @@ private Q_SLOTS:
         QVERIFY(c.circuits().size() == 1 && c.bytesRead() == 1000
                 && QFile::exists(activeFile(bench)));
 
-        std::vector<Phase> phases;
+        std::vector<ConnectionPhase> phases;
         QStringList details;
         QObject::connect(&c.phase, &Field::changed, [&] { phases.push_back(c.phase()); });
         QObject::connect(&c.statusDetail, &Field::changed,
                          [&] { details << c.statusDetail().english(); });
         bench.disconnect();
-        QVERIFY((phases == std::vector{Phase::disconnecting, Phase::disconnected}));
+        QVERIFY(
+            (phases == std::vector{ConnectionPhase::disconnecting, ConnectionPhase::disconnected}));
         QCOMPARE(details,
                  QStringList({u"Restoring your network settings…"_s,
                               u"Your traffic is not going through Tor"_s}));
@@ -93,7 +93,7 @@ private Q_SLOTS:
         settle();
         QCOMPARE(bench.commandCount(Workbench::countersCommand), asked);
         QCOMPARE(bench.clock.sleepers(), std::size_t(0));
-        QVERIFY(bench.controller().phase() == Phase::disconnected);
+        QVERIFY(bench.controller().phase() == ConnectionPhase::disconnected);
     }
 
     void doesNothingWithoutASession()
@@ -101,7 +101,7 @@ private Q_SLOTS:
         Workbench bench;
         bench.disconnect();
         QVERIFY(bench.processes.calls.empty());
-        QVERIFY(bench.controller().phase() == Phase::disconnected);
+        QVERIFY(bench.controller().phase() == ConnectionPhase::disconnected);
     }
 
     void waitsUntilTheHelperIsThrough_data()
@@ -120,12 +120,12 @@ private Q_SLOTS:
         QVERIFY(until([&] { return bench.processes.held() == 1; }));
         QVERIFY(!c.canCancel());
         bench.disconnect();
-        QVERIFY(c.phase() == Phase::connecting);
+        QVERIFY(c.phase() == ConnectionPhase::connecting);
         QCOMPARE(bench.helperRunCount(u"disconnect"_s), 0);
         bench.processes.hold = nullptr;
         bench.processes.release();
         QVERIFY(Workbench::finished(connecting));
-        QVERIFY(c.phase() == Phase::connected); // the attempt was not disturbed
+        QVERIFY(c.phase() == ConnectionPhase::connected); // the attempt was not disturbed
     }
 
     void aSecondDisconnectIsIgnored()
@@ -162,7 +162,7 @@ private Q_SLOTS:
         bench.processes.hold = nullptr;
         bench.processes.release();
         QVERIFY(Workbench::finished(disconnecting));
-        QVERIFY(c.phase() == Phase::connected);
+        QVERIFY(c.phase() == ConnectionPhase::connected);
         QVERIFY(c.activeMode() == (strict ? RoutingMode::strict : RoutingMode::proxy));
         QCOMPARE(c.statusDetail(),
                  strict ? u"All traffic is locked to Tor"_s
@@ -190,7 +190,7 @@ private Q_SLOTS:
         QVERIFY(bench.controller().errorMessage());
         bench.cancelPrompt(u"disconnect"_s);
         bench.disconnect();
-        QVERIFY(bench.controller().phase() == Phase::connected);
+        QVERIFY(bench.controller().phase() == ConnectionPhase::connected);
         QVERIFY(!bench.controller().errorMessage());
     }
 
@@ -204,13 +204,13 @@ private Q_SLOTS:
         bench.failHelper(u"disconnect"_s, u"The proxy settings could not be restored."_s);
         bench.removeMarker();
         bench.disconnect();
-        QVERIFY(c.phase() == Phase::disconnected);
+        QVERIFY(c.phase() == ConnectionPhase::disconnected);
         QCOMPARE(c.statusDetail(), u"Your traffic is not going through Tor"_s);
         QCOMPARE(c.errorMessage().value(), u"The proxy settings could not be restored."_s);
         QVERIFY(!c.activeMode() && !c.exitIP() && c.leakStatus() == LeakStatus::notTested());
         bench.clock.advance(std::chrono::seconds(60));
         settle();
-        QVERIFY(c.phase() == Phase::disconnected);
+        QVERIFY(c.phase() == ConnectionPhase::disconnected);
         QCOMPARE(bench.clock.sleepers(), std::size_t(0));
     }
 
@@ -238,7 +238,7 @@ private Q_SLOTS:
         if (!marker)
             bench.removeMarker();
         bench.disconnect();
-        QVERIFY(c.phase() == (marker ? Phase::stale : Phase::disconnected));
+        QVERIFY(c.phase() == (marker ? ConnectionPhase::stale : ConnectionPhase::disconnected));
         QCOMPARE(c.statusDetail(),
                  marker ? u"Your network is still set up for Tor"_s
                         : u"Your traffic is not going through Tor"_s);
@@ -246,7 +246,7 @@ private Q_SLOTS:
         bench.setBootstrap("PROGRESS=100");
         bench.clock.advance(std::chrono::seconds(2));
         QVERIFY(Workbench::finished(connecting));
-        QVERIFY(c.phase() != Phase::connected); // the aborted attempt stays aborted
+        QVERIFY(c.phase() != ConnectionPhase::connected); // the aborted attempt stays aborted
     }
 
     void endsChecksThatAreUnderWay()
@@ -260,7 +260,7 @@ private Q_SLOTS:
         QVERIFY(until([&] { return c.isChecking(); }));
         QVERIFY(c.leakStatus() == LeakStatus::checking());
         bench.disconnect();
-        QVERIFY(c.phase() == Phase::disconnected && !c.isChecking());
+        QVERIFY(c.phase() == ConnectionPhase::disconnected && !c.isChecking());
         QVERIFY(c.leakStatus() == LeakStatus::notTested());
         bench.clock.advance(std::chrono::seconds(1)); // the old session's answer comes
         QVERIFY(Workbench::finished(connecting));
@@ -321,7 +321,7 @@ private Q_SLOTS:
         QVERIFY(until([&] { return c.isChecking() && bench.clock.sleepers() == 3; }));
         bench.cancelPrompt(u"disconnect"_s);
         bench.disconnect();
-        QVERIFY(c.phase() == Phase::connected);
+        QVERIFY(c.phase() == ConnectionPhase::connected);
         QVERIFY(c.isChecking() && c.leakStatus() == LeakStatus::checking());
         const int probes = bench.probe.torProbes;
         for (int step = 0; step < 30 && (c.isChecking() || c.isOptimizing()); ++step) {
@@ -350,7 +350,7 @@ private Q_SLOTS:
         QVERIFY(c.isOptimizing());
         bench.cancelPrompt(u"disconnect"_s);
         bench.disconnect();
-        QVERIFY(c.phase() == Phase::connected && c.isOptimizing() && !c.isChecking());
+        QVERIFY(c.phase() == ConnectionPhase::connected && c.isOptimizing() && !c.isChecking());
         bench.clock.advance(std::chrono::seconds(1));
         QVERIFY(until([&] { return !c.isOptimizing(); }));
         QCOMPARE(c.latencyMs().value(), qint64(1000));

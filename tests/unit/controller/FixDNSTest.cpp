@@ -6,7 +6,6 @@
 
 using namespace Qt::StringLiterals;
 using namespace veldmark;
-using Phase = ConnectionPhase;
 using System = Workbench::System;
 
 class FixDNSTest : public QObject {
@@ -171,7 +170,7 @@ private Q_SLOTS:
         const auto fixing = c.fixDNS();
         QVERIFY(until([&] { return bench.processes.held() == 1; }));
         bench.disconnect();
-        QVERIFY(c.phase() == Phase::disconnected);
+        QVERIFY(c.phase() == ConnectionPhase::disconnected);
         bench.processes.hold = nullptr;
         bench.processes.release();
         QVERIFY(Workbench::finished(fixing));

@@ -9,7 +9,6 @@
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace veldmark;
-using Phase = ConnectionPhase;
 using State = KillSwitch::State;
 
 namespace {
@@ -30,7 +29,7 @@ void killTor(Workbench &bench)
     bench.tor.stopListening();
     for (int tick = 0; tick < 3; ++tick)
         QVERIFY(bench.tick());
-    QVERIFY(bench.controller().phase() == Phase::stale);
+    QVERIFY(bench.controller().phase() == ConnectionPhase::stale);
 }
 
 State stateOf(const TorController &c)
@@ -263,7 +262,7 @@ private Q_SLOTS:
         QCOMPARE(c.title(), u"Connecting…"_s);
         bench.noteRules("open", 1);
         bench.clock.advance(2s);
-        QVERIFY(c.phase() == Phase::connecting);
+        QVERIFY(c.phase() == ConnectionPhase::connecting);
         QCOMPARE(c.title(), u"Kill Switch Failed"_s);
         QCOMPARE(c.errorMessage().value(), openText);
         bench.disconnect();
@@ -325,7 +324,7 @@ private Q_SLOTS:
         QCOMPARE(c.title(), u"Proxy Active"_s);
         bench.removeMarker();
         bench.clock.advance(1s);
-        QVERIFY(c.phase() == Phase::disconnected);
+        QVERIFY(c.phase() == ConnectionPhase::disconnected);
         QCOMPARE(c.title(), u"Not Protected"_s);
     }
 
@@ -430,7 +429,7 @@ private Q_SLOTS:
         bench.processes.hold = nullptr;
         bench.processes.release();
         QVERIFY(Workbench::finished(restoring));
-        QVERIFY(c.phase() == Phase::stale);
+        QVERIFY(c.phase() == ConnectionPhase::stale);
         QCOMPARE(c.title(), u"Kill Switch Failed"_s);
         QCOMPARE(c.errorMessage().value(), openDeath);
     }
@@ -443,7 +442,7 @@ private Q_SLOTS:
         killTor(bench);
         bench.removeMarker();
         bench.clock.advance(2s);
-        QVERIFY(c.phase() == Phase::disconnected);
+        QVERIFY(c.phase() == ConnectionPhase::disconnected);
         QVERIFY(!c.killSwitch() && !c.errorMessage());
         QCOMPARE(c.title(), u"Not Protected"_s);
     }
@@ -489,7 +488,7 @@ private Q_SLOTS:
         QVERIFY(bench.connect());
         bench.cancelPrompt(u"disconnect"_s);
         bench.disconnect();
-        QVERIFY(c.phase() == Phase::connected);
+        QVERIFY(c.phase() == ConnectionPhase::connected);
         QCOMPARE(c.title(), u"Protected"_s);
         bench.noteRules("open", 1);
         QVERIFY(bench.tick());

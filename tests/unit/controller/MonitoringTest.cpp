@@ -7,7 +7,6 @@
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace veldmark;
-using Phase = ConnectionPhase;
 
 class MonitoringTest : public QObject {
     Q_OBJECT
@@ -50,7 +49,8 @@ private Q_SLOTS:
             QCOMPARE(bench.controller().bytesRead(), quint64(1000));
             QCOMPARE(bench.controller().bytesWritten(), quint64(300));
         }
-        QVERIFY(bench.controller().phase() == Phase::connected); // these were answers, too
+        QVERIFY(bench.controller().phase() == ConnectionPhase::connected); // these were answers,
+                                                                           // too
     }
 
     void aMissingNetworkIsSaidAndTakenBackWithAnExitThatIsAskedForAgain()
@@ -143,7 +143,7 @@ private Q_SLOTS:
         // the knowledge survives a refused disconnect
         bench.cancelPrompt(u"disconnect"_s);
         bench.disconnect();
-        QVERIFY(c.phase() == Phase::connected);
+        QVERIFY(c.phase() == ConnectionPhase::connected);
         QVERIFY(c.verdict().detail.english().endsWith(u": ufw."_s));
         bench.hasCircuit = true;
         bench.setCounters("9000", "200");
@@ -308,9 +308,9 @@ private Q_SLOTS:
         bench.tor.stopListening();
         QVERIFY(bench.tick());
         QVERIFY(bench.tick());
-        QVERIFY(c.phase() == Phase::connected && !c.errorMessage());
+        QVERIFY(c.phase() == ConnectionPhase::connected && !c.errorMessage());
         QVERIFY(bench.tick());
-        QVERIFY(c.phase() == Phase::stale);
+        QVERIFY(c.phase() == ConnectionPhase::stale);
         QCOMPARE(c.statusDetail(), u"Tor stopped running"_s);
         QCOMPARE(c.errorMessage().value(), message);
         QCOMPARE(c.title(), u"Needs Attention"_s);
@@ -332,12 +332,12 @@ private Q_SLOTS:
             for (int tick = 0; tick < 3; ++tick)
                 QVERIFY(bench.tick());
         }
-        QVERIFY(bench.controller().phase() == Phase::connected);
+        QVERIFY(bench.controller().phase() == ConnectionPhase::connected);
         QVERIFY(!bench.controller().errorMessage());
         bench.tor.reply(Workbench::countersCommand, refusal);
         for (int tick = 0; tick < 3; ++tick)
             QVERIFY(bench.tick());
-        QVERIFY(bench.controller().phase() == Phase::stale);
+        QVERIFY(bench.controller().phase() == ConnectionPhase::stale);
     }
 
     void aTorThatIsSilentIsDeadToo()
@@ -351,9 +351,10 @@ private Q_SLOTS:
             QVERIFY(until([&] { return bench.tor.connectionCount() > connections; }));
             bench.socketClock.advance(3s);
             QVERIFY(until([&] {
-                return bench.clock.sleepers() == 2 || bench.controller().phase() == Phase::stale;
+                return bench.clock.sleepers() == 2
+                    || bench.controller().phase() == ConnectionPhase::stale;
             }));
-            QVERIFY((bench.controller().phase() == Phase::stale) == (failure == 3));
+            QVERIFY((bench.controller().phase() == ConnectionPhase::stale) == (failure == 3));
         }
     }
 
@@ -366,7 +367,7 @@ private Q_SLOTS:
         bench.tor.stopListening();
         for (int tick = 0; tick < 3; ++tick)
             QVERIFY(bench.tick());
-        QVERIFY(c.phase() == Phase::disconnected);
+        QVERIFY(c.phase() == ConnectionPhase::disconnected);
         QCOMPARE(c.statusDetail(), u"Your traffic is not going through Tor"_s);
         QCOMPARE(c.errorMessage().value(),
                  u"Tor stopped running, and your network is no longer set up for it."_s);
@@ -427,12 +428,12 @@ private Q_SLOTS:
         const auto reason = c.errorMessage();
         bench.cancelPrompt(u"disconnect"_s);
         bench.disconnect();
-        QVERIFY(c.phase() == Phase::stale);
+        QVERIFY(c.phase() == ConnectionPhase::stale);
         QCOMPARE(c.errorMessage(), reason); // still true
         QVERIFY(c.activeMode() == RoutingMode::strict);
         bench.letHelperWork();
         bench.disconnect();
-        QVERIFY(c.phase() == Phase::disconnected);
+        QVERIFY(c.phase() == ConnectionPhase::disconnected);
         QVERIFY(!c.errorMessage());
     }
 
@@ -503,11 +504,11 @@ private Q_SLOTS:
         bench.clock.advance(2s);
         QVERIFY(bench.hears(Workbench::countersCommand));
         bench.disconnect();
-        QVERIFY(bench.controller().phase() == Phase::disconnected);
+        QVERIFY(bench.controller().phase() == ConnectionPhase::disconnected);
         bench.tor.hangUp();
         settle();
         bench.clock.advance(60s);
-        QVERIFY(bench.controller().phase() == Phase::disconnected);
+        QVERIFY(bench.controller().phase() == ConnectionPhase::disconnected);
         QVERIFY(!bench.controller().errorMessage());
         QCOMPARE(bench.controller().bytesRead(), quint64(0));
     }
@@ -523,15 +524,17 @@ private Q_SLOTS:
         bench.tor.stopListening();
         for (int failure = 0; failure < 3; ++failure) {
             bench.clock.advance(2s);
-            QVERIFY(
-                until([&] { return bench.clock.sleepers() == 3 || c.phase() == Phase::stale; }));
+            QVERIFY(until([&] {
+                return bench.clock.sleepers() == 3 || c.phase() == ConnectionPhase::stale;
+            }));
         }
-        QVERIFY(c.phase() == Phase::stale);
+        QVERIFY(c.phase() == ConnectionPhase::stale);
         QVERIFY(!c.isChecking());
         QVERIFY(c.leakStatus() == LeakStatus::notTested());
         bench.clock.advance(45s);
         QVERIFY(Workbench::finished(connecting));
-        QVERIFY(c.phase() == Phase::stale && !c.isChecking() && !c.isOptimizing() && !c.exitIP());
+        QVERIFY(c.phase() == ConnectionPhase::stale && !c.isChecking() && !c.isOptimizing()
+                && !c.exitIP());
         QCOMPARE(c.statusDetail(), u"Tor stopped running"_s);
         QCOMPARE(bench.probe.torProbes, 1); // no optimisation
     }
@@ -551,7 +554,7 @@ private Q_SLOTS:
             u"hasn't confirmed that it uses the network"_s));
         bench.cancelPrompt(u"disconnect"_s);
         bench.disconnect();
-        QVERIFY(bench.controller().phase() == Phase::connected);
+        QVERIFY(bench.controller().phase() == ConnectionPhase::connected);
         QVERIFY(bench.tick());
         QCOMPARE(bench.commandCount("SETCONF DisableNetwork=0"), 2);
         QVERIFY(bench.controller().errorMessage().value_or(QString()).english().contains(
@@ -572,7 +575,7 @@ private Q_SLOTS:
         QVERIFY(c.stall() == TrafficWatch::Stall::noCircuit);
         bench.cancelPrompt(u"disconnect"_s);
         bench.disconnect();
-        QVERIFY(c.phase() == Phase::connected);
+        QVERIFY(c.phase() == ConnectionPhase::connected);
         QVERIFY(c.stall() == TrafficWatch::Stall::noCircuit);
         QVERIFY(bench.tick());
         QVERIFY(c.stall() == TrafficWatch::Stall::noCircuit);
@@ -638,7 +641,7 @@ private Q_SLOTS:
         bench.processes.hold = nullptr;
         bench.processes.release();
         QVERIFY(Workbench::finished(disconnecting));
-        QVERIFY(c.phase() == Phase::connected);
+        QVERIFY(c.phase() == ConnectionPhase::connected);
         QVERIFY(bench.tick());
         QCOMPARE(bench.commandCount("SETCONF DisableNetwork=1"), 1);
     }

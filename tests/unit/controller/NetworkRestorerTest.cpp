@@ -7,7 +7,6 @@
 
 using namespace Qt::StringLiterals;
 using namespace veldmark;
-using Phase = ConnectionPhase;
 
 class NetworkRestorerTest : public QObject {
     Q_OBJECT
@@ -85,7 +84,7 @@ private Q_SLOTS:
         QCOMPARE(finished.at(0).at(0).toBool(), false);
         QCOMPARE(bench.controller().errorMessage(), u"Could not."_s);
         QCOMPARE(bench.helperRunCount(u"disconnect"_s), 1);
-        QVERIFY(bench.controller().phase() == Phase::connected);
+        QVERIFY(bench.controller().phase() == ConnectionPhase::connected);
         bench.letHelperWork();
         restorer.begin();
         QVERIFY(until([&] { return finished.count() == 2; }));
@@ -103,7 +102,7 @@ private Q_SLOTS:
             QVERIFY(until([&] { return bench.processes.held() == 1; }));
         }
         bench.processes.release();
-        QVERIFY(until([&] { return bench.controller().phase() == Phase::disconnected; }));
+        QVERIFY(until([&] { return bench.controller().phase() == ConnectionPhase::disconnected; }));
     }
 };
 

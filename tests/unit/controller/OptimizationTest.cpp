@@ -6,7 +6,6 @@
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace veldmark;
-using Phase = ConnectionPhase;
 
 class OptimizationTest : public QObject {
     Q_OBJECT

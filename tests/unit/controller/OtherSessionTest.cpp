@@ -11,7 +11,6 @@
 
 using namespace Qt::StringLiterals;
 using namespace veldmark;
-using Phase = ConnectionPhase;
 
 namespace {
 constexpr uid_t daemonUser = 1; // exists on every system
@@ -49,7 +48,7 @@ private Q_SLOTS:
         OtherSession other(bench.profile, user, "proxy\n");
         TorController &c = bench.controller();
         c.detectStaleState();
-        QVERIFY(c.phase() == Phase::stale);
+        QVERIFY(c.phase() == ConnectionPhase::stale);
         QVERIFY(c.activeMode() == RoutingMode::proxy);
         QCOMPARE(c.statusDetail(), detail.arg(other.process()));
         const QJsonObject published = publishedState(c).value(u"otherSession"_s).toObject();
@@ -68,12 +67,12 @@ private Q_SLOTS:
             bench.tor.stopListening();
             for (int tick = 0; tick < 3; ++tick)
                 QVERIFY(bench.tick());
-            QVERIFY(c.phase() == Phase::stale);
+            QVERIFY(c.phase() == ConnectionPhase::stale);
             QVERIFY(c.errorMessage()->english().contains(u"nothing leaked"_s));
             if (isAnew)
                 bench.renewMarker();
             bench.clock.advance(std::chrono::seconds(2));
-            QVERIFY(c.phase() == Phase::stale);
+            QVERIFY(c.phase() == ConnectionPhase::stale);
             QCOMPARE(c.errorMessage().value_or(Text()).english().contains(u"nothing leaked"_s),
                      !isAnew);
             QVERIFY(!isAnew
@@ -92,7 +91,7 @@ private Q_SLOTS:
         QCOMPARE(c.title(), u"Protected"_s);
         bench.renewMarker();
         bench.clock.advance(std::chrono::seconds(1));
-        QVERIFY(until([&] { return c.phase() == Phase::stale; }));
+        QVERIFY(until([&] { return c.phase() == ConnectionPhase::stale; }));
         QVERIFY(!c.otherSession());
         QCOMPARE(
             c.errorMessage().value_or(QString()),
@@ -109,7 +108,7 @@ private Q_SLOTS:
         QVERIFY(c.otherSession());
         other.end();
         c.lookAtSession();
-        QVERIFY(c.phase() == Phase::stale);
+        QVERIFY(c.phase() == ConnectionPhase::stale);
         QVERIFY(!c.otherSession());
         QCOMPARE(c.statusDetail(), leftOver);
         QVERIFY(bench.connect());
@@ -134,7 +133,7 @@ private Q_SLOTS:
         if (seen)
             c.detectStaleState();
         QVERIFY(!bench.connect());
-        QVERIFY(c.phase() == Phase::stale);
+        QVERIFY(c.phase() == ConnectionPhase::stale);
         QVERIFY(bench.processes.calls.empty());
         QVERIFY2(c.errorMessage().value_or(QString()).english().contains(
                      u"process %1"_s.arg(other.process())),
@@ -152,12 +151,12 @@ private Q_SLOTS:
         c.detectStaleState();
         bench.failHelper(u"disconnect"_s, u"An administrator said no."_s);
         bench.disconnect();
-        QVERIFY(c.phase() == Phase::stale);
+        QVERIFY(c.phase() == ConnectionPhase::stale);
         QVERIFY(c.otherSession()); // and it is shown as before
         QVERIFY(c.statusDetail().english().contains(u"daemon"_s));
         bench.letHelperWork();
         bench.disconnect();
-        QVERIFY(c.phase() == Phase::disconnected);
+        QVERIFY(c.phase() == ConnectionPhase::disconnected);
         QVERIFY(!c.otherSession());
         QVERIFY(!bench.hasMarker());
     }
@@ -209,12 +208,12 @@ private Q_SLOTS:
         bench.disconnect();
         QCOMPARE(bench.helperRunCount(u"disconnect"_s), 0);
         QVERIFY(bench.hasMarker());
-        QVERIFY(c.phase() == Phase::stale && c.otherSession());
+        QVERIFY(c.phase() == ConnectionPhase::stale && c.otherSession());
         QVERIFY2(c.errorMessage().value_or(QString()).english().contains(u"Disconnect again"_s),
                  qPrintable(c.errorMessage().value_or(QString()).english()));
         bench.disconnect(); // now the request is meant
         QCOMPARE(bench.helperRunCount(u"disconnect"_s), 1);
-        QVERIFY(c.phase() == Phase::disconnected);
+        QVERIFY(c.phase() == ConnectionPhase::disconnected);
     }
 
     void theWatchSeesThatItHasReplacedThisOnes()
@@ -225,7 +224,7 @@ private Q_SLOTS:
         SessionWatch watch(c);
         OtherSession other(bench.profile, daemonUser);
         // before any tick of the monitor
-        QVERIFY(until([&] { return c.phase() == Phase::stale; }));
+        QVERIFY(until([&] { return c.phase() == ConnectionPhase::stale; }));
         QVERIFY(c.otherSession() && !c.exitIP() && !c.torVerified());
     }
 
@@ -297,7 +296,7 @@ private Q_SLOTS:
         OtherSession other(bench.profile, daemonUser);
         bench.processes.release();
         QVERIFY(Workbench::finished(ending));
-        QVERIFY(c.phase() == Phase::stale);
+        QVERIFY(c.phase() == ConnectionPhase::stale);
         QVERIFY(c.otherSession());
         QVERIFY(c.errorMessage().value().english().startsWith(
             u"Another user's Veldmark has started a session meanwhile"_s));
@@ -327,11 +326,11 @@ private Q_SLOTS:
         QVERIFY(until([&] { return c.canCancel(); }));
         OtherSession other(bench.profile, daemonUser);
         c.lookAtSession();
-        QVERIFY(c.phase() == Phase::stale);
+        QVERIFY(c.phase() == ConnectionPhase::stale);
         QVERIFY(c.otherSession() && !c.canCancel());
         bench.clock.advance(std::chrono::seconds(1));
         QVERIFY(Workbench::finished(connecting));
-        QVERIFY(c.phase() == Phase::stale && c.otherSession());
+        QVERIFY(c.phase() == ConnectionPhase::stale && c.otherSession());
     }
 
     void isShownWhenItHasReplacedThisOnes()
@@ -345,7 +344,7 @@ private Q_SLOTS:
         for (int tick = 0; tick < 3; ++tick)
             QVERIFY(bench.tick());
         QVERIFY(until([&] { return c.otherSession().has_value(); }));
-        QVERIFY(c.phase() == Phase::stale);
+        QVERIFY(c.phase() == ConnectionPhase::stale);
         QVERIFY(c.statusDetail().english().contains(u"daemon"_s));
         QVERIFY(!c.errorMessage()); // the message was about a kill switch that belongs to another
                                     // session now
@@ -378,7 +377,8 @@ private Q_SLOTS:
         bench.tor.stopListening(); // it has a Tor of its own
         for (int tick = 0; tick < 3; ++tick)
             QVERIFY(bench.tick());
-        QVERIFY(c.phase() == Phase::stale && c.otherSession()); // at once, without a watch
+        QVERIFY(c.phase() == ConnectionPhase::stale && c.otherSession()); // at once, without a
+                                                                          // watch
         QVERIFY(!c.errorMessage());
         QVERIFY(c.killSwitch().has_value() == strict);
         QVERIFY(!c.exitIP() && !c.torVerified() && c.bytesRead() == 0 && c.circuits().empty());
@@ -414,7 +414,7 @@ private Q_SLOTS:
         QVERIFY(bench.connect());
         bench.removeMarker();
         bench.controller().lookAtSession(); // the monitor, not this call, reports Tor's end
-        QVERIFY(bench.controller().phase() == Phase::connected);
+        QVERIFY(bench.controller().phase() == ConnectionPhase::connected);
     }
 
     void theWatchSeesItComeAndGo()
@@ -425,9 +425,9 @@ private Q_SLOTS:
         {
             OtherSession other(bench.profile);
             QVERIFY(until([&] { return c.otherSession().has_value(); }));
-            QVERIFY(c.phase() == Phase::stale);
+            QVERIFY(c.phase() == ConnectionPhase::stale);
             bench.removeMarker(); // it has disconnected
-            QVERIFY(until([&] { return c.phase() == Phase::disconnected; }));
+            QVERIFY(until([&] { return c.phase() == ConnectionPhase::disconnected; }));
         }
         OtherSession next(bench.profile, daemonUser);
         QVERIFY(until([&] { return c.otherSession().has_value(); }));

@@ -5,7 +5,6 @@
 
 using namespace Qt::StringLiterals;
 using namespace veldmark;
-using Phase = ConnectionPhase;
 
 // restore(): disconnect() for a caller that does not know what there is to disconnect.
 class RestoreTest : public QObject {
@@ -30,7 +29,7 @@ private Q_SLOTS:
     {
         Workbench bench;
         bench.writeMarker("strict\n");
-        QVERIFY(bench.controller().phase() == Phase::disconnected);
+        QVERIFY(bench.controller().phase() == ConnectionPhase::disconnected);
         auto restoring = bench.controller().restore();
         QVERIFY(Workbench::finished(restoring));
         QVERIFY(answer(restoring));
@@ -43,12 +42,12 @@ private Q_SLOTS:
         Workbench bench;
         bench.writeMarker("strict\n");
         bench.controller().detectStaleState();
-        QVERIFY(bench.controller().phase() == Phase::stale);
+        QVERIFY(bench.controller().phase() == ConnectionPhase::stale);
         bench.removeMarker();
         auto restoring = bench.controller().restore();
         QVERIFY(restoring.isReady() && answer(restoring));
         QCOMPARE(bench.helperRunCount(u"disconnect"_s), 0);
-        QVERIFY(bench.controller().phase() == Phase::disconnected);
+        QVERIFY(bench.controller().phase() == ConnectionPhase::disconnected);
     }
 
     void endsTheSession()
@@ -58,7 +57,7 @@ private Q_SLOTS:
         auto restoring = bench.controller().restore();
         QVERIFY(Workbench::finished(restoring));
         QVERIFY(answer(restoring));
-        QVERIFY(bench.controller().phase() == Phase::disconnected);
+        QVERIFY(bench.controller().phase() == ConnectionPhase::disconnected);
     }
 
     void sharesARunningDisconnect_data()

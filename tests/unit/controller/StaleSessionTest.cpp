@@ -6,7 +6,6 @@
 using namespace Qt::StringLiterals;
 using namespace veldmark;
 using System = Workbench::System;
-using Phase = ConnectionPhase;
 
 namespace {
 QCoro::Task<std::optional<ConnectTime>> silence()
@@ -55,7 +54,7 @@ private Q_SLOTS:
         bench.writeMarker(content);
         bench.controller().detectStaleState();
         const TorController &c = bench.controller();
-        QVERIFY(c.phase() == Phase::stale);
+        QVERIFY(c.phase() == ConnectionPhase::stale);
         QVERIFY(c.activeMode() == routingModeFromRawValue(mode));
         QCOMPARE(c.statusDetail(),
                  u"Your network is still set up for Tor from an earlier session"_s);
@@ -69,7 +68,7 @@ private Q_SLOTS:
         // a folder: no user can read it as text
         QVERIFY(QDir().mkpath(bench.profile.sessionMarker));
         bench.controller().detectStaleState();
-        QVERIFY(bench.controller().phase() == Phase::stale);
+        QVERIFY(bench.controller().phase() == ConnectionPhase::stale);
         QVERIFY(!bench.controller().activeMode());
     }
 
@@ -78,7 +77,7 @@ private Q_SLOTS:
         Workbench bench;
         bench.writeFile(activeFile(bench));
         bench.controller().detectStaleState();
-        QVERIFY(bench.controller().phase() == Phase::disconnected);
+        QVERIFY(bench.controller().phase() == ConnectionPhase::disconnected);
         QVERIFY(!bench.controller().isSessionMarkerPresent());
         QVERIFY(!QFile::exists(activeFile(bench)));
     }
@@ -97,7 +96,7 @@ private Q_SLOTS:
         Workbench bench;
         QVERIFY(bench.connect());
         bench.controller().detectStaleState();
-        QVERIFY(bench.controller().phase() == Phase::connected);
+        QVERIFY(bench.controller().phase() == ConnectionPhase::connected);
         QCOMPARE(bench.controller().statusDetail(), u"All traffic is locked to Tor"_s);
     }
 
@@ -107,7 +106,7 @@ private Q_SLOTS:
         bench.writeMarker("strict");
         bench.controller().detectStaleState();
         bench.disconnect();
-        QVERIFY(bench.controller().phase() == Phase::disconnected);
+        QVERIFY(bench.controller().phase() == ConnectionPhase::disconnected);
         QVERIFY(!bench.controller().activeMode());
         QVERIFY(!bench.hasMarker());
     }
@@ -182,7 +181,8 @@ private Q_SLOTS:
         if (!markerStays)
             bench.removeMarker();
         bench.disconnect();
-        QVERIFY(c.phase() == (markerStays ? Phase::stale : Phase::disconnected));
+        QVERIFY(c.phase()
+                == (markerStays ? ConnectionPhase::stale : ConnectionPhase::disconnected));
         QCOMPARE(c.statusDetail(),
                  markerStays ? u"Your network is still set up for Tor"_s
                              : u"Your traffic is not going through Tor"_s);
@@ -223,9 +223,9 @@ private Q_SLOTS:
         const auto starting = c.autoConnectIfEnabled();
         QVERIFY(Workbench::finished(starting));
         QVERIFY(c.phase()
-                == (connects     ? Phase::connected
-                        : marker ? Phase::stale
-                                 : Phase::disconnected));
+                == (connects     ? ConnectionPhase::connected
+                        : marker ? ConnectionPhase::stale
+                                 : ConnectionPhase::disconnected));
         QVERIFY(!c.errorMessage());
         QCOMPARE(bench.helperRunCount(u"connect"_s), connects ? 1 : 0);
     }
@@ -249,7 +249,7 @@ private Q_SLOTS:
         QVERIFY(c.activeMode() == RoutingMode::strict);
         bench.writeMarker("proxy\n"); // with the helper, which notes no owner then
         c.lookAtSession();
-        QVERIFY(c.phase() == Phase::stale);
+        QVERIFY(c.phase() == ConnectionPhase::stale);
         QVERIFY(c.activeMode() == RoutingMode::proxy);
     }
 };

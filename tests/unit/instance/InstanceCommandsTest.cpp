@@ -10,7 +10,6 @@
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace veldmark;
-using Phase = ConnectionPhase;
 
 // InstanceServer: the effect of each command, and the client's answer.
 class InstanceCommandsTest : public QObject {
@@ -136,7 +135,7 @@ private Q_SLOTS:
         instance.bench.removeMarker(); // this time it restored the network before it failed
         Conversation half(instance.bench, "disconnect");
         QCOMPARE(half.error(), u"Could not."_s);
-        QVERIFY(instance.bench.controller().phase() == Phase::disconnected);
+        QVERIFY(instance.bench.controller().phase() == ConnectionPhase::disconnected);
     }
 
     void aDismissedRestoreIsNotTakenForTorsDeath()

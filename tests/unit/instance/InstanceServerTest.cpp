@@ -18,7 +18,6 @@
 using namespace Qt::StringLiterals;
 using namespace veldmark;
 using System = Workbench::System;
-using Phase = ConnectionPhase;
 
 namespace {
 
@@ -363,7 +362,8 @@ private Q_SLOTS:
         settle();
         instance.bench.processes.hold = nullptr;
         instance.bench.processes.release();
-        QVERIFY(until([&] { return instance.bench.controller().phase() == Phase::connected; }));
+        QVERIFY(until(
+            [&] { return instance.bench.controller().phase() == ConnectionPhase::connected; }));
         QVERIFY(until([&] { return !instance.bench.controller().isChecking(); }));
     }
 

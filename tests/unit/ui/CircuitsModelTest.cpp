@@ -25,7 +25,7 @@ CircuitInfo circuit(const char *id)
 Snapshot connectedWith(std::vector<CircuitInfo> circuits)
 {
     Snapshot s;
-    s.phase = Phase::connected;
+    s.phase = ConnectionPhase::connected;
     s.circuits = std::move(circuits);
     return s;
 }
@@ -112,7 +112,7 @@ private Q_SLOTS:
         session.show(connectedWith(circuits(QStringLiteral("12 13"))));
         QCOMPARE(model.followed(), QStringLiteral("12")); // the session goes on
         Snapshot s;
-        s.phase = Phase::disconnecting;
+        s.phase = ConnectionPhase::disconnecting;
         session.show(s);
         session.show(connectedWith(circuits(QStringLiteral("12"))));
         QCOMPARE(model.followed(), QString());

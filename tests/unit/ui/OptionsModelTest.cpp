@@ -21,11 +21,11 @@ private Q_SLOTS:
         StandInSession session(profile);
         OptionsModel options(session);
         Snapshot s;
-        for (const auto &[phase, locked] : {std::pair{Phase::disconnected, false},
-                                            {Phase::connecting, true},
-                                            {Phase::connected, true},
-                                            {Phase::disconnecting, true},
-                                            {Phase::stale, false}}) {
+        for (const auto &[phase, locked] : {std::pair{ConnectionPhase::disconnected, false},
+                                            {ConnectionPhase::connecting, true},
+                                            {ConnectionPhase::connected, true},
+                                            {ConnectionPhase::disconnecting, true},
+                                            {ConnectionPhase::stale, false}}) {
             s.phase = phase;
             session.show(s);
             QCOMPARE(options.locked(), locked);
@@ -340,7 +340,7 @@ private Q_SLOTS:
         StandInSession session(profile);
         OptionsModel options(session);
         Snapshot s;
-        s.phase = Phase::connected;
+        s.phase = ConnectionPhase::connected;
         s.activeMode = RoutingMode::proxy;
         session.show(s);
         QVERIFY(!options.canLaunchBypassed());
@@ -356,17 +356,17 @@ private Q_SLOTS:
         Snapshot s;
         s.choices.strictMode = true;
         s.activeMode = RoutingMode::proxy;
-        s.phase = Phase::connected;
+        s.phase = ConnectionPhase::connected;
         session.show(s);
         QVERIFY(!options.strictMode());
         s.activeMode = RoutingMode::strict;
         session.show(s);
         QVERIFY(options.strictMode());
         s.activeMode = RoutingMode::proxy; // a leftover session: the choice applies to the next one
-        s.phase = Phase::stale;
+        s.phase = ConnectionPhase::stale;
         session.show(s);
         QVERIFY(options.strictMode());
-        s.phase = Phase::disconnecting; // it is being ended
+        s.phase = ConnectionPhase::disconnecting; // it is being ended
         session.show(s);
         QVERIFY(!options.strictMode());
     }

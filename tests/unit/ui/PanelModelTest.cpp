@@ -21,7 +21,7 @@ Snapshot idle()
 Snapshot connected(RoutingMode mode)
 {
     Snapshot s = idle();
-    s.phase = Phase::connected;
+    s.phase = ConnectionPhase::connected;
     s.activeMode = mode;
     if (mode == RoutingMode::strict)
         s.killSwitch = KillSwitch{KillSwitch::State::standing, 0, {}};
@@ -54,17 +54,17 @@ private Q_SLOTS:
         StandInSession session(profile);
         PanelModel panel(session);
         Snapshot s = idle();
-        s.phase = Phase::connecting;
+        s.phase = ConnectionPhase::connecting;
         s.bootstrapProblem = QStringLiteral("The bridge program lyrebird keeps ending.");
         session.show(s);
         QCOMPARE(panel.waitingFor(), *s.bootstrapProblem); // at once, and the summary stays
         QCOMPARE(panel.detail(), s.statusDetail);
-        s.phase = Phase::stale;
+        s.phase = ConnectionPhase::stale;
         s.errorMessage = QStringLiteral("Tor didn't finish connecting.");
         session.show(s);
         QCOMPARE(panel.waitingFor(), QString());
         QCOMPARE(panel.error(), s.errorMessage->english() + u' ' + s.bootstrapProblem->english());
-        s.phase = Phase::disconnected;
+        s.phase = ConnectionPhase::disconnected;
         session.show(s);
         QCOMPARE(panel.error(), *s.errorMessage);
     }
@@ -78,7 +78,7 @@ private Q_SLOTS:
         QCOMPARE(stillness->interval(), 10'000);
         stillness->setInterval(1);
         Snapshot s = idle();
-        s.phase = Phase::connecting;
+        s.phase = ConnectionPhase::connecting;
         s.bootstrapProgress = 0.1;
         session.show(s);
         QVERIFY(panel.waitingFor().isEmpty());
@@ -91,7 +91,7 @@ private Q_SLOTS:
         QCOMPARE(panel.waitingFor(), QString());
         stillness->start(1);
         QTRY_VERIFY(!panel.waitingFor().isEmpty());
-        s.phase = Phase::disconnected;
+        s.phase = ConnectionPhase::disconnected;
         session.show(s);
         QCOMPARE(panel.waitingFor(), QString());
     }
@@ -102,11 +102,11 @@ private Q_SLOTS:
         PanelModel panel(session);
         Snapshot s = idle();
         s.bootstrapProgress = 0.4;
-        for (const auto &[phase, shown] : {std::pair(Phase::disconnected, 0.0),
-                                           {Phase::connecting, 0.4},
-                                           {Phase::connected, 0.0},
-                                           {Phase::disconnecting, 0.0},
-                                           {Phase::stale, 0.0}}) {
+        for (const auto &[phase, shown] : {std::pair(ConnectionPhase::disconnected, 0.0),
+                                           {ConnectionPhase::connecting, 0.4},
+                                           {ConnectionPhase::connected, 0.0},
+                                           {ConnectionPhase::disconnecting, 0.0},
+                                           {ConnectionPhase::stale, 0.0}}) {
             s.phase = phase;
             session.show(s);
             QCOMPARE(panel.progress(), shown);
@@ -122,7 +122,7 @@ private Q_SLOTS:
         const auto now = std::chrono::steady_clock::now();
         panel.traffic()->add(900'000, 1000, now + std::chrono::seconds(2));
         QVERIFY(!panel.traffic()->samples().empty());
-        s.phase = Phase::disconnected;
+        s.phase = ConnectionPhase::disconnected;
         session.show(s);
         QVERIFY(panel.traffic()->samples().empty());
     }
@@ -153,7 +153,7 @@ private Q_SLOTS:
         row("a location of tor that a connect refuses", s, Tone::Neutral, "shield.slash",
             "Not Protected", "Connect to Tor", true, "Click to connect");
         s = idle();
-        s.phase = Phase::connecting;
+        s.phase = ConnectionPhase::connecting;
         row("connecting, not to be cancelled", s, Tone::Accent, "shield.lefthalf.filled",
             "Connecting…", "Cancel", false, "");
         s.canCancel = true;
@@ -189,11 +189,11 @@ private Q_SLOTS:
         s.activeMode.reset();
         row("connected in no known mode", s, Tone::Info, "lock.shield.fill", "Proxy Active",
             "Disconnect", true, "Click to disconnect");
-        s.phase = Phase::disconnecting;
+        s.phase = ConnectionPhase::disconnecting;
         row("disconnecting", s, Tone::Accent, "shield.lefthalf.filled", "Disconnecting…", "", false,
             "");
         s = idle();
-        s.phase = Phase::stale;
+        s.phase = ConnectionPhase::stale;
         row("stale", s, Tone::Warning, "exclamationmark.shield", "Needs Attention", "Reconnect",
             true, "");
     }
@@ -219,8 +219,9 @@ private Q_SLOTS:
         PanelModel panel(session);
         int combinations = 0;
         int green = 0;
-        for (const Phase phase : {Phase::disconnected, Phase::connecting, Phase::connected,
-                                  Phase::disconnecting, Phase::stale})
+        for (const ConnectionPhase phase :
+             {ConnectionPhase::disconnected, ConnectionPhase::connecting,
+              ConnectionPhase::connected, ConnectionPhase::disconnecting, ConnectionPhase::stale})
             for (const std::optional<RoutingMode> mode :
                  {std::optional<RoutingMode>(), std::optional(RoutingMode::strict),
                   std::optional(RoutingMode::proxy)})
@@ -240,7 +241,7 @@ private Q_SLOTS:
                             s.torVerified = verified;
                             session.show(s);
                             ++combinations;
-                            const bool strict = phase == Phase::connected
+                            const bool strict = phase == ConnectionPhase::connected
                                 && mode == RoutingMode::strict;
                             const bool known = dns.isLeak() || leak.isExposed();
                             if (panel.tone() == Tone::Good) {
@@ -250,10 +251,10 @@ private Q_SLOTS:
                             if (panel.title() == QLatin1String("Protected"))
                                 QVERIFY(strict && !known);
                             if (panel.symbol() == QLatin1String("lock.shield.fill"))
-                                QVERIFY(phase == Phase::connected && !dns.isLeak());
-                            if (phase == Phase::connected && dns.isLeak())
+                                QVERIFY(phase == ConnectionPhase::connected && !dns.isLeak());
+                            if (phase == ConnectionPhase::connected && dns.isLeak())
                                 QCOMPARE(panel.tone(), Tone::Danger);
-                            if (phase != Phase::connected
+                            if (phase != ConnectionPhase::connected
                                 && panel.pillText().startsWith(QLatin1String("Connected")))
                                 QFAIL("a bridge is said to be connected through");
                             if (panel.leakText() == QLatin1String("No leaks"))
@@ -271,16 +272,16 @@ private Q_SLOTS:
         StandInSession session(profile);
         PanelModel panel(session);
         Snapshot s = idle();
-        s.phase = Phase::connecting;
+        s.phase = ConnectionPhase::connecting;
         s.bootstrapProgress = 0.3;
         session.show(s);
         QCOMPARE(panel.waitingFor(), QString());
         runOut(panel);
         QVERIFY(panel.waitingFor().contains(QStringLiteral("hasn't reported progress")));
-        s.phase = Phase::stale;
+        s.phase = ConnectionPhase::stale;
         session.show(s);
         QCOMPARE(panel.waitingFor(), QString());
-        s.phase = Phase::connecting; // with nothing else changed
+        s.phase = ConnectionPhase::connecting; // with nothing else changed
         session.show(s);
         QCOMPARE(panel.waitingFor(), QString());
         runOut(panel);
@@ -299,7 +300,7 @@ private Q_SLOTS:
         panel.traffic()->add(s.bytesRead + 1'000'000, s.bytesWritten,
                              std::chrono::steady_clock::now() + std::chrono::seconds(2));
         QVERIFY(!panel.traffic()->samples().empty());
-        s.phase = Phase::disconnected;
+        s.phase = ConnectionPhase::disconnected;
         session.show(s);
         QVERIFY(panel.traffic()->samples().empty());
     }
@@ -333,7 +334,7 @@ private Q_SLOTS:
         s.circuits = {circuit};
         s.exitIP = QStringLiteral("192.0.2.44");
         session.show(s);
-        s.phase = Phase::stale;
+        s.phase = ConnectionPhase::stale;
         session.show(s);
         QCOMPARE(panel.exitCountry(), QString());
     }
@@ -343,18 +344,18 @@ private Q_SLOTS:
         StandInSession session(profile);
         PanelModel panel(session);
         Snapshot s = idle();
-        for (const auto &[phase, asked] : {std::pair{Phase::disconnected, "connect"},
-                                           {Phase::connecting, "disconnect"},
-                                           {Phase::connected, "disconnect"},
-                                           {Phase::stale, "connect"}}) {
+        for (const auto &[phase, asked] : {std::pair{ConnectionPhase::disconnected, "connect"},
+                                           {ConnectionPhase::connecting, "disconnect"},
+                                           {ConnectionPhase::connected, "disconnect"},
+                                           {ConnectionPhase::stale, "connect"}}) {
             s.phase = phase;
-            s.canCancel = phase == Phase::connecting;
+            s.canCancel = phase == ConnectionPhase::connecting;
             session.show(s);
             session.asked.clear();
             panel.pressPower();
             QCOMPARE(session.asked, QStringList{QString::fromLatin1(asked)});
         }
-        s.phase = Phase::disconnecting;
+        s.phase = ConnectionPhase::disconnecting;
         session.show(s);
         session.asked.clear();
         panel.pressPower();
@@ -367,7 +368,7 @@ private Q_SLOTS:
         StandInSession session(profile);
         PanelModel panel(session);
         Snapshot s = idle();
-        s.phase = Phase::stale;
+        s.phase = ConnectionPhase::stale;
         s.markerPresent = true;
         session.show(s);
         QVERIFY(panel.powerEnabled() && !panel.powerLabel().isEmpty());
@@ -401,7 +402,7 @@ private Q_SLOTS:
             QCOMPARE(panel.pillText(),
                      QStringLiteral("Connected through %1 bridges").arg(QLatin1String(name)));
         }
-        s.phase = Phase::connecting; // there is no connection yet
+        s.phase = ConnectionPhase::connecting; // there is no connection yet
         session.show(s);
         QCOMPARE(panel.pillText(), QStringLiteral("Proxy"));
     }
@@ -523,10 +524,10 @@ private Q_SLOTS:
         s.markerPresent = true;
         session.show(s);
         QVERIFY(panel.canRestore());
-        s.phase = Phase::connected;
+        s.phase = ConnectionPhase::connected;
         session.show(s);
         QVERIFY(!panel.canRestore());
-        s.phase = Phase::stale;
+        s.phase = ConnectionPhase::stale;
         session.show(s);
         QVERIFY(panel.canRestore());
         panel.restore();

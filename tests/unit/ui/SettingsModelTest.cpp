@@ -119,7 +119,7 @@ private Q_SLOTS:
         s.markerPresent = true;
         session.show(s);
         QVERIFY(settings.canRestore());
-        s.phase = Phase::disconnecting;
+        s.phase = ConnectionPhase::disconnecting;
         session.show(s);
         QVERIFY(settings.changesActive());
         QVERIFY(!settings.canRestore());
@@ -146,11 +146,11 @@ private Q_SLOTS:
         StandInSession session(profile);
         SettingsModel settings(session);
         Snapshot s;
-        for (const auto &[phase, locked] : {std::pair{Phase::disconnected, false},
-                                            {Phase::connecting, true},
-                                            {Phase::connected, true},
-                                            {Phase::disconnecting, true},
-                                            {Phase::stale, false}}) {
+        for (const auto &[phase, locked] : {std::pair{ConnectionPhase::disconnected, false},
+                                            {ConnectionPhase::connecting, true},
+                                            {ConnectionPhase::connected, true},
+                                            {ConnectionPhase::disconnecting, true},
+                                            {ConnectionPhase::stale, false}}) {
             s.phase = phase;
             session.show(s);
             QCOMPARE(settings.torLocked(), locked);

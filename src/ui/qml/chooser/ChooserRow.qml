@@ -44,7 +44,7 @@ T.CheckDelegate {
             size: 28
             color: Theme.quiet
         }
-        Words {
+        WrappedText {
             id: label
             anchors.left: parent.left
             anchors.leftMargin: 48

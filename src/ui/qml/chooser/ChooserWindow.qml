@@ -29,7 +29,7 @@ Window {
     ColumnLayout {
         anchors { fill: parent; margins: 16 }
         spacing: 12
-        Words {
+        WrappedText {
             Layout.fillWidth: true
             text: qsTr("Choose apps that may skip Tor in strict mode")
             font.pixelSize: Theme.headSize
@@ -68,7 +68,7 @@ Window {
                 Keys.onSpacePressed: window.model.toggle(currentIndex)
                 Keys.onReturnPressed: window.model.toggle(currentIndex)
             }
-            Words {
+            WrappedText {
                 anchors { left: parent.left; right: parent.right; verticalCenter: parent.verticalCenter }
                 visible: list.count === 0
                 horizontalAlignment: Text.AlignHCenter

@@ -12,7 +12,7 @@ Rectangle {
     ColumnLayout {
         anchors.fill: parent
         spacing: 0
-        Words {
+        WrappedText {
             Layout.margins: 16
             Layout.bottomMargin: 8
             text: qsTr("ALL CIRCUITS")
@@ -80,12 +80,12 @@ Rectangle {
                         anchors.leftMargin: 38
                         width: parent.width - 50
                         anchors.verticalCenter: parent.verticalCenter
-                        Words {
+                        WrappedText {
                             width: parent.width
                             text: row.title
                             font.weight: row.isFollowed ? Font.DemiBold : Font.Normal
                         }
-                        Words {
+                        WrappedText {
                             width: parent.width
                             text: row.detail
                             font.pixelSize: Theme.smallSize
@@ -100,7 +100,7 @@ Rectangle {
             }
         }
         Divider {}
-        Words {
+        WrappedText {
             Layout.margins: 16
             Layout.fillWidth: true
             visible: sidebar.model.followed === ""
@@ -138,7 +138,7 @@ Rectangle {
                         last: modelData.last
                     }
                 }
-                Words {
+                WrappedText {
                     Layout.fillWidth: true
                     Layout.topMargin: 4
                     visible: text !== ""
@@ -153,7 +153,7 @@ Rectangle {
                     help: qsTr("Close this circuit; its sites get a fresh path on their next request")
                     onClicked: sidebar.model.newCircuit()
                 }
-                Words {
+                WrappedText {
                     Layout.fillWidth: true
                     Layout.topMargin: 8
                     text: qsTr("Sites on this circuit get a fresh path. Other sites sharing it move too.")

@@ -32,20 +32,20 @@ Window {
             ColumnLayout {
                 Layout.fillWidth: true
                 spacing: 2
-                Words {
+                WrappedText {
                     text: qsTr("Circuits")
                     font.pixelSize: Theme.titleSize
                     font.weight: Font.DemiBold
                     Accessible.role: Accessible.Heading
                 }
-                Words {
+                WrappedText {
                     Layout.fillWidth: true
                     text: window.model.subtitle
                     font.pixelSize: Theme.smallSize
                     color: Theme.quiet
                 }
             }
-            Words {
+            WrappedText {
                 Layout.maximumWidth: 190
                 visible: text !== ""
                 text: window.model.optimizeText
@@ -71,7 +71,7 @@ Window {
                 symbol: "point.3.filled.connected.trianglepath.dotted"
                 help: qsTr("Time a request through Tor and get fresh circuits if it's slow")
                 enabled: window.model.connected && !window.model.optimizing
-                onClicked: window.model.findFaster()
+                onClicked: window.model.optimizeCircuits()
             }
         }
         Divider {}

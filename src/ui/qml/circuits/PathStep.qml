@@ -53,20 +53,20 @@ RowLayout {
         Layout.fillWidth: true
         Layout.bottomMargin: 8
         spacing: 0
-        Words {
+        WrappedText {
             Layout.fillWidth: true
             visible: step.role !== ""
             text: step.role
             font.pixelSize: Theme.smallSize
             color: Theme.quiet
         }
-        Words {
+        WrappedText {
             Layout.fillWidth: true
             text: step.title
             font.weight: Font.DemiBold
             wrapMode: Text.WrapAnywhere
         }
-        Words {
+        WrappedText {
             Layout.fillWidth: true
             text: step.detail
             font.pixelSize: Theme.smallSize

@@ -13,7 +13,7 @@ ColumnLayout {
 
     spacing: 8
 
-    Words {
+    WrappedText {
         Layout.leftMargin: 4
         visible: card.title !== ""
         text: card.title

@@ -32,7 +32,7 @@ Column {
             onActivated: index => row.chosen(index)
         }
     }
-    Words {
+    WrappedText {
         anchors.left: parent.left
         anchors.leftMargin: 30
         width: row.width - 30
@@ -41,7 +41,7 @@ Column {
         color: Theme.quiet
         opacity: row.enabled ? 1 : 0.62
     }
-    Words {
+    WrappedText {
         anchors.left: parent.left
         anchors.leftMargin: 30
         width: row.width - 30

@@ -15,7 +15,7 @@ ColumnLayout {
         name: state.symbol
         size: 40
     }
-    Words {
+    WrappedText {
         Layout.alignment: Qt.AlignHCenter
         Layout.fillWidth: true
         Layout.maximumWidth: 420
@@ -24,7 +24,7 @@ ColumnLayout {
         font.pixelSize: Theme.headSize
         font.weight: Font.DemiBold
     }
-    Words {
+    WrappedText {
         Layout.alignment: Qt.AlignHCenter
         Layout.fillWidth: true
         Layout.maximumWidth: 420

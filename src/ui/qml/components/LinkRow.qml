@@ -28,7 +28,7 @@ T.Button {
             subtitle: button.subtitle
             symbol: button.symbol
             enabled: button.enabled
-            Words { text: button.value; color: Theme.quiet; visible: text !== "" }
+            WrappedText { text: button.value; color: Theme.quiet; visible: text !== "" }
             Symbol { name: button.mark; size: 14; transform: Scale { xScale: Theme.mirrored ? -1 : 1; origin.x: 7 } }
         }
     }

@@ -35,11 +35,11 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         spacing: 2
         opacity: row.enabled ? 1 : 0.62
-        Words {
+        WrappedText {
             width: parent.width
             text: row.title
         }
-        Words {
+        WrappedText {
             width: parent.width
             visible: row.subtitle !== ""
             text: row.subtitle

@@ -33,7 +33,7 @@ T.Popup {
             id: body
             anchors.fill: parent
             spacing: 16
-            Words {
+            WrappedText {
                 Layout.fillWidth: true
                 text: sheet.title
                 font.pixelSize: Theme.headSize

@@ -29,13 +29,13 @@ Window {
             ColumnLayout {
                 Layout.fillWidth: true
                 spacing: 2
-                Words {
+                WrappedText {
                     text: qsTr("Tor Log")
                     font.pixelSize: Theme.titleSize
                     font.weight: Font.DemiBold
                     Accessible.role: Accessible.Heading
                 }
-                Words {
+                WrappedText {
                     Layout.fillWidth: true
                     text: window.model.subtitle
                     font.pixelSize: Theme.smallSize

@@ -42,14 +42,14 @@ Window {
             ColumnLayout {
                 Layout.fillWidth: true
                 spacing: 6
-                Words {
+                WrappedText {
                     Layout.fillWidth: true
                     text: qsTr("Your network is still routed through Tor")
                     font.pixelSize: Theme.headSize
                     font.weight: Font.DemiBold
                     Accessible.role: Accessible.Heading
                 }
-                Words {
+                WrappedText {
                     Layout.fillWidth: true
                     text: window.strict
                           ? qsTr("If you quit now, Tor keeps running and the kill switch stays on. Open Veldmark again later to restore your normal connection.")

@@ -11,18 +11,18 @@ Sheet {
     title: qsTr("App exceptions")
     onAboutToShow: model.forgetLaunchError()
 
-    Words {
+    WrappedText {
         Layout.fillWidth: true
         textFormat: Text.StyledText
         text: sheet.model.applicationsExplanation
         color: Theme.quiet
     }
-    Words {
+    WrappedText {
         Layout.fillWidth: true
         visible: list.count === 0
         text: qsTr("No apps yet. Add Zoom, Discord, a game…")
     }
-    Words {
+    WrappedText {
         Layout.fillWidth: true
         visible: !sheet.model.canLaunchBypassed
         text: qsTr("Connect in strict mode to open apps without Tor")
@@ -44,7 +44,7 @@ Sheet {
             id: row
             required property string modelData
             width: ListView.view.width
-            Words {
+            WrappedText {
                 Layout.fillWidth: true
                 text: sheet.model.applicationName(row.modelData)
             }

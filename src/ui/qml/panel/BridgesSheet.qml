@@ -15,7 +15,7 @@ Sheet {
         editor.forceActiveFocus()
     }
 
-    Words {
+    WrappedText {
         Layout.fillWidth: true
         text: qsTr("One bridge per line. Ask the Tor Project for bridges on its bridges page, by e-mail or through its Telegram bot, or use those of someone you trust. obfs4, webtunnel, Snowflake, meek and plain bridges are supported.")
         color: Theme.quiet
@@ -68,13 +68,13 @@ Sheet {
             }
         }
     }
-    Words {
+    WrappedText {
         Layout.fillWidth: true
         visible: sheet.isDropEmpty
         text: qsTr("There is no bridge in this file.")
         color: Theme.warning
     }
-    Words {
+    WrappedText {
         Layout.fillWidth: true
         visible: text !== ""
         text: sheet.model.bridgeCount(editor.text)
@@ -84,7 +84,7 @@ Sheet {
     RowLayout {
         visible: warning.text !== ""
         Symbol { name: "exclamationmark.triangle.fill"; color: Theme.warning }
-        Words {
+        WrappedText {
             id: warning
             Layout.fillWidth: true
             text: sheet.model.bridgeWarning(editor.text)

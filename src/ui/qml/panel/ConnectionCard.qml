@@ -74,7 +74,7 @@ Card {
         Layout.fillWidth: true
         symbol: "arrow.up.arrow.down"
         title: qsTr("Traffic")
-        Words {
+        WrappedText {
             text: "↓ " + card.model.downloaded + "   ↑ " + card.model.uploaded
             Accessible.name: qsTr("%1 received, %2 sent").arg(card.model.downloaded).arg(card.model.uploaded)
         }
@@ -89,7 +89,7 @@ Card {
         Accessible.role: Accessible.Chart
         Accessible.name: qsTr("Traffic of the last two minutes")
     }
-    Words {
+    WrappedText {
         Layout.fillWidth: true
         visible: text !== ""
         text: card.model.optimizeText

@@ -12,7 +12,7 @@ Sheet {
     title: qsTr("This computer")
     onAboutToShow: model.examine()
 
-    Words {
+    WrappedText {
         Layout.fillWidth: true
         text: sheet.model.verdict
         color: Theme.quiet
@@ -49,7 +49,7 @@ Sheet {
             ColumnLayout {
                 Layout.fillWidth: true
                 spacing: 6
-                Words {
+                WrappedText {
                     Layout.fillWidth: true
                     text: row.text
                     Accessible.name: row.level + ": " + row.text

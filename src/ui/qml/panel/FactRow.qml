@@ -25,7 +25,7 @@ T.Control {
             name: fact.symbol
             color: fact.symbolColor
         }
-        Words {
+        WrappedText {
             anchors.left: parent.left
             anchors.leftMargin: 26
             width: Math.max(40, parent.width - side.width - 34)

@@ -55,7 +55,7 @@ Rectangle {
                 }
             }
         }
-        Words {
+        WrappedText {
             Layout.fillWidth: true
             horizontalAlignment: Text.AlignHCenter
             text: hero.model.detail + (hero.model.busy && hero.model.progress > 0
@@ -84,7 +84,7 @@ Rectangle {
         ColumnLayout {
             Layout.fillWidth: true
             visible: hero.model.waitingFor !== ""
-            Words {
+            WrappedText {
                 Layout.fillWidth: true
                 horizontalAlignment: Text.AlignHCenter
                 text: hero.model.waitingFor
@@ -98,7 +98,7 @@ Rectangle {
                 onClicked: hero.logWanted()
             }
         }
-        Words {
+        WrappedText {
             Layout.fillWidth: true
             Layout.topMargin: 4
             visible: text !== ""

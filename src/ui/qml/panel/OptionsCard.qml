@@ -17,7 +17,7 @@ Card {
         visible: card.model.locked
         spacing: 8
         Symbol { name: "lock.fill"; size: 13 }
-        Words {
+        WrappedText {
             Layout.fillWidth: true
             text: qsTr("Disconnect to change")
             font.pixelSize: Theme.smallSize
@@ -84,7 +84,7 @@ Card {
             enabled: !card.model.locked
             onClicked: card.bridgesWanted()
         }
-        Words {
+        WrappedText {
             Layout.fillWidth: true
             text: card.model.downloadText
             font.pixelSize: Theme.smallSize

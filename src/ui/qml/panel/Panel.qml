@@ -77,9 +77,9 @@ Rectangle {
                 model: panel.model
                 onLogWanted: panel.windowWanted("log")
             }
-            LookupCard {
+            DNSCard {
                 Layout.fillWidth: true
-                visible: panel.model.lookupsLeak
+                visible: panel.model.dnsLeaks
                 model: panel.model
             }
             ConnectionCard {

@@ -29,13 +29,13 @@ Window {
             Layout.margins: 16
             Layout.bottomMargin: 12
             spacing: 4
-            Words {
+            WrappedText {
                 text: qsTr("Report")
                 font.pixelSize: Theme.titleSize
                 font.weight: Font.DemiBold
                 Accessible.role: Accessible.Heading
             }
-            Words {
+            WrappedText {
                 Layout.fillWidth: true
                 text: qsTr("For those who help you. Addresses, names, bridges, keys and paths in your home are replaced. Look through it before you give it away: Veldmark sends it to nobody.")
                 font.pixelSize: Theme.smallSize
@@ -63,7 +63,7 @@ Window {
                 enabled: window.model.text !== ""
                 onClicked: window.model.copy()
             }
-            Words {
+            WrappedText {
                 Layout.fillWidth: true
                 text: window.model.note
                 font.pixelSize: Theme.smallSize

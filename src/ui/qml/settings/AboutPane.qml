@@ -11,7 +11,7 @@ Pane {
     Card {
         Layout.fillWidth: true
         contentSpacing: 12
-        Words {
+        WrappedText {
             Layout.fillWidth: true
             text: qsTr("Sends this computer's traffic through Tor, all of it in strict mode and that of apps that use the system proxy in proxy mode, and shows whether it really does.")
         }

@@ -9,7 +9,7 @@ RowLayout {
     visible: text !== ""
     spacing: 8
     Symbol { name: "exclamationmark.triangle.fill"; color: Theme.danger; Layout.alignment: Qt.AlignTop }
-    Words {
+    WrappedText {
         id: words
         Layout.fillWidth: true
         color: Theme.danger

@@ -3,7 +3,7 @@ import QtQuick.Layouts
 import Veldmark
 
 // An explanation below the rows of a group.
-Words {
+WrappedText {
     Layout.fillWidth: true
     font.pixelSize: Theme.smallSize
     color: Theme.quiet

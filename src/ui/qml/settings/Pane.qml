@@ -14,14 +14,14 @@ ScrollArea {
         spacing: 20
         ColumnLayout {
             spacing: 2
-            Words {
+            WrappedText {
                 Layout.fillWidth: true
                 text: pane.title
                 font.pixelSize: Theme.titleSize
                 font.weight: Font.DemiBold
                 Accessible.role: Accessible.Heading
             }
-            Words {
+            WrappedText {
                 Layout.fillWidth: true
                 text: pane.subtitle
                 color: Theme.quiet

@@ -9,7 +9,7 @@ SettingRow {
 
     symbol: found ? "checkmark.circle.fill" : "exclamationmark.circle.fill"
     symbolColor: found ? Theme.good : Theme.warning
-    Words {
+    WrappedText {
         text: row.found ? qsTr("Found %1").arg(row.onComputer) : qsTr("Not found")
         color: row.found ? Theme.quiet : Theme.warning
     }

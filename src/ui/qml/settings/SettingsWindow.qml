@@ -78,7 +78,7 @@ Window {
                                 size: 18
                                 color: tab.checked ? Theme.accent : Theme.quiet
                             }
-                            Words {
+                            WrappedText {
                                 id: label
                                 anchors.left: parent.left
                                 anchors.leftMargin: 38

@@ -32,7 +32,7 @@ Pane {
         GridLayout {
             Layout.fillWidth: true
             columns: width < 430 ? 1 : 2
-            Words { Layout.fillWidth: true; text: pane.model.torLocked ? qsTr("Location: disconnect to change") : qsTr("Location") }
+            WrappedText { Layout.fillWidth: true; text: pane.model.torLocked ? qsTr("Location: disconnect to change") : qsTr("Location") }
             SegmentedControl {
                 name: qsTr("Location")
                 names: [qsTr("Automatic"), qsTr("Custom location")]

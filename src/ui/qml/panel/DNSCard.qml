@@ -12,7 +12,7 @@ Card {
         Layout.fillWidth: true
         spacing: 10
         Symbol { Layout.alignment: Qt.AlignTop; name: "exclamationmark.triangle.fill"; size: 18; color: Theme.danger }
-        Words {
+        WrappedText {
             Layout.fillWidth: true
             text: qsTr("Lookups can go around Tor")
             font.weight: Font.DemiBold
@@ -21,7 +21,7 @@ Card {
     }
     Repeater {
         model: card.model.leakingResolvers
-        Words {
+        WrappedText {
             required property string modelData
             Layout.fillWidth: true
             text: modelData
@@ -29,7 +29,7 @@ Card {
             wrapMode: Text.WrapAnywhere
         }
     }
-    Words {
+    WrappedText {
         visible: text !== ""
         text: card.model.moreResolvers
         font.pixelSize: Theme.smallSize
