@@ -48,6 +48,7 @@ class Gnome(Desktop):
         self.as_user(
             """gsettings set org.gnome.system.proxy mode auto; gsettings set org.gnome.system.proxy autoconfig-url "http://a/'b' c"
             gsettings set org.gnome.system.proxy ignore-hosts "['a b', 'it\\'s', '*.corp']"
+            gsettings set org.gnome.system.proxy.ftp host 'a\\\\b '
             gsettings set org.gnome.system.proxy.http host 'proxy.corp'; gsettings set org.gnome.system.proxy.socks port 1"""
         )
         before = self.settings()
@@ -195,6 +196,26 @@ class Kde(Desktop):
                 self.assertIn("192.168.0.0/16", self.machine.shell(f"cat {KIOSLAVE}"))
                 self.disconnect()
                 self.assertEqual(self.machine.snapshot(), before)
+
+    def test_every_other_line_stays_as_it_is(self):
+        other = "  indented=C:\\new \\\nnext=\\\\x  \n[Other]\nProxyType=\\7\n"
+        self.write("[Proxy Settings]\nProxyType=2\n" + other)
+        self.connect()
+        now = self.machine.shell(f"cat {KIOSLAVE}")
+        self.assertTrue(now.endswith(other), now)
+        self.assertEqual(now.count("[Proxy Settings]\n"), 1)
+        self.machine.shell(f"printf 'changed=\\\\y\\n' >>{KIOSLAVE}")
+        self.disconnect()
+        self.assertEqual(self.machine.shell(f"cat {KIOSLAVE}"), "[Proxy Settings]\nProxyType=2\n" + other + "changed=\\y\n")
+
+    def test_file_that_is_too_long_for_the_journal_is_left_alone(self):
+        for size in 131072, 131073:
+            text = "[Other]\n" + "x" * (size - 9) + "\n"
+            self.write(text)
+            self.connect()
+            self.assertEqual(self.machine.shell(f"cat {KIOSLAVE}") == text, size == 131073)
+            self.disconnect()
+            self.assertEqual(self.machine.shell(f"cat {KIOSLAVE}"), text)
 
     def test_file_that_did_not_exist_goes(self):
         self.as_user("touch ~/.config/kdeglobals")

@@ -241,6 +241,22 @@ private Q_SLOTS:
         QCOMPARE(system.locate(), PluggableTransports());
     }
 
+    void filesThatAreTooLongYieldNothing()
+    {
+        constexpr qsizetype largest = 16 * 1024 * 1024;
+        for (const qsizetype size : {largest, largest + 1}) {
+            const System system(false);
+            const QString archive = system.browser(QStringLiteral("1/omni.ja"));
+            system.tree.file(
+                archive, zipArchive({{preferencesMember, preferences.leftJustified(size), true}}));
+            QCOMPARE(system.locate().builtin.isEmpty(), size > largest);
+            QVERIFY(QFile::remove(archive));
+            system.tree.file(system.browser(QStringLiteral("1/pt_config.json")),
+                             obfs4Configuration.leftJustified(size));
+            QCOMPARE(system.locate().builtin.isEmpty(), size > largest);
+        }
+    }
+
     void namesTheBundleWithItsVersion_data() { bothSystems(); }
     void namesTheBundleWithItsVersion()
     {

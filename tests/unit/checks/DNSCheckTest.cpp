@@ -12,6 +12,8 @@
 #include <future>
 #include <memory>
 
+#include <malloc.h>
+
 using namespace veldmark;
 using namespace std::chrono_literals;
 
@@ -390,6 +392,19 @@ private Q_SLOTS:
         QVERIFY(!**impossible);
 
         QVERIFY(!DNSCheck::resolveBySystem(QByteArray("localhost\0x", 11)));
+    }
+
+    void aLookupKeepsNoMemory()
+    {
+        const auto inUseAfter = [](int lookups) {
+            for (int i = 0; i < lookups; ++i) {
+                if (!DNSCheck::resolveBySystem("127.0.0.1"))
+                    qFatal("the system cannot read an address");
+            }
+            return ::mallinfo2().uordblks;
+        };
+        const std::size_t before = inUseAfter(10);
+        QVERIFY(inUseAfter(1000) < before + 16'384);
     }
 
     void aLookupThatHangsIsGivenUpAndItsLateAnswerIgnored()

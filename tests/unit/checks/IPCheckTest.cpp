@@ -86,6 +86,28 @@ private Q_SLOTS:
         QVERIFY(!check.error().description().isEmpty());
     }
 
+    void saysWhatIsWrongWithTheAnswer_data()
+    {
+        QTest::addColumn<QByteArray>("body");
+        QTest::addColumn<QString>("start");
+        QTest::newRow("too long") << QByteArray(IPCheck::sizeLimitBytes + 1, ' ')
+                                  << QStringLiteral("The answer is too long.");
+        QTest::newRow("not JSON") << QByteArray("<html>503</html>")
+                                  << QStringLiteral("The answer is no JSON object: ");
+        QTest::newRow("another object")
+            << QByteArray("{}") << QStringLiteral("The answer has no \"IsTor\" and \"IP\".");
+        QTest::newRow("no address") << json("{'IsTor':true,'IP':'x'}")
+                                    << QStringLiteral("The answer's \"IP\" is no address.");
+    }
+    void saysWhatIsWrongWithTheAnswer()
+    {
+        QFETCH(QByteArray, body);
+        QFETCH(QString, start);
+        const auto check = IPCheck::fromJson(body);
+        QVERIFY(!check);
+        QVERIFY2(check.error().detail.startsWith(start), qPrintable(check.error().detail));
+    }
+
     void randomBytesAreNoAnswer()
     {
         QRandomGenerator random(7);

@@ -163,7 +163,7 @@ QVariantMap ResolvedService::link() const
          QVariant::fromValue(QList<LinkDomain>{{QStringLiteral("corp.example"), false},
                                                {QStringLiteral("int.example"), true}})},
         {QStringLiteral("DefaultRoute"), false},
-        {QStringLiteral("ScopesMask"), QVariant::fromValue<qulonglong>(3)},
+        {QStringLiteral("ScopesMask"), QVariant::fromValue<qulonglong>(scopes)},
     };
     if (withPorts)
         map.insert(QStringLiteral("DNSEx"),

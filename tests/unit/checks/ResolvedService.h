@@ -36,6 +36,7 @@ public:
 
     bool isSilent = false;
     bool withPorts = true; // the daemon is new enough for "DNSEx"
+    quint64 scopes = 3;    // the link's "ScopesMask"
     int calls = 0;
 
     void answerLate();        // the calls that it has not answered

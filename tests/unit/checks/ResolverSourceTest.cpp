@@ -195,6 +195,19 @@ private Q_SLOTS:
                       "2001:db8::53 for *.int.example on lo"));
     }
 
+    void aLinkWithoutDNSHasNoServers()
+    {
+        ResolvedService service(m_bus->address());
+        LinuxResolverSource source(*m_clock, write(text("resolv.conf"), "nameserver 127.0.0.53\n"));
+        for (const auto &[scopes, expected] :
+             {std::pair(1U, ofTheDaemon), std::pair(2U, text("192.168.77.1"))}) {
+            service.scopes = scopes; // DNS; names of the local network
+            const Reading reading(source);
+            QTRY_VERIFY(reading.isDone());
+            QCOMPARE(reading.summaries(), expected);
+        }
+    }
+
     void withoutTheServiceTheFileIsAllThereIs()
     {
         const QString path = write(text("resolv.conf"),

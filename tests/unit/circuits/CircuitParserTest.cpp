@@ -354,6 +354,11 @@ private Q_SLOTS:
             << fp.left(8) << QStringList{obfs4} << QString();
         QTest::newRow("no address")
             << fp << QStringList{QStringLiteral("obfs4 ") + fp} << QString();
+        QTest::newRow("words with a colon that are no address")
+            << fp
+            << QStringList{QStringLiteral("url:https :1 203.0.113.1: a=b:1 203.0.113.30:4443 ")
+                           + fp}
+            << QStringLiteral("203.0.113.30");
         QTest::newRow("no lines") << fp << QStringList() << QString();
         QTest::newRow("no fingerprint asked")
             << QString() << QStringList{QStringLiteral("1.2.3.4:1"), QString()} << QString();

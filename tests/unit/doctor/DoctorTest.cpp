@@ -440,6 +440,23 @@ const std::vector<Case> &cases()
          },
          "session", Level::note, "it isn't known whether its kill switch blocks traffic",
          "veldmarkctl restore"},
+        {"a session whose watcher spoke 15 s ago",
+         [](TestMachine &m) {
+             m.write("/var/lib/veldmark/state/active", "strict\n");
+             m.write("/run/veldmark.watch", "standing 0 1795307640\n");
+             m.machine.now = QFileInfo(m.at("/run/veldmark.watch")).lastModified().addSecs(15);
+             m.process(950, "tor", 990);
+         },
+         "session", Level::good, "A session is open: the network is set up", nullptr},
+        {"a session whose watcher spoke 16 s ago",
+         [](TestMachine &m) {
+             m.write("/var/lib/veldmark/state/active", "strict\n");
+             m.write("/run/veldmark.watch", "standing 0 1795307640\n");
+             m.machine.now = QFileInfo(m.at("/run/veldmark.watch")).lastModified().addSecs(16);
+             m.process(950, "tor", 990);
+         },
+         "session", Level::note, "it isn't known whether its kill switch blocks traffic",
+         "veldmarkctl restore"},
         {"a session whose watcher has ended",
          [](TestMachine &m) {
              m.write("/var/lib/veldmark/state/active", "strict\n");

@@ -70,6 +70,7 @@ private Q_SLOTS:
         const auto restore = qScopeGuard([] { QLocale::setDefault(QLocale::system()); });
         QLocale::setDefault(QLocale(QLocale::Turkish));
         QCOMPARE(shownIDs({false, text("dışı")}, log), text("0 1"));
+        QCOMPARE(shownIDs({false, text("DIŞI")}, log), text("0 1"));
     }
 
     void countsProblems()

@@ -111,6 +111,18 @@ private Q_SLOTS:
         QCOMPARE(trouble(log), std::nullopt);
     }
 
+    void wordsAreCutBehindTheirLimit()
+    {
+        for (const qsizetype size : {120, 121}) {
+            const QString words(size, u'x');
+            const auto said = trouble(
+                {u"[notice] Unknown line received by managed proxy (%1)."_s.arg(words)});
+            QVERIFY(said);
+            const QString shown = size == 120 ? words : words.left(119) + u'…';
+            QVERIFY2(said->english().contains(u'"' + shown + u'"'), qPrintable(said->english()));
+        }
+    }
+
     void aProgramsWordsStayOneShortLine()
     {
         const QString words = QString::fromUtf8("\x1b[31mred\tand\xE2\x80\xA8")

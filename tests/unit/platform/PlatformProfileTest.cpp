@@ -108,6 +108,10 @@ private Q_SLOTS:
                                 << "sudo dnf install tor";
         QTest::newRow("rocky") << "ID=\"rocky\"\nID_LIKE=\"rhel centos fedora\""
                                << "sudo dnf install tor";
+        QTest::newRow("centos") << "ID=centos\n"
+                                << "sudo dnf install tor";
+        QTest::newRow("rhel") << "ID=rhel\n"
+                              << "sudo dnf install tor";
         QTest::newRow("manjaro") << "ID=manjaro\nID_LIKE=arch\n"
                                  << "sudo pacman -S tor";
         QTest::newRow("tumbleweed") << "ID='opensuse-tumbleweed'\nID_LIKE='opensuse suse'"

@@ -18,6 +18,7 @@ namespace {
 // names the place.
 const QByteArrayList secrets{"alice",
                              "Aldersey",
+                             "Yul", // as short as a name may be
                              "Wonderbox",
                              "wonderbox.lan",
                              "carol",
@@ -43,7 +44,7 @@ const QByteArray bridge
 
 // A sentence with everything, for each place that words come from.
 const QByteArray sentence
-    = "Tor of alice (Aldersey) on Wonderbox, wonderbox.lan: /home/user/secret-plans/tor, "
+    = "Tor of alice (Aldersey, Yul) on Wonderbox, wonderbox.lan: /home/user/secret-plans/tor, "
       "/home/carol/x; 203.0.113.77:443, [2001:db8:77::5%eth0]:9001, ::ffff:77.1.2.3; "
       "$89ABCDEF89ABCDEF89ABCDEF89ABCDEF89ABCDEF~FastRelay77 cert=Y2VydGlmaWNhdGU5 "
       "front=hidden-front url=https://broker.example/x "
@@ -91,7 +92,7 @@ class ReportMakerTest : public QObject {
     static void fillWithSecrets(const TestMachine &m)
     {
         m.write("/etc/passwd",
-                "alice:x:4242:4242:Alice Aldersey,,,:/home/user:/bin/bash\n"
+                "alice:x:4242:4242:Alice Yul Aldersey,,,:/home/user:/bin/bash\n"
                 "carol:x:4343:4343::/home/carol:/bin/bash\n");
         m.write("/etc/hostname", "wonderbox.lan\n");
         m.write("/var/lib/veldmark/state/active", "strict\n");

@@ -96,6 +96,21 @@ private Q_SLOTS:
         QVERIFY(!place.owner());
     }
 
+    void aNoteIsReadToItsLimit()
+    {
+        Place place;
+        OtherSession other(place.profile);
+        QFile file(place.profile.sessionOwner);
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        const QByteArray note = file.readAll().chopped(5); // without "\nend\n"
+        for (const qsizetype size : {1024, 1025}) {
+            QVERIFY(file.resize(0) && file.seek(0));
+            file.write(QByteArray(size - note.size() - 1, '#') + '\n' + note);
+            QVERIFY(file.flush());
+            QCOMPARE(place.owner().has_value(), size == 1024);
+        }
+    }
+
     void withoutASessionOrANoteThereIsNoOwner()
     {
         Place place;

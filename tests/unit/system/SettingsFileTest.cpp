@@ -94,6 +94,18 @@ private Q_SLOTS:
         row("a whole pair", "a=x\\xd83d\\xde00\n", true);
         row("byte order mark", "\xef\xbb\xbf[General]\na=1\n", false);
     }
+    void whatIsTooLongIsNotRead()
+    {
+        constexpr qint64 largest = 4 * 1024 * 1024;
+        QTemporaryDir folder;
+        QFile file(folder.filePath(QStringLiteral("veldmark.conf")));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write("a=1\n" + QByteArray(largest - 5, ';') + '\n'), largest);
+        QVERIFY(file.flush());
+        QCOMPARE(settingsFileState(file.fileName()), SettingsFileState::Intact);
+        QVERIFY(file.write("\n") == 1 && file.flush());
+        QCOMPARE(settingsFileState(file.fileName()), SettingsFileState::Unreadable);
+    }
     void tellsDamageThatShowsWhenItIsRead()
     {
         QFETCH(QByteArray, content);

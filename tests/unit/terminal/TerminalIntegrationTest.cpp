@@ -183,6 +183,19 @@ private Q_SLOTS:
         QCOMPARE(home.content(bashrc), QByteArray("a\n\n"));
     }
 
+    void itsNotesAreReadToTheirLimit()
+    {
+        const QString notes = QStringLiteral(".veldmark/separators.json");
+        for (const qsizetype size : {65'536, 65'537}) {
+            const Home home;
+            home.file(bashrc, "a\n");
+            QVERIFY(terminal(home).install());
+            home.file(notes, home.content(notes).trimmed().rightJustified(size));
+            QVERIFY(terminal(home).uninstall());
+            QCOMPARE(home.content(bashrc), size == 65'536 ? QByteArray("a\n") : "a\n\n");
+        }
+    }
+
     void removesNothingWhereNothingIs_data() { bothSystems(); }
     void removesNothingWhereNothingIs()
     {
@@ -259,6 +272,27 @@ private Q_SLOTS:
         QCOMPARE(failure(terminal(home).install()),
                  home.path(bashrc) + QStringLiteral(" is not a file."));
         QVERIFY(terminal(home).uninstall());
+    }
+
+    void anObstacleForSshIsNamed()
+    {
+        const Home home;
+        QFile::link(home.path(QStringLiteral("gone/ssh")), home.path(QStringLiteral(".ssh")));
+        QVERIFY2(failure(terminal(home).install())
+                     .startsWith(home.path(QStringLiteral(".ssh"))
+                                 + QStringLiteral(" can't be created: ")),
+                 qPrintable(failure(terminal(home).install())));
+        QVERIFY(QFile::remove(home.path(QStringLiteral(".ssh"))));
+        QVERIFY(terminal(home).install());
+        ::chmod(QFile::encodeName(home.path(sshConfig)).constData(), 0400);
+        const QString readOnly = home.path(sshConfig) + QStringLiteral(" is read-only.");
+        QCOMPARE(failure(terminal(home).uninstall()), readOnly);
+        QVERIFY(home.has(QStringLiteral(".veldmark/ssh_config")));
+        // Nor does it lose what its block names where the program for SOCKS has gone.
+        QFile::remove(home.profile.places.root + QStringLiteral("/usr/bin/nc"));
+        QCOMPARE(failure(terminal(home).install()), readOnly);
+        QVERIFY(home.has(QStringLiteral(".veldmark/ssh_config")));
+        QVERIFY(home.has(QStringLiteral(".veldmark/bin/veldmark-active")));
     }
 
     void theMarkerComesAndGoes_data() { bothSystems(); }

@@ -135,6 +135,20 @@ private Q_SLOTS:
         QVERIFY(QFileInfo(home.path(QStringLiteral("dotfiles/link"))).isSymLink());
     }
 
+    void aLongChainOfLinksIsFollowedToItsLimit()
+    {
+        const Home home;
+        home.file(QStringLiteral("0"), "old");
+        for (int number = 1; number <= 40; ++number)
+            QVERIFY(QFile::link(home.path(QString::number(number - 1)),
+                                home.path(QString::number(number))));
+        const auto file = UserFile::read(home.path(QStringLiteral("39")));
+        QVERIFY(file);
+        QVERIFY(file->replace("new", 0600));
+        QCOMPARE(home.content(QStringLiteral("0")), QByteArray("new"));
+        QVERIFY(!UserFile::read(home.path(QStringLiteral("40"))));
+    }
+
     void whatIsNoFileIsNotRead_data()
     {
         QTest::addColumn<QString>("kind");
