@@ -115,11 +115,11 @@ Result<void, Text> Application::start(bool hidden, bool connectNow)
     QObject::connect(&m_trayHost, &TrayHost::missing, this, &Application::onTrayHostMissing);
     onTrayHostChanged();
     whenReopened([this] { m_windows.open(QStringLiteral("main")); });
-    if (!hidden)
-        whenLaunched([this](bool atLogin) {
-            if (!atLogin)
-                m_windows.open(QStringLiteral("main"));
-        });
+    // Also for a hidden start: a Mac reports a later opening only after this.
+    whenLaunched([this, hidden](bool atLogin) {
+        if (!hidden && !atLogin)
+            m_windows.open(QStringLiteral("main"));
+    });
     if (const auto advice = misplaced()) {
         auto *const box = new QMessageBox(QMessageBox::Warning, tr("Veldmark"),
                                           advice->translated(), QMessageBox::Ok);
