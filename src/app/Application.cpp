@@ -147,7 +147,9 @@ void Application::onTrayHostChanged()
     m_isToldHidden = false;
     if (m_tray || !m_trayHost.isPresent())
         return;
-    m_tray = std::make_unique<Tray>(m_session);
+    const bool isMenuBar = m_real.controller().profile().iconInMenuBar;
+    m_tray = std::make_unique<Tray>(m_session,
+                                    isMenuBar ? Tray::Place::menuBar : Tray::Place::tray);
     QObject::connect(m_tray.get(), &Tray::quitWanted, &m_guard, &QuitGuard::quit);
     QObject::connect(m_tray.get(), &Tray::openWanted, this,
                      [this] { m_windows.open(QStringLiteral("main")); });

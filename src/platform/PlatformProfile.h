@@ -109,6 +109,7 @@ struct PlatformProfile {
     QString ncat;          // used when no netcat supports it; empty: not used
     QString resolverFile;  // /etc/resolv.conf
     bool quitCanBeRefused; // the system asks a program before it ends; other systems only notify it
+    bool iconInMenuBar;    // not in a tray, see Tray
     QString scutil;        // empty where resolvers are not read from it
     QString controlSocket; // local socket on which a running instance takes commands
     // the socket of an instance of the same user that was started with another environment

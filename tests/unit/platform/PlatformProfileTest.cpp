@@ -83,6 +83,7 @@ QString table(const PlatformProfile &p)
              + p.ncat},
         {"resolverFile", p.resolverFile},
         {"quitCanBeRefused", QString::number(p.quitCanBeRefused)},
+        {"iconInMenuBar", QString::number(p.iconInMenuBar)},
         {"scutil", p.scutil},
         {"controlSocket", list({p.controlSocket})},
     };
@@ -192,6 +193,7 @@ sshDirectory: ~/.ssh
 netcat: ; /nowhere/usr/bin/nc, /nowhere/bin/nc, /nowhere/usr/bin/nc.openbsd, /nowhere/bin/nc.openbsd; /nowhere/usr/bin/ncat
 resolverFile: /nowhere/etc/resolv.conf
 quitCanBeRefused: 0
+iconInMenuBar: 0
 scutil: 
 controlSocket: /nowhere/run/user/1000/veldmark/control
 )"));
@@ -236,6 +238,7 @@ sshDirectory: ~/.ssh
 netcat: /nowhere/usr/bin/nc; ; 
 resolverFile: /nowhere/etc/resolv.conf
 quitCanBeRefused: 1
+iconInMenuBar: 1
 scutil: /nowhere/usr/sbin/scutil
 controlSocket: ~/Library/Application Support/Veldmark/run/control
 )"));
