@@ -127,6 +127,9 @@ struct PlatformProfile {
     std::vector<ProgramRoot> transportRoots() const;
 };
 
+// The Tor Project's name of the architecture, in the names of bundle archives, for Qt's.
+QString machineName(const QString &architecture);
+
 // The command that installs tor on the distribution that `osRelease` (the content of
 // /etc/os-release) names by ID or ID_LIKE, or "your package manager".
 QString linuxInstallHint(const QString &osRelease);

@@ -256,6 +256,12 @@ controlSocket: ~/Library/Application Support/Veldmark/run/control
         }
     }
 
+    void appleSiliconHasTheTorProjectsName()
+    {
+        QCOMPARE(machineName(QStringLiteral("arm64")), QStringLiteral("aarch64"));
+        QCOMPARE(machineName(QStringLiteral("x86_64")), QStringLiteral("x86_64"));
+    }
+
     // The kernel's name of the architecture, which on a Mac differs from the Tor Project's.
     void theMachineIsThisOne()
     {
