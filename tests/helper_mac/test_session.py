@@ -410,6 +410,26 @@ class Session(MacTest):
         self.machine.change(pf_skip="")
         self.machine.help("disconnect")
 
+    def test_a_device_that_is_left_out_meanwhile_does_not_open_the_others(self):
+        """Connecting again fails, and what still blocks stays."""
+        self.machine.change(pf_skip="")
+        self.before = self.machine.settings()
+        self.machine.connect()
+        self.machine.end_watcher()
+        self.machine.change(pf_skip="utun0")
+        self.assertEqual(self.machine.verdict("out", device="utun0"), "pass")
+        before = self.machine.settings()
+        for strict in 1, 0:
+            with self.subTest(strict=strict):
+                self.assertOneLine(self.machine.connect(strict=strict, check=False), "leaves out the network device utun0 ")
+                self.assertEqual(self.machine.verdict("out"), "block")
+                self.assertEqual(self.machine.settings(), before)
+        self.machine.change(pf_skip="")
+        self.machine.connect()
+        self.assertEqual(self.machine.verdict("out", device="utun0"), "block")
+        self.machine.help("disconnect")
+        self.assertRestored()
+
     def test_rules_of_dummynet_outlive_a_session(self):
         self.machine.connect()
         state = self.machine.state
