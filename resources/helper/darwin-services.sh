@@ -166,12 +166,16 @@ set_service() {
     [[ $HAS_WEB$HAS_SECURE$HAS_AUTO != *Yes* && $HAS_DISCOVERY != On ]]
 }
 
-# primary_service: prints the name of the service of the default route; nothing without one.
+# primary_service: prints the name of the service of the default route, of IPv6's where IPv4 has none; nothing
+# without one.
 primary_service() {
-  local key value id='' rest
-  while read -r key rest value; do
-    [[ $key != PrimaryService ]] || id=$value
-  done < <(scutil <<<"show State:/Network/Global/IPv4" || true)
+  local family key value id='' rest
+  for family in IPv4 IPv6; do
+    while read -r key rest value; do
+      [[ $key != PrimaryService ]] || id=$value
+    done < <(scutil <<<"show State:/Network/Global/$family" || true)
+    [[ -z $id ]] || break
+  done
   [[ $id =~ ^[0-9A-F-]{36}$ ]] || return 0
   while IFS= read -r value; do
     [[ $value != *"UserDefinedName : "* ]] || printf '%s' "${value#*"UserDefinedName : "}"

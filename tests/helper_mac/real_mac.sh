@@ -148,7 +148,7 @@ empties_proxy() {
   networksetup -getsocksfirewallproxy "$service"
 }
 two_addresses() { dscacheutil -q host -a name one.one.one.one; }
-primary() { scutil <<<"show State:/Network/Global/IPv4"; }
+primary() { scutil <<<"show State:/Network/Global/IPv4"; scutil <<<"show State:/Network/Global/IPv6"; }
 # as_user COMMAND...: in the session and with the environment of the user at the screen, not sudo's.
 as_user() {
   launchctl asuser "$user" sudo -u "#$user" env -u SUDO_UID -u SUDO_GID -u SUDO_USER -u SUDO_COMMAND "$@"

@@ -353,7 +353,8 @@ class Session(MacTest):
 
     def test_the_service_that_traffic_goes_through_has_to_be_set(self):
         words = ["connect", "--tor", TOR, "--hash", HASH, "--strict", "0", "--lan", "0"]
-        for changes in {"primary": BUREAU}, {"primary": "", "services Automatic": BUREAU}:
+        ipv6_alone = {"primary": "", "primary of IPv6": BUREAU}
+        for changes in {"primary": BUREAU}, ipv6_alone, {"primary": "", "services Automatic": BUREAU}:
             for what, says in ("get", "cannot be read"), ("set", "cannot be changed"):
                 with self.subTest(what, **changes):
                     self.machine.reset()

@@ -125,9 +125,10 @@ sub service_id { sprintf '00000000-AAAA-BBBB-CCCC-00000000000%X', $_[0] }
 
 sub scutil {
     my $asked = $input;
-    if ($asked eq "show State:/Network/Global/IPv4\n") {
+    if ($asked =~ m{^show State:/Network/Global/IPv([46])$}) {
+        my $primary = $state{$1 == 4 ? 'primary' : 'primary of IPv6'} // '';
         my @names = map { s/^\*//r } services();
-        my ($place) = grep { $names[$_] eq ($state{primary} // '') } 0 .. $#names;
+        my ($place) = grep { $names[$_] eq $primary } 0 .. $#names;
         print defined $place ? "<dictionary> {\n  PrimaryInterface : en0\n  PrimaryService : " . service_id($place) . "\n  Router : 192.168.1.1\n}\n" : "  No such key\n";
         return;
     }
