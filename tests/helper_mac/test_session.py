@@ -306,15 +306,43 @@ class Session(MacTest):
         self.assertGreaterEqual(len(self.machine.calls("launchctl list veldmark.tor")), 4)  # the first one is before the job starts
 
     def test_a_service_that_cannot_be_set_does_not_end_the_connect(self):
-        for what in "get", "set", "getset":
+        """It stays as it is, also when only a part of it can be set."""
+        of_bureau = lambda settings: {key: value for key, value in settings[0].items() if f"/{BUREAU} " in key}  # noqa: E731
+        for what in "get", "set", "getset", "-setsocksfirewallproxy", "-setproxybypassdomains", "-setwebproxystate":
             with self.subTest(what):
                 self.machine.set_state({f"service Automatic/{BUREAU} refuses": what})
                 before = self.machine.settings()
+                for words in ["connect"], ["connect"], ["fix-dns"]:
+                    if words == ["connect"]:
+                        self.machine.connect()
+                    else:
+                        self.machine.help(*words)
+                    self.assertSwitched("Wi-Fi")
+                    self.assertSwitched("Thunderbolt Bridge")
+                    self.assertEqual(of_bureau(self.machine.settings()), of_bureau(before), words)
+                self.machine.help("disconnect")
+                self.assertEqual(self.machine.settings(), before)
+        self.machine.reset()
+
+    def test_a_service_of_the_session_that_cannot_be_set_again_keeps_what_it_has(self):
+        self.machine.connect()
+        at = f"service Automatic/{BUREAU} "
+        self.machine.set_state({at + "refuses": "-setwebproxystate", at + "web": "Yes\tproxy.example\t3128"})
+        self.machine.help("fix-dns")
+        self.assertEqual(self.machine.state[at + "dns"], "127.0.0.1")
+        self.assertEqual(self.machine.state[at + "socksfirewall"], "Yes\t127.0.0.1\t9050")
+        self.machine.set_state({at + "refuses": ""})
+        self.machine.help("disconnect")
+        self.assertRestored()
+
+    def test_a_proxy_of_this_computer_gets_its_port_back(self):
+        for values in {"socksfirewall": "Yes\t127.0.0.1\t1080"}, {"socksfirewall": "Yes\t127.0.0.1\t1080", "dns": "127.0.0.1"}:
+            with self.subTest(**values):
+                self.machine.reset()
+                self.machine.set_state({f"service Automatic/Wi-Fi {key}": value for key, value in values.items()})
+                before = self.machine.settings()
                 self.machine.connect()
                 self.assertSwitched("Wi-Fi")
-                self.assertSwitched("Thunderbolt Bridge")
-                self.assertTrue(self.machine.state[f"service Automatic/{BUREAU} web"].startswith("Yes"))
-                self.machine.help("fix-dns")
                 self.machine.help("disconnect")
                 self.assertEqual(self.machine.settings(), before)
         self.machine.reset()

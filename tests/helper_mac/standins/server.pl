@@ -212,8 +212,9 @@ sub networksetup {
         finish($state{'old networksetup'} ? 0 : 4);
     }
     my $at = "service $state{location}/$service";
-    # The settings of a VPN's own program or of a company's profile.
-    if (($state{"$at refuses"} // '') =~ ($verb =~ /^-get/ ? qr/get/ : qr/set/)) {
+    # The settings of a VPN's own program or of a company's profile: "get" and "set" are all verbs of that kind, else it is one.
+    my $refuses = $state{"$at refuses"} // '';
+    if ($refuses =~ /^-/ ? $refuses eq $verb : $refuses =~ ($verb =~ /^-get/ ? qr/get/ : qr/set/)) {
         print sentence('refused');
         finish(14);
     }
