@@ -64,10 +64,12 @@ sub save {
 sub finish { die { status => $_[0] } }
 sub become_program { die { run => [@_] } }
 sub refuse { print STDERR "$name: illegal use: @_\n"; finish(64) }
-# The call that writes to a Mac's disk durably; this system's perl does the rest (program.c).
+# The call that writes to a Mac's disk durably; this system's perl does the rest (program.c). /mac/synced: a line per such call, the
+# path, and whether the new file still has its own name.
 sub fullsync {
     my ($option, $text, @words) = @_;
-    $text =~ s/\bfcntl\(\$file, 51, 0\)/fcntl(\$file, 1, 0)/ or refuse(@_);
+    my $note = 'open(my $synced, ">>", "/mac/synced"); print $synced "$path ", (-e $new ? "before" : "after"), "\n";';
+    $text =~ s/\bfcntl\(\$file, 51, 0\)/do { $note fcntl(\$file, 1, 0) }/ or refuse(@_);
     become_program('/mac/gnu/perl', 'perl', $option, $text, @words);
 }
 sub gnu { become_program("/mac/gnu/$name", $name, @_) }
