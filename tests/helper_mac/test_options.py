@@ -104,6 +104,7 @@ class Options(MacTest):
             failed,
             [
                 "FAILED  the network is there",
+                "FAILED  the user reaches the network",
                 lookup,
                 lookup,
                 "FAILED  Tor's account gets past the kill switch",
@@ -198,14 +199,16 @@ class Options(MacTest):
                 r"-> status 0: nothing of ours: [4-7] bytes left in 5 s\|"
                 r"nscurl: status 0, [1-4] bytes left, \|networkQuality: status 3, [01] bytes left, slow \|$",
             )
-        self.assertEqual(len([line for line in table if line.startswith("answer ") and line.endswith("-> y")]), 14, done.stdout)
+        self.assertEqual(len([line for line in table if line.startswith("answer ") and line.endswith("-> y")]), 15, done.stdout)
         failed = [line for line in table if line.startswith("FAILED")]
         self.assertEqual(failed, ["FAILED  an application without Tor"], done.stdout + done.stderr)
         state = self.machine.state
         tor, bypass = state["record /Users/_veldmark UniqueID"], state["record /Groups/_veldmark_bypass PrimaryGroupID"]
         ids = self.machine.read("/run/curl").splitlines()
         group = state["record /Users/_veldmark PrimaryGroupID"]
-        self.assertEqual(ids, ["0 0", f"{tor} {group}", f"{USER_UID} {bypass}", "0 0", f"{USER_UID} 20", "0 0", "0 0", "0 0"])
+        self.assertEqual(
+            ids, ["0 0", f"{USER_UID} 20", f"{tor} {group}", f"{USER_UID} {bypass}", "0 0", f"{USER_UID} 20", "0 0", "0 0", "0 0"]
+        )
         self.assertEqual(self.machine.run("pgrep", "-f", "sleep 1000", check=False).stdout, "")
         self.machine.shell(
             "/mac/gnu/nft delete table ip pf; rm /usr/local/bin/curl;"
