@@ -243,14 +243,51 @@ class Options(MacTest):
         self.machine.shell("rm /usr/local/bin/tor")
         self.assertRestored()
 
+    def test_the_check_for_a_real_mac_puts_back_what_it_was_stopped_in_the_midst_of(self):
+        """A program that has done its work holds the check until it has been told to stop."""
+        as_before = None, "No\t\t0"
+        for program, words, changed in (
+            ("networksetup", "'-setsocksfirewallproxy '*", "service Automatic/Wi-Fi socksfirewall"),
+            ("launchctl", "'bootstrap system '*/probe.plist", "job veldmark.probe"),
+            ("networksetup", "'-setv6off '*", "service Automatic/Wi-Fi ipv6"),
+        ):
+            with self.subTest(words):
+                self.place_check()
+                self.machine.shell("rm -f /run/held /run/goes-on")
+                self.machine.write(
+                    f"/usr/local/bin/{program}",
+                    f'#!/bin/sh\n/usr/bin/{program} "$@" || exit\n'
+                    f'case "$*" in {words}) echo >/run/held; until [ -e /run/goes-on ]; do sleep 0.02; done ;; esac\n',
+                )
+                self.machine.shell(f"chmod 755 /usr/local/bin/{program}")
+                check = ["/bin/bash", "/mac/real_mac.sh", "--change-this-mac", self.machine.helper]
+                running = self.machine.start(*check, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+                while not os.path.exists(self.machine.root + "/run/held"):
+                    self.assertIsNone(running.poll())
+                    time.sleep(0.02)
+                self.assertNotIn(self.machine.state.get(changed), as_before)
+                self.machine.shell("kill $(pgrep -f '^/bin/bash /mac/real_mac.sh'); touch /run/goes-on")
+                rest = running.communicate()[0]
+                self.assertEqual(running.returncode, 130, rest)
+                self.assertIn("ok      everything is as before the first question", rest)
+                # The job ends in its own time.
+                self.machine.shell("for n in {1..50}; do launchctl list veldmark.probe || break; sleep 0.1; done")
+                self.machine.shell(
+                    f"rm /usr/local/bin/tor /usr/local/bin/{program}; launchctl bootout system/veldmark.probe || true"
+                )
+                self.assertIn(self.machine.state.get(changed), as_before)
+                self.assertEqual(self.machine.settings()[1], self.before[1])
+
     def test_stand_ins_refuse_what_a_macs_programs_refuse(self):
         self.machine.shell("cd /run && echo x >f && mkdir -p d")
         for good, wrong in {
             "chmod -- 0600 f": "chmod 0600 -- f",
             "cat -- f": "cat -A f",
+            "chown -- 0:0 f": "chown --from=0 0:0 f",
             "cp -p f g": "cp --preserve f g",
             "date -u +%s": "date -d @0",
             "date +%s": "date +%N",
+            "dirname -- /run/f": "dirname -z /run/f",
             "env -i PATH=/usr/bin cat f": "env -C / cat f",
             "grep -qxF -- x f": "grep -P x f",
             "head -c 1 -- f": "head -c -1 f",
@@ -263,10 +300,14 @@ class Options(MacTest):
             "rm -f -- g": "rm --one-file-system g",
             "rmdir -- e": "rmdir --ignore-fail-on-non-empty e",
             "sed -n p f": "sed -i s/x/y/ f",
+            "shasum -a 256 f": "sha256sum f",
             "sleep 0.1": "sleep 1s",
+            "sort -u f": "sort --parallel=1 f",
             "stat -f '%Lp %u %HT' -- /run/f": "stat -c %a /run/f",
             "tail -n 1 f": "tail --pid=1 f",
             "touch f": "touch --date=now f",
+            "tr -d x <f": "tr -t x y <f",
+            "wc -l f": "wc --bytes f",
             "xargs -n 1 echo <f": "xargs -d, echo <f",
         }.items():
             with self.subTest(good=good, wrong=wrong):
