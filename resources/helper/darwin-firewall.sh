@@ -154,11 +154,12 @@ enable_firewall() {
 kill_states() { pfctl -q -F states; }
 
 # kill_switch_stands: queries the kernel; the marker alone may be from before a restart of the computer. Status 2:
-# the kernel gave no answer.
+# the kernel gave no answer. 3: it stands, but the main rules leave out a device.
 kill_switch_stands() {
   local info main rules skipped
   info=$(pfctl -s info) && main=$(pfctl -s rules) && rules=$(pfctl -a "$ANCHOR" -s rules) && skipped=$(skipped_devices) || return 2
-  [[ -z $skipped && $info == *"Status: Enabled"* && $main == *"anchor \"$ANCHOR\""* && $rules == *"block return out quick all"* ]]
+  [[ $info == *"Status: Enabled"* && $main == *"anchor \"$ANCHOR\""* && $rules == *"block return out quick all"* ]] || return 1
+  [[ -z $skipped ]] || return 3
 }
 
 # put_firewall MODE: marker, rules, reference, pf itself, old connections, in this order. The rules' text is saved
@@ -179,11 +180,16 @@ put_firewall() {
   release_rules
 }
 
-# put_rules TEXT: the caller holds the lock on the rules.
-put_rules() {
+# need_devices: ends the run where the main rules leave out a device.
+need_devices() {
   local skipped
   skipped=$(skipped_devices) || die "The firewall's devices cannot be read."
   [[ -z $skipped ]] || die "The firewall leaves out the network device ${skipped%% *} (\"set skip\" in /etc/pf.conf), where nothing would be blocked."
+}
+
+# put_rules TEXT: the caller holds the lock on the rules.
+put_rules() {
+  need_devices
   load_rules "$1"
   put_reference
   enable_firewall

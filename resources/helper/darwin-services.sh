@@ -109,9 +109,11 @@ is_ours() {
 
 # note_service NAME LOCATION: writes a journal entry of the settings just read, unless the service has one. Without
 # an entry, the helper's own settings are left from a lost session; then the defaults of a new service are
-# recorded.
+# recorded. Sets NEW_ENTRY to the entry's name when it is new.
+NEW_ENTRY=''
 note_service() {
   local number name line lines
+  NEW_ENTRY=''
   for ((number = 0; number < MAX_SERVICES; number++)); do
     name=$SERVICE_ENTRY-$number
     journal_has "$name" || break
@@ -125,7 +127,7 @@ note_service() {
     "secure $HAS_SECURE" "auto $HAS_AUTO" "discovery $HAS_DISCOVERY")
   for line in ${HAS_DNS[@]+"${HAS_DNS[@]}"}; do lines[${#lines[@]}]="dns $line"; done
   for line in ${HAS_BYPASS[@]+"${HAS_BYPASS[@]}"}; do lines[${#lines[@]}]="bypass $line"; done
-  journal_put "$name" "${lines[@]}"
+  journal_put "$name" "${lines[@]}" && NEW_ENTRY=$name
 }
 
 # The user's own exceptions would bypass Tor, so only this computer itself is excepted and, with LAN 1, the local
@@ -166,12 +168,16 @@ set_service() {
     [[ $HAS_WEB$HAS_SECURE$HAS_AUTO != *Yes* && $HAS_DISCOVERY != On ]]
 }
 
-# primary_service: prints the name of the service of the default route; nothing without one.
+# primary_service: prints the name of the service of the default route, of IPv6's where IPv4 has none; nothing
+# without one.
 primary_service() {
-  local key value id='' rest
-  while read -r key rest value; do
-    [[ $key != PrimaryService ]] || id=$value
-  done < <(scutil <<<"show State:/Network/Global/IPv4" || true)
+  local family key value id='' rest
+  for family in IPv4 IPv6; do
+    while read -r key rest value; do
+      [[ $key != PrimaryService ]] || id=$value
+    done < <(scutil <<<"show State:/Network/Global/$family" || true)
+    [[ -z $id ]] || break
+  done
   [[ $id =~ ^[0-9A-F-]{36}$ ]] || return 0
   while IFS= read -r value; do
     [[ $value != *"UserDefinedName : "* ]] || printf '%s' "${value#*"UserDefinedName : "}"
@@ -179,7 +185,7 @@ primary_service() {
 }
 
 # put_services LAN: records and switches every active service, also a new one. A service that cannot be read or
-# set, such as a VPN's or a managed one, stays unchanged, unless it carries the traffic now, or there is no other.
+# set, such as a VPN's or a managed one, stays as it was, unless it carries the traffic now, or there is no other.
 put_services() {
   local name location reason='' primary put=0
   choose_bypass "$1"
@@ -187,6 +193,7 @@ put_services() {
   read_services active || die "The network settings cannot be read."
   primary=$(primary_service)
   for name in ${SERVICES[@]+"${SERVICES[@]}"}; do
+    NEW_ENTRY=''
     if ! read_service "$name"; then
       reason="The settings of the network service $name cannot be read."
     else
@@ -198,6 +205,8 @@ put_services() {
       reason="The settings of the network service $name cannot be changed."
     fi
     [[ $name != "$primary" ]] || die "$reason"
+    # A part of it may have been set. What cannot be put back now is put back at the end of the session.
+    [[ -z $NEW_ENTRY ]] || ! journal_read "$NEW_ENTRY" || ! restore_service "$name" || journal_drop "$NEW_ENTRY"
   done
   [[ $put == 1 || -z $reason ]] || die "$reason"
   flush_names
@@ -211,20 +220,20 @@ flush_names() {
 
 on_off() { if [[ $1 == Yes || $1 == On ]]; then printf on; else printf off; fi; }
 
-# is_as_noted: whether the settings just read equal the current entry. Uses the caller's dns, bypass, host and
+# is_as_noted: whether the settings just read equal the current entry. Uses the caller's dns, bypass, host, port and
 # state. An empty host that cannot be made empty again has no effect while the proxy is off.
 is_as_noted() {
-  [[ $HAS_SOCKS == "$state" && (-z $host || $HAS_HOST == "$host") ]] &&
+  [[ $HAS_SOCKS == "$state" && (-z $host || ($HAS_HOST == "$host" && (-z $port || $HAS_PORT == "$port"))) ]] &&
     [[ ${HAS_DNS[*]-} == "${dns[*]-}" && ${HAS_BYPASS[*]-} == "${bypass[*]-}" ]] &&
     [[ $HAS_WEB == "$(journal_value web)" && $HAS_SECURE == "$(journal_value secure)" ]] &&
     [[ $HAS_AUTO == "$(journal_value auto)" && $HAS_DISCOVERY == "$(journal_value discovery)" ]]
 }
 
-# restore_service NAME: restores the settings of the current entry. Writes nothing to a service that never got the
-# helper's settings.
+# restore_service NAME: restores the settings of the current entry. Writes only what differs: a service may refuse
+# the rest.
 restore_service() {
   local -a dns bypass
-  local line host port state
+  local line host port state had_dns had_bypass
   dns=() bypass=()
   for line in ${JOURNAL_LINES[@]+"${JOURNAL_LINES[@]}"}; do
     case $line in
@@ -237,22 +246,25 @@ restore_service() {
   read_service "$1" || return 1
   ! is_as_noted || return 0
   CHANGED=''
+  had_dns=${dns[*]-} had_bypass=${bypass[*]-}
   ((${#dns[@]} > 0)) || dns=(Empty)
   ((${#bypass[@]} > 0)) || bypass=(Empty)
-  net bypass -setproxybypassdomains "$1" "${bypass[@]}" || return 1
-  if [[ -n $host ]]; then
-    net socks -setsocksfirewallproxy "$1" "$host" "$port" off || return 1
-  else
-    net socks -setsocksfirewallproxy "$1" '' '' off || true   # some versions may not take an empty host
+  [[ ${HAS_BYPASS[*]-} == "$had_bypass" ]] || net bypass -setproxybypassdomains "$1" "${bypass[@]}" || return 1
+  if ! [[ $HAS_SOCKS == "$state" && $HAS_HOST == "$host" && (-z $port || $HAS_PORT == "$port") ]]; then
+    if [[ -n $host ]]; then
+      net socks -setsocksfirewallproxy "$1" "$host" "$port" off || return 1
+    else
+      net socks -setsocksfirewallproxy "$1" '' '' off || true   # some versions may not take an empty host
+    fi
+    net socks -setsocksfirewallproxystate "$1" "$(on_off "$state")" || return 1
   fi
-  net socks -setsocksfirewallproxystate "$1" "$(on_off "$state")" || return 1
   [[ $HAS_WEB == "$(journal_value web)" ]] || net web -setwebproxystate "$1" "$(on_off "$(journal_value web)")" || return 1
   [[ $HAS_SECURE == "$(journal_value secure)" ]] ||
     net secure -setsecurewebproxystate "$1" "$(on_off "$(journal_value secure)")" || return 1
   [[ $HAS_AUTO == "$(journal_value auto)" ]] || net auto -setautoproxystate "$1" "$(on_off "$(journal_value auto)")" || return 1
   [[ $HAS_DISCOVERY == "$(journal_value discovery)" ]] ||
     net discovery -setproxyautodiscovery "$1" "$(on_off "$(journal_value discovery)")" || return 1
-  net dns -setdnsservers "$1" "${dns[@]}" || return 1
+  [[ ${HAS_DNS[*]-} == "$had_dns" ]] || net dns -setdnsservers "$1" "${dns[@]}" || return 1
   [[ ${dns[0]} != Empty ]] || dns=()
   [[ ${bypass[0]} != Empty ]] || bypass=()
   read_service "$1" "$CHANGED" && is_as_noted

@@ -20,6 +20,8 @@ darwin_connect() {
   if [[ $former == strict ]]; then
     kill_switch_stands || status=$?
     ((status != 1)) || former=''
+    # Nothing is changed then: the other devices stay blocked.
+    ((status != 3)) || need_devices
   fi
   if [[ $former == strict ]]; then
     guard_session

@@ -21,7 +21,7 @@ void comeToFront();
 // Calls `then` once the system has said why it started the program, which needs a running event
 // loop. `atLogin` is true when the program was started as a login item.
 void whenLaunched(std::function<void(bool atLogin)> then);
-// Calls `then` whenever the user opens the running program again.
+// Calls `then` whenever the user opens the running program again. Needs whenLaunched().
 void whenReopened(std::function<void()> then);
 
 // Calls `then` when the system asks the program to end: at logout, at shutdown, and for Quit in its

@@ -115,11 +115,11 @@ Result<void, Text> Application::start(bool hidden, bool connectNow)
     QObject::connect(&m_trayHost, &TrayHost::missing, this, &Application::onTrayHostMissing);
     onTrayHostChanged();
     whenReopened([this] { m_windows.open(QStringLiteral("main")); });
-    if (!hidden)
-        whenLaunched([this](bool atLogin) {
-            if (!atLogin)
-                m_windows.open(QStringLiteral("main"));
-        });
+    // Also for a hidden start: a Mac reports a later opening only after this.
+    whenLaunched([this, hidden](bool atLogin) {
+        if (!hidden && !atLogin)
+            m_windows.open(QStringLiteral("main"));
+    });
     if (const auto advice = misplaced()) {
         auto *const box = new QMessageBox(QMessageBox::Warning, tr("Veldmark"),
                                           advice->translated(), QMessageBox::Ok);
@@ -147,7 +147,9 @@ void Application::onTrayHostChanged()
     m_isToldHidden = false;
     if (m_tray || !m_trayHost.isPresent())
         return;
-    m_tray = std::make_unique<Tray>(m_session);
+    const bool isMenuBar = m_real.controller().profile().iconInMenuBar;
+    m_tray = std::make_unique<Tray>(m_session,
+                                    isMenuBar ? Tray::Place::menuBar : Tray::Place::tray);
     QObject::connect(m_tray.get(), &Tray::quitWanted, &m_guard, &QuitGuard::quit);
     QObject::connect(m_tray.get(), &Tray::openWanted, this,
                      [this] { m_windows.open(QStringLiteral("main")); });

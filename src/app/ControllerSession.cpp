@@ -1,5 +1,6 @@
 #include "app/ControllerSession.h"
 
+#include "app/Activation.h"
 #include "app/LoginItem.h"
 #include "controller/PublishedState.h"
 #include "controller/SettingRules.h"
@@ -319,7 +320,9 @@ void ControllerSession::removeTerminalIntegration()
 
 void ControllerSession::setOpenAtLogin(bool on)
 {
-    if (const auto done = LoginItem(profile()).set(on); !done)
+    const auto advice = on ? misplaced() : std::nullopt;
+    const auto done = advice ? Result<void, Text>(Failure(*advice)) : LoginItem(profile()).set(on);
+    if (!done)
         m_controller.showProblem(
             Text::tr("Couldn't change the login-item setting: %1").arg(done.error()));
     schedule();

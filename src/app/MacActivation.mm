@@ -48,6 +48,23 @@
 
 @end
 
+@interface VeldmarkNotices : NSObject <UNUserNotificationCenterDelegate>
+@end
+
+@implementation VeldmarkNotices
+
+// Without this the system shows no notification while a window of the program is in front.
+- (void)userNotificationCenter:(UNUserNotificationCenter *)center
+       willPresentNotification:(UNNotification *)notification
+         withCompletionHandler:(void (^)(UNNotificationPresentationOptions))handler
+{
+    (void)center;
+    (void)notification;
+    handler(UNNotificationPresentationOptionBanner);
+}
+
+@end
+
 namespace veldmark {
 
 namespace {
@@ -164,6 +181,8 @@ void showNotice(const QString &title, const QString &text)
     @autoreleasepool {
         UNUserNotificationCenter *const center =
             [UNUserNotificationCenter currentNotificationCenter];
+        static VeldmarkNotices *const notices = [[VeldmarkNotices alloc] init];
+        [center setDelegate:notices];
         UNMutableNotificationContent *const content = [[[UNMutableNotificationContent alloc] init]
             autorelease];
         [content setTitle:[NSString stringWithUTF8String:title.toUtf8().constData()]];

@@ -1,4 +1,3 @@
-#include "app/Activation.h"
 #include "app/LoginItem.h"
 
 #import <ServiceManagement/ServiceManagement.h>
@@ -20,8 +19,6 @@ Result<void, Text> LoginItem::set(bool on) const
         SMAppService *const service = [SMAppService mainAppService];
         if (on == isSet())
             return {};
-        if (const auto advice = misplaced(); on && advice)
-            return Failure(*advice);
         NSError *error = nil;
         const BOOL done = on ? [service registerAndReturnError:&error]
                              : [service unregisterAndReturnError:&error];

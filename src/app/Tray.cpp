@@ -11,15 +11,6 @@
 
 namespace veldmark {
 
-Tray::Place Tray::place()
-{
-#ifdef Q_OS_MACOS
-    return Place::menuBar;
-#else
-    return Place::tray;
-#endif
-}
-
 Tray::Tray(Session &session, Place where) : m_place(where), m_panel(session)
 {
     QObject::connect(m_menu.addAction(tr("Open Veldmark")), &QAction::triggered, this,

@@ -18,10 +18,9 @@ public:
     // Where the icon is: in a tray, or in the menu bar of a Mac. The menu bar colours the icon
     // itself and opens the menu with every click.
     enum class Place { tray, menuBar };
-    static Place place();
 
     // `session` must outlive the tray. Construct it only after TrayHost reports a host.
-    explicit Tray(Session &session, Place where = place());
+    explicit Tray(Session &session, Place where = Place::tray);
 
     QRect anchor() const; // the icon's place, as far as the desktop tells it
 

@@ -128,6 +128,7 @@ PlatformProfile PlatformProfile::linux(const Places &places)
     profile.terminalMaker = QStringLiteral("Veldmark");
     profile.givesBackProxies = true;
     profile.quitCanBeRefused = false;
+    profile.iconInMenuBar = false;
     profile.netcatCandidates = {at("/usr/bin/nc"), at("/bin/nc"), at("/usr/bin/nc.openbsd"),
                                 at("/bin/nc.openbsd")};
     profile.ncat = at("/usr/bin/ncat");

@@ -58,6 +58,7 @@ PlatformProfile PlatformProfile::macos(const Places &places)
     profile.terminalMaker = QStringLiteral("Veldmark.app");
     profile.givesBackProxies = false; // the file never did
     profile.quitCanBeRefused = true;
+    profile.iconInMenuBar = true;
     profile.netcat = at("/usr/bin/nc");
     profile.sshDirectory = places.home + QStringLiteral("/.ssh");
     profile.resolverFile = at("/etc/resolv.conf");

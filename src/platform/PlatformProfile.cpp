@@ -21,11 +21,6 @@ QString absoluteFromEnvironment(const char *variable, const QString &fallback)
     return value.startsWith(u'/') ? value : fallback;
 }
 
-QString machineName()
-{
-    const QString architecture = QSysInfo::currentCpuArchitecture();
-    return architecture == QLatin1String("arm64") ? QStringLiteral("aarch64") : architecture;
-}
 // The path; for root, only where no other user can change the folder or the nearest one that is
 // there: sudo may keep the variables of the user who called it.
 template <typename Usual> QString trusted(const QString &path, Usual usual)
@@ -60,6 +55,11 @@ QString ownRuntimeDirectory()
 
 } // namespace
 
+QString machineName(const QString &architecture)
+{
+    return architecture == QLatin1String("arm64") ? QStringLiteral("aarch64") : architecture;
+}
+
 Places Places::fromEnvironment()
 {
     Places places;
@@ -77,7 +77,7 @@ Places Places::fromEnvironment()
     places.runtimeDirectory = ownRuntimeDirectory();
 #endif
     places.applicationDirectory = QCoreApplication::applicationDirPath();
-    places.machine = machineName();
+    places.machine = machineName(QSysInfo::currentCpuArchitecture());
     return places;
 }
 

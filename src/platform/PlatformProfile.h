@@ -109,6 +109,7 @@ struct PlatformProfile {
     QString ncat;          // used when no netcat supports it; empty: not used
     QString resolverFile;  // /etc/resolv.conf
     bool quitCanBeRefused; // the system asks a program before it ends; other systems only notify it
+    bool iconInMenuBar;    // not in a tray, see Tray
     QString scutil;        // empty where resolvers are not read from it
     QString controlSocket; // local socket on which a running instance takes commands
     // the socket of an instance of the same user that was started with another environment
@@ -125,6 +126,9 @@ struct PlatformProfile {
     // The bundle's label has no version.
     std::vector<ProgramRoot> transportRoots() const;
 };
+
+// The Tor Project's name of the architecture, in the names of bundle archives, for Qt's.
+QString machineName(const QString &architecture);
 
 // The command that installs tor on the distribution that `osRelease` (the content of
 // /etc/os-release) names by ID or ID_LIKE, or "your package manager".

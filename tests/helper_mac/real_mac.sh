@@ -148,7 +148,7 @@ empties_proxy() {
   networksetup -getsocksfirewallproxy "$service"
 }
 two_addresses() { dscacheutil -q host -a name one.one.one.one; }
-primary() { scutil <<<"show State:/Network/Global/IPv4"; }
+primary() { scutil <<<"show State:/Network/Global/IPv4"; scutil <<<"show State:/Network/Global/IPv6"; }
 # as_user COMMAND...: in the session and with the environment of the user at the screen, not sudo's.
 as_user() {
   launchctl asuser "$user" sudo -u "#$user" env -u SUDO_UID -u SUDO_GID -u SUDO_USER -u SUDO_COMMAND "$@"
@@ -372,6 +372,7 @@ fi
 check "the questions have changed nothing" as_before first
 snapshot >"$work/before"   # what they have changed is no fault of a session's
 check "the network is there" reaches_out
+check "the user reaches the network" as_ids "$user" 20 "${reach[@]}"
 check "Tor's program is approved" approve_tor
 for strict in 0 1; do
   [[ $strict == 0 ]] || begin_flows
@@ -435,9 +436,10 @@ if [[ -n $person ]]; then
     look "Is the symbol black on a light menu bar and white on a dark one?" "whether the system colours it"
     look "Close its window and open it from Finder again: does the window come, in front of others? (other rules from macOS 14 on)" "whether our handler of the reopen event replaces Qt's, and whether the system lets it come to the front"
     look "Connect in strict mode, and let Veldmark open $person without Tor. Can the application that was opened use camera and microphone?" "whether the launcher has to disclaim responsibility for what it starts"
+    look "Open $person first, then let Veldmark open it without Tor: does it ask it to quit?" "whether a running application is known by its path"
     look "In whose name did the system ask for camera and microphone?" "whose reasons the system shows, and whose permission it keeps" "a name, or none"
     look "Close all of its windows, stay connected, and wait a minute: what does Activity Monitor show for it in the column App Nap?" "whether App Nap is held off" "Yes/No"
-    look "End Tor by \"sudo launchctl bootout system/veldmark.tor\": did the system ask about notifications, and does one come?" "whether an unsigned bundle may show any"
+    look "End Tor by \"sudo launchctl bootout system/veldmark.tor\": did the system ask about notifications, and does one come, also while a window of Veldmark is in front?" "whether an unsigned bundle may show any, and whether our delegate is asked"
     look "Download the bundle anew, and open it in Downloads: does it say to move it first, and refuse \"start at login\"?" "whether the path of a translocated bundle is known by its name"
     ask "where the settings are" "whether they are in the bundle's user defaults" sudo -u "#$user" defaults read com.veldmark.veldmark
     echo "Leave it running, and go on as a second user by fast user switching, so that this window stays."

@@ -104,6 +104,7 @@ class Options(MacTest):
             failed,
             [
                 "FAILED  the network is there",
+                "FAILED  the user reaches the network",
                 lookup,
                 lookup,
                 "FAILED  Tor's account gets past the kill switch",
@@ -198,14 +199,16 @@ class Options(MacTest):
                 r"-> status 0: nothing of ours: [4-7] bytes left in 5 s\|"
                 r"nscurl: status 0, [1-4] bytes left, \|networkQuality: status 3, [01] bytes left, slow \|$",
             )
-        self.assertEqual(len([line for line in table if line.startswith("answer ") and line.endswith("-> y")]), 14, done.stdout)
+        self.assertEqual(len([line for line in table if line.startswith("answer ") and line.endswith("-> y")]), 15, done.stdout)
         failed = [line for line in table if line.startswith("FAILED")]
         self.assertEqual(failed, ["FAILED  an application without Tor"], done.stdout + done.stderr)
         state = self.machine.state
         tor, bypass = state["record /Users/_veldmark UniqueID"], state["record /Groups/_veldmark_bypass PrimaryGroupID"]
         ids = self.machine.read("/run/curl").splitlines()
         group = state["record /Users/_veldmark PrimaryGroupID"]
-        self.assertEqual(ids, ["0 0", f"{tor} {group}", f"{USER_UID} {bypass}", "0 0", f"{USER_UID} 20", "0 0", "0 0", "0 0"])
+        self.assertEqual(
+            ids, ["0 0", f"{USER_UID} 20", f"{tor} {group}", f"{USER_UID} {bypass}", "0 0", f"{USER_UID} 20", "0 0", "0 0", "0 0"]
+        )
         self.assertEqual(self.machine.run("pgrep", "-f", "sleep 1000", check=False).stdout, "")
         self.machine.shell(
             "/mac/gnu/nft delete table ip pf; rm /usr/local/bin/curl;"
@@ -240,14 +243,51 @@ class Options(MacTest):
         self.machine.shell("rm /usr/local/bin/tor")
         self.assertRestored()
 
+    def test_the_check_for_a_real_mac_puts_back_what_it_was_stopped_in_the_midst_of(self):
+        """A program that has done its work holds the check until it has been told to stop."""
+        as_before = None, "No\t\t0"
+        for program, words, changed in (
+            ("networksetup", "'-setsocksfirewallproxy '*", "service Automatic/Wi-Fi socksfirewall"),
+            ("launchctl", "'bootstrap system '*/probe.plist", "job veldmark.probe"),
+            ("networksetup", "'-setv6off '*", "service Automatic/Wi-Fi ipv6"),
+        ):
+            with self.subTest(words):
+                self.place_check()
+                self.machine.shell("rm -f /run/held /run/goes-on")
+                self.machine.write(
+                    f"/usr/local/bin/{program}",
+                    f'#!/bin/sh\n/usr/bin/{program} "$@" || exit\n'
+                    f'case "$*" in {words}) echo >/run/held; until [ -e /run/goes-on ]; do sleep 0.02; done ;; esac\n',
+                )
+                self.machine.shell(f"chmod 755 /usr/local/bin/{program}")
+                check = ["/bin/bash", "/mac/real_mac.sh", "--change-this-mac", self.machine.helper]
+                running = self.machine.start(*check, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+                while not os.path.exists(self.machine.root + "/run/held"):
+                    self.assertIsNone(running.poll())
+                    time.sleep(0.02)
+                self.assertNotIn(self.machine.state.get(changed), as_before)
+                self.machine.shell("kill $(pgrep -f '^/bin/bash /mac/real_mac.sh'); touch /run/goes-on")
+                rest = running.communicate()[0]
+                self.assertEqual(running.returncode, 130, rest)
+                self.assertIn("ok      everything is as before the first question", rest)
+                # The job ends in its own time.
+                self.machine.shell("for n in {1..50}; do launchctl list veldmark.probe || break; sleep 0.1; done")
+                self.machine.shell(
+                    f"rm /usr/local/bin/tor /usr/local/bin/{program}; launchctl bootout system/veldmark.probe || true"
+                )
+                self.assertIn(self.machine.state.get(changed), as_before)
+                self.assertEqual(self.machine.settings()[1], self.before[1])
+
     def test_stand_ins_refuse_what_a_macs_programs_refuse(self):
         self.machine.shell("cd /run && echo x >f && mkdir -p d")
         for good, wrong in {
             "chmod -- 0600 f": "chmod 0600 -- f",
             "cat -- f": "cat -A f",
+            "chown -- 0:0 f": "chown --from=0 0:0 f",
             "cp -p f g": "cp --preserve f g",
             "date -u +%s": "date -d @0",
             "date +%s": "date +%N",
+            "dirname -- /run/f": "dirname -z /run/f",
             "env -i PATH=/usr/bin cat f": "env -C / cat f",
             "grep -qxF -- x f": "grep -P x f",
             "head -c 1 -- f": "head -c -1 f",
@@ -260,10 +300,14 @@ class Options(MacTest):
             "rm -f -- g": "rm --one-file-system g",
             "rmdir -- e": "rmdir --ignore-fail-on-non-empty e",
             "sed -n p f": "sed -i s/x/y/ f",
+            "shasum -a 256 f": "sha256sum f",
             "sleep 0.1": "sleep 1s",
+            "sort -u f": "sort --parallel=1 f",
             "stat -f '%Lp %u %HT' -- /run/f": "stat -c %a /run/f",
             "tail -n 1 f": "tail --pid=1 f",
             "touch f": "touch --date=now f",
+            "tr -d x <f": "tr -t x y <f",
+            "wc -l f": "wc --bytes f",
             "xargs -n 1 echo <f": "xargs -d, echo <f",
         }.items():
             with self.subTest(good=good, wrong=wrong):

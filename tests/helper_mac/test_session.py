@@ -8,6 +8,7 @@ from mac import HASH, TOR, USER_UID, MacTest
 
 JOURNAL = "/Library/Application Support/Veldmark/journal/"
 MARKER = "/Library/Application Support/Veldmark/state/active"
+NOTE = "/private/var/run/veldmark.watch"
 BUREAU = "Büro: USB 10/100 “LAN”"
 # Asks the name server for a kind of record (TXT) that Tor answers without a network, "not implemented" (4), and greets the proxy.
 ASK = """
@@ -306,15 +307,43 @@ class Session(MacTest):
         self.assertGreaterEqual(len(self.machine.calls("launchctl list veldmark.tor")), 4)  # the first one is before the job starts
 
     def test_a_service_that_cannot_be_set_does_not_end_the_connect(self):
-        for what in "get", "set", "getset":
+        """It stays as it is, also when only a part of it can be set."""
+        of_bureau = lambda settings: {key: value for key, value in settings[0].items() if f"/{BUREAU} " in key}  # noqa: E731
+        for what in "get", "set", "getset", "-setsocksfirewallproxy", "-setproxybypassdomains", "-setwebproxystate":
             with self.subTest(what):
                 self.machine.set_state({f"service Automatic/{BUREAU} refuses": what})
                 before = self.machine.settings()
+                for words in ["connect"], ["connect"], ["fix-dns"]:
+                    if words == ["connect"]:
+                        self.machine.connect()
+                    else:
+                        self.machine.help(*words)
+                    self.assertSwitched("Wi-Fi")
+                    self.assertSwitched("Thunderbolt Bridge")
+                    self.assertEqual(of_bureau(self.machine.settings()), of_bureau(before), words)
+                self.machine.help("disconnect")
+                self.assertEqual(self.machine.settings(), before)
+        self.machine.reset()
+
+    def test_a_service_of_the_session_that_cannot_be_set_again_keeps_what_it_has(self):
+        self.machine.connect()
+        at = f"service Automatic/{BUREAU} "
+        self.machine.set_state({at + "refuses": "-setwebproxystate", at + "web": "Yes\tproxy.example\t3128"})
+        self.machine.help("fix-dns")
+        self.assertEqual(self.machine.state[at + "dns"], "127.0.0.1")
+        self.assertEqual(self.machine.state[at + "socksfirewall"], "Yes\t127.0.0.1\t9050")
+        self.machine.set_state({at + "refuses": ""})
+        self.machine.help("disconnect")
+        self.assertRestored()
+
+    def test_a_proxy_of_this_computer_gets_its_port_back(self):
+        for values in {"socksfirewall": "Yes\t127.0.0.1\t1080"}, {"socksfirewall": "Yes\t127.0.0.1\t1080", "dns": "127.0.0.1"}:
+            with self.subTest(**values):
+                self.machine.reset()
+                self.machine.set_state({f"service Automatic/Wi-Fi {key}": value for key, value in values.items()})
+                before = self.machine.settings()
                 self.machine.connect()
                 self.assertSwitched("Wi-Fi")
-                self.assertSwitched("Thunderbolt Bridge")
-                self.assertTrue(self.machine.state[f"service Automatic/{BUREAU} web"].startswith("Yes"))
-                self.machine.help("fix-dns")
                 self.machine.help("disconnect")
                 self.assertEqual(self.machine.settings(), before)
         self.machine.reset()
@@ -353,7 +382,8 @@ class Session(MacTest):
 
     def test_the_service_that_traffic_goes_through_has_to_be_set(self):
         words = ["connect", "--tor", TOR, "--hash", HASH, "--strict", "0", "--lan", "0"]
-        for changes in {"primary": BUREAU}, {"primary": "", "services Automatic": BUREAU}:
+        ipv6_alone = {"primary": "", "primary of IPv6": BUREAU}
+        for changes in {"primary": BUREAU}, ipv6_alone, {"primary": "", "services Automatic": BUREAU}:
             for what, says in ("get", "cannot be read"), ("set", "cannot be changed"):
                 with self.subTest(what, **changes):
                     self.machine.reset()
@@ -375,13 +405,14 @@ class Session(MacTest):
     def test_what_is_written_is_on_the_disk(self):
         """fsync on a Mac leaves data in the drive's memory. The helper syncs the file before its rename, and the folder
         afterwards."""
+        self.machine.write("/mac/synced", "")
         self.machine.connect()
+        watchers = os.path.dirname(NOTE) + " "
+        synced = [line for line in self.machine.read("/mac/synced").splitlines() if not line.startswith((NOTE, watchers))]
         for name in "/state/active", "/journal/10-firewall", "/journal/20-tor":
             path = "/Library/Application Support/Veldmark" + name
-            self.assertTrue(
-                [call for call in self.machine.calls("fullsync") if call.endswith(f"{path}.new {path} {path.rsplit('/', 1)[0]}")],
-                name,
-            )
+            self.assertIn(f"{path}.new before", synced)
+            self.assertEqual(synced[synced.index(f"{path}.new before") + 1], f"{os.path.dirname(path)} after")
         self.assertEqual(self.machine.calls("sync"), [])
 
     def test_without_perl_disconnect_puts_everything_back(self):
@@ -409,6 +440,26 @@ class Session(MacTest):
         self.assertOneLine(self.machine.help("fix-dns", check=False), "leaves out the network device en0 ")
         self.machine.change(pf_skip="")
         self.machine.help("disconnect")
+
+    def test_a_device_that_is_left_out_meanwhile_does_not_open_the_others(self):
+        """Connecting again fails, and what still blocks stays."""
+        self.machine.change(pf_skip="")
+        self.before = self.machine.settings()
+        self.machine.connect()
+        self.machine.end_watcher()
+        self.machine.change(pf_skip="utun0")
+        self.assertEqual(self.machine.verdict("out", device="utun0"), "pass")
+        before = self.machine.settings()
+        for strict in 1, 0:
+            with self.subTest(strict=strict):
+                self.assertOneLine(self.machine.connect(strict=strict, check=False), "leaves out the network device utun0 ")
+                self.assertEqual(self.machine.verdict("out"), "block")
+                self.assertEqual(self.machine.settings(), before)
+        self.machine.change(pf_skip="")
+        self.machine.connect()
+        self.assertEqual(self.machine.verdict("out", device="utun0"), "block")
+        self.machine.help("disconnect")
+        self.assertRestored()
 
     def test_rules_of_dummynet_outlive_a_session(self):
         self.machine.connect()

@@ -115,6 +115,18 @@ class Apple(unittest.TestCase):
                     with self.subTest(f"{name}:{number}"):
                         self.assertIsNone(LINUX_WORDS.search(line), line)
 
+    def test_no_source_includes_what_a_mac_lacks(self):
+        """Only some of the sources are compiled here."""
+        include = re.compile(rf"^\s*#\s*include\s*<({'|'.join(map(re.escape, MISSING))})>")
+        self.assertTrue(include.match(next(line for _, line in for_macs("#include <malloc.h>\n"))))
+        for folder in "src", "tests/unit", "tests/support":
+            for path in sorted((ROOT / folder).rglob("*")):
+                name = str(path.relative_to(ROOT))
+                if path.suffix not in (".cpp", ".h", ".mm") or name in LINUX_ONLY or name.startswith(LINUX_ROOMS):
+                    continue
+                for number, line in for_macs(path.read_text(encoding="utf-8")):
+                    self.assertIsNone(include.match(line), f"{name}:{number}")
+
     def wanted(self, name):
         if WANTED == ["system"]:
             return name.startswith("src/") and SYSTEM_HEADER.search((ROOT / name).read_text(encoding="utf-8"))

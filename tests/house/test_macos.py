@@ -116,6 +116,11 @@ class Workflow(unittest.TestCase):
     def test_the_bundles_programs_run_with_the_bundles_own_plugin(self):
         step = self.step("The bundle")
         self.assertIn("MacOS/Veldmark --version", step)
+        started = step.split("MacOS/Veldmark --hidden &\n", 1)[1]  # --version loads no plugin
+        self.assertEqual(
+            [line.strip() for line in started.splitlines()[:4]],
+            ["running=$!", "sleep 10", 'kill -TERM "$running"', 'wait "$running"'],
+        )
         self.assertNotIn("QT_QPA_PLATFORM", step + self.steps[0])
         self.assertIn("QT_QPA_PLATFORM: offscreen", self.step("Unit tests"))
 

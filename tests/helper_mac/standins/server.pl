@@ -64,10 +64,12 @@ sub save {
 sub finish { die { status => $_[0] } }
 sub become_program { die { run => [@_] } }
 sub refuse { print STDERR "$name: illegal use: @_\n"; finish(64) }
-# The call that writes to a Mac's disk durably; this system's perl does the rest (program.c).
+# The call that writes to a Mac's disk durably; this system's perl does the rest (program.c). /mac/synced: a line per such call, the
+# path, and whether the new file still has its own name.
 sub fullsync {
     my ($option, $text, @words) = @_;
-    $text =~ s/\bfcntl\(\$file, 51, 0\)/fcntl(\$file, 1, 0)/ or refuse(@_);
+    my $note = 'open(my $synced, ">>", "/mac/synced"); print $synced "$path ", (-e $new ? "before" : "after"), "\n";';
+    $text =~ s/\bfcntl\(\$file, 51, 0\)/do { $note fcntl(\$file, 1, 0) }/ or refuse(@_);
     become_program('/mac/gnu/perl', 'perl', $option, $text, @words);
 }
 sub gnu { become_program("/mac/gnu/$name", $name, @_) }
@@ -125,9 +127,10 @@ sub service_id { sprintf '00000000-AAAA-BBBB-CCCC-00000000000%X', $_[0] }
 
 sub scutil {
     my $asked = $input;
-    if ($asked eq "show State:/Network/Global/IPv4\n") {
+    if ($asked =~ m{^show State:/Network/Global/IPv([46])$}) {
+        my $primary = $state{$1 == 4 ? 'primary' : 'primary of IPv6'} // '';
         my @names = map { s/^\*//r } services();
-        my ($place) = grep { $names[$_] eq ($state{primary} // '') } 0 .. $#names;
+        my ($place) = grep { $names[$_] eq $primary } 0 .. $#names;
         print defined $place ? "<dictionary> {\n  PrimaryInterface : en0\n  PrimaryService : " . service_id($place) . "\n  Router : 192.168.1.1\n}\n" : "  No such key\n";
         return;
     }
@@ -211,8 +214,9 @@ sub networksetup {
         finish($state{'old networksetup'} ? 0 : 4);
     }
     my $at = "service $state{location}/$service";
-    # The settings of a VPN's own program or of a company's profile.
-    if (($state{"$at refuses"} // '') =~ ($verb =~ /^-get/ ? qr/get/ : qr/set/)) {
+    # The settings of a VPN's own program or of a company's profile: "get" and "set" are all verbs of that kind, else it is one.
+    my $refuses = $state{"$at refuses"} // '';
+    if ($refuses =~ /^-/ ? $refuses eq $verb : $refuses =~ ($verb =~ /^-get/ ? qr/get/ : qr/set/)) {
         print sentence('refused');
         finish(14);
     }

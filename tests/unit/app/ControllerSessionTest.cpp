@@ -1,4 +1,5 @@
 #include "app/ControllerSession.h"
+#include "StandInDesktop.h"
 #include "controller/PublishedState.h"
 #include "support/OtherSession.h"
 #include "support/TestProgram.h"
@@ -418,6 +419,23 @@ private Q_SLOTS:
             QStringLiteral("Couldn't change the login-item setting: ")));
         // the command line sees it as well
         QCOMPARE(bench.controller().errorMessage(), session.now().errorMessage);
+        QCOMPARE(session.now().openAtLogin, std::optional(false));
+    }
+
+    void fromAMadeUpPlaceItIsNoLoginItem()
+    {
+        Workbench bench;
+        StandInDesktop desktop;
+        desktop.misplaced = Text(QStringLiteral("Move it."));
+        ControllerSession session(bench.controller(), *bench.settings, bench.applications);
+        session.setOpenAtLogin(false);
+        follow(session);
+        QVERIFY(!session.now().errorMessage); // it may always give that up
+        session.setOpenAtLogin(true);
+        follow(session);
+        QVERIFY(session.now().errorMessage);
+        QCOMPARE(session.now().errorMessage->english(),
+                 QStringLiteral("Couldn't change the login-item setting: Move it."));
         QCOMPARE(session.now().openAtLogin, std::optional(false));
     }
 

@@ -224,6 +224,27 @@ private Q_SLOTS:
         QVERIFY(computer.verbs().isEmpty());
     }
 
+    // A click there would open a context menu of Qt's together with the panel.
+    void aMacsMenuBarIsNoTray_data()
+    {
+        QTest::addColumn<bool>("isMenuBar");
+        QTest::newRow("tray") << false;
+        QTest::newRow("menu bar") << true;
+    }
+    void aMacsMenuBarIsNoTray()
+    {
+        QFETCH(bool, isMenuBar);
+        const StatusNotifierWatcher watcher(bus.connection());
+        Computer computer;
+        computer.profile.iconInMenuBar = isMenuBar;
+        Application application(computer.profile);
+        QVERIFY(application.start(true, false));
+        QTRY_VERIFY(application.tray());
+        const auto *icon = application.tray()->findChild<QSystemTrayIcon *>();
+        QCOMPARE(icon->contextMenu() == nullptr, isMenuBar);
+        QCOMPARE(icon->icon().isMask(), isMenuBar);
+    }
+
     void aTrayThatWasFoundBeforeTheStartIsUsed()
     {
         const StatusNotifierWatcher tray(bus.connection());

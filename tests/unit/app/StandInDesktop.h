@@ -20,7 +20,20 @@ struct StandInDesktop {
     StandInDesktop(const StandInDesktop &) = delete;
 
     // Tells the program why it was started.
-    void tellLaunch(bool atLogin) { std::exchange(launched, nullptr)(atLogin); }
+    void tellLaunch(bool atLogin)
+    {
+        m_hasTold = true;
+        std::exchange(launched, nullptr)(atLogin);
+    }
+    // The user opens the running program again. A Mac's AppKit answers that itself until the
+    // program has been told why it was started.
+    bool reopen() const
+    {
+        if (!m_hasTold || !reopened)
+            return false;
+        reopened();
+        return true;
+    }
     // Asks the program to end, and waits.
     void askToEnd()
     {
@@ -38,6 +51,9 @@ struct StandInDesktop {
     QStringList notices;      // their titles
 
     static inline StandInDesktop *present = nullptr;
+
+private:
+    bool m_hasTold = false;
 };
 
 } // namespace veldmark

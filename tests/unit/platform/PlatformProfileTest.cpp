@@ -83,6 +83,7 @@ QString table(const PlatformProfile &p)
              + p.ncat},
         {"resolverFile", p.resolverFile},
         {"quitCanBeRefused", QString::number(p.quitCanBeRefused)},
+        {"iconInMenuBar", QString::number(p.iconInMenuBar)},
         {"scutil", p.scutil},
         {"controlSocket", list({p.controlSocket})},
     };
@@ -196,6 +197,7 @@ sshDirectory: ~/.ssh
 netcat: ; /nowhere/usr/bin/nc, /nowhere/bin/nc, /nowhere/usr/bin/nc.openbsd, /nowhere/bin/nc.openbsd; /nowhere/usr/bin/ncat
 resolverFile: /nowhere/etc/resolv.conf
 quitCanBeRefused: 0
+iconInMenuBar: 0
 scutil: 
 controlSocket: /nowhere/run/user/1000/veldmark/control
 )"));
@@ -240,6 +242,7 @@ sshDirectory: ~/.ssh
 netcat: /nowhere/usr/bin/nc; ; 
 resolverFile: /nowhere/etc/resolv.conf
 quitCanBeRefused: 1
+iconInMenuBar: 1
 scutil: /nowhere/usr/sbin/scutil
 controlSocket: ~/Library/Application Support/Veldmark/run/control
 )"));
@@ -255,6 +258,12 @@ controlSocket: ~/Library/Application Support/Veldmark/run/control
                 QVERIFY2(profile.bundleArchivePrefix.endsWith(u'-' + places.machine + u'-'),
                          qPrintable(profile.bundleArchivePrefix));
         }
+    }
+
+    void appleSiliconHasTheTorProjectsName()
+    {
+        QCOMPARE(machineName(QStringLiteral("arm64")), QStringLiteral("aarch64"));
+        QCOMPARE(machineName(QStringLiteral("x86_64")), QStringLiteral("x86_64"));
     }
 
     // The kernel's name of the architecture, which on a Mac differs from the Tor Project's.

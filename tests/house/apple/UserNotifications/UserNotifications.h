@@ -17,8 +17,24 @@ typedef NS_ENUM(NSUInteger, UNAuthorizationOptions) { UNAuthorizationOptionAlert
                               content:(UNNotificationContent *)content
                               trigger:(UNNotificationTrigger *)trigger;
 @end
+@interface UNNotification : NSObject
+@end
+
+typedef NS_ENUM(NSUInteger, UNNotificationPresentationOptions) {
+    UNNotificationPresentationOptionBanner = 1 << 4
+};
+
+@class UNUserNotificationCenter;
+@protocol UNUserNotificationCenterDelegate <NSObject>
+@optional
+- (void)userNotificationCenter:(UNUserNotificationCenter *)center
+       willPresentNotification:(UNNotification *)notification
+         withCompletionHandler:(void (^)(UNNotificationPresentationOptions options))handler;
+@end
+
 @interface UNUserNotificationCenter : NSObject
 + (UNUserNotificationCenter *)currentNotificationCenter;
+- (void)setDelegate:(id<UNUserNotificationCenterDelegate>)delegate;
 - (void)requestAuthorizationWithOptions:(UNAuthorizationOptions)options
                       completionHandler:(void (^)(BOOL granted, NSError *error))handler;
 - (void)addNotificationRequest:(UNNotificationRequest *)request
