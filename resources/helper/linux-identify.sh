@@ -67,16 +67,11 @@ list_accounts() {
   printf '%s' "${seen# }"
 }
 
-# find_identifier: sets IDENTIFIER to the program's path without links, which only root can change. A user's copy must not run: the program
-# gets a right of root's.
+# find_identifier: sets IDENTIFIER to the program's path. A user's copy must not run: the program gets a right of root's.
 IDENTIFIER=''
 find_identifier() {
-  local path
-  for path in "${SELF%/*}/veldmark-identify" /usr/libexec/veldmark/veldmark-identify; do
-    IDENTIFIER=$(real_path "$path") || continue
-    [[ ! -f $IDENTIFIER || ! -x $IDENTIFIER ]] || ! root_owned "$IDENTIFIER" || ! on_own_mount "$IDENTIFIER" || return 0
-  done
-  return 1
+  find_own veldmark-identify || return 1
+  IDENTIFIER=$OWN_PROGRAM
 }
 
 # put_identifier NFT: becomes the identifier, in a process of its own.

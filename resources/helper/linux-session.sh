@@ -31,6 +31,7 @@ linux_connect() {
   ready_programs
   clear_bundle
   read_resolver
+  find_filter
   ready_torrc
 
   # From here on the network changes. A strict session in force stays until its successor is in force.

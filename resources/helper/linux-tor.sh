@@ -9,6 +9,7 @@ readonly START_OUT=$RUN/start.out  # Tor's output before its log exists
 readonly LAUNCHER_OUT=$RUN/launcher.out   # output of the programs that start Tor
 readonly START_POLLS=500   # of about 20 ms: Tor opens its control port within 10 s, or it has failed
 readonly STOP_POLLS=200    # of about 20 ms: Tor has about 4 s to end
+readonly FILTER_NAME=veldmark-control
 
 # Runs as root in the new namespaces: RESOLVERS TARGET DATA LOG COMMAND... COMMAND gives up root. Tor's account may write its data, its log
 # and three places in memory that are visible to no other process. All other files are read-only, so it leaves no program for a later
@@ -116,6 +117,29 @@ find_recorded() {
   RECORDED_PID=$pid
 }
 
+# find_own NAME: sets OWN_PROGRAM to the path without links of a program of Veldmark's, which only root can change.
+OWN_PROGRAM=''
+find_own() {
+  local path
+  for path in "${SELF%/*}/$1" "/usr/libexec/veldmark/$1"; do
+    OWN_PROGRAM=$(real_path "$path") || continue
+    [[ ! -f $OWN_PROGRAM || ! -x $OWN_PROGRAM ]] || ! root_owned "$OWN_PROGRAM" || ! on_own_mount "$OWN_PROGRAM" || return 0
+  done
+  return 1
+}
+
+# find_filter: sets FILTER to the program that stands before Tor's control port, with its operands, where Tor's account can run it. The
+# mounts that Tor sees hide some places or let nothing run there (INSIDE). Without it Tor has the port itself.
+FILTER=()
+find_filter() {
+  FILTER=() CONTROL_SOCKET=''
+  find_own "$FILTER_NAME" && open_to_all "$OWN_PROGRAM" || return 0
+  case $OWN_PROGRAM in /home/* | /run/* | /media/* | /mnt/* | /tmp/* | /var/tmp/* | /dev/*) return 0 ;; esac
+  CONTROL_SOCKET=$DATA/control
+  FILTER=("$OWN_PROGRAM" 127.0.0.1 "$CONTROL_PORT" "$CONTROL_SOCKET" --)
+}
+
+# Where there is a filter, it is the first process of the namespaces, and Tor is its child. It ends with Tor, and Tor with it.
 launch_tor() {
   become_recorded "$TOR_ENTRY"
   ! find_tree || enter_group "$TREE/$TOR_GROUP" || true
@@ -124,10 +148,10 @@ launch_tor() {
     /bin/bash -p -c "$INSIDE" inside "$TOR_RESOLVER" "$RESOLVER_TARGET" "$DATA" "$NOTICES" \
     setpriv --reuid "$TOR_UID" --regid "$TOR_GID" --clear-groups --no-new-privs --bounding-set=-all,+net_bind_service \
     --inh-caps=-all,+net_bind_service --ambient-caps=-all,+net_bind_service --pdeathsig KILL \
-    "$OPT_TOR" -f "$TORRC"
+    ${FILTER[@]+"${FILTER[@]}"} "$OPT_TOR" -f "$TORRC"
 }
 
-# tor_listens: whether Tor's account has opened the control port.
+# tor_listens: whether Tor's account has opened the control port, which the filter does once Tor answers.
 tor_listens() {
   local port
   printf -v port '%04X' "$CONTROL_PORT"
@@ -195,7 +219,8 @@ undo_tor() {
   pid=$RECORDED_PID
   for ((poll = 0; poll < STOP_POLLS; poll++)); do
     find_recorded || return 0
-    # Tor is the launcher's child. It ignores signals while it starts, so the signal is repeated.
+    # Tor, or the filter that passes the signal on to it, is the launcher's child. Tor ignores signals while it starts, so the signal is
+    # repeated.
     if ((poll % 5 == 0)); then
       read_children "$pid"
       for child in $CHILDREN; do

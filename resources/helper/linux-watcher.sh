@@ -120,7 +120,7 @@ await_change() {
 # checked again. The check is repeated once, for a Tor that is ending.
 VOUCHED=''
 ports_are_tors() {
-  local round sockets wide line child strange
+  local round sockets wide line child strange name
   for round in 1 2; do
     sockets=$(port_sockets)
     wide=$(wide_sockets "$sockets")
@@ -128,6 +128,12 @@ ports_are_tors() {
     [[ -n $sockets && $sockets != "$VOUCHED" ]] || return 0
     CHILDREN='' strange=''
     ! { journal_read "$TOR_ENTRY" && find_recorded; } || read_children "$RECORDED_PID"
+    # Where the launcher's child is the filter, Tor is the filter's child.
+    child=${CHILDREN%% *} name=''
+    if [[ -n $child ]] && { IFS= read -r name <"/proc/$child/comm"; } 2>/dev/null && [[ $name == "${FILTER_NAME:0:15}" ]]; then
+      read_children "$child"
+      CHILDREN="$child $CHILDREN"
+    fi
     while IFS= read -r line; do
       for child in $CHILDREN 0; do
         ! has_socket "$child" "${line##* }" || break
@@ -183,7 +189,7 @@ print_watcher() {
   printf 'set -uo pipefail\numask 077\nPATH=%s\nLC_ALL=C\nexport PATH LC_ALL\ncd /\n' "$PATH"
   # shellcheck disable=SC2090
   declare -p TABLE RULES LISTED RULES_LOCK MARKER KILL_SWITCH_NOTE WATCH_SECONDS BEAT_SECONDS BYPASS_NAME RUN_GROUP TOR_GROUP CGROUPS \
-    OTHERS_NOTE OTHERS_SECONDS ALWAYS WITHOUT_GROUPS WORD MISSED SINCE NOTED JOURNAL TOR_ENTRY SOCKS_PORT CONTROL_PORT DNS_PORT
+    OTHERS_NOTE OTHERS_SECONDS ALWAYS WITHOUT_GROUPS WORD MISSED SINCE NOTED JOURNAL TOR_ENTRY FILTER_NAME SOCKS_PORT CONTROL_PORT DNS_PORT
   printf 'CHANGED= OTHERS_DUE=0 CHAINS=() CHAIN_RULES=() JUDGED= STRUGGLES=0 LESSENED= LISTING= TREE= TOR_UID= VOUCHED= CHILDREN= START_TIME= BOOT= RECORDED_PID= JOURNAL_LINES=()\n'
   declare -f read_marker put_in_place write_file note_rules hold_rules release_rules keep_listing rules_stand find_tree make_group make_groups nft_without_groups read_listing copy_stands \
     print_not_bypassing relock monitor monitor_rules beat await_change port_sockets takes_ipv6_alone wide_sockets has_socket \

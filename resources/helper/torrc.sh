@@ -4,6 +4,7 @@
 readonly SOCKS_PORT=9050 CONTROL_PORT=9051   # the system's own part sets DNS_PORT
 readonly TORRC=$RUN/torrc          # root:_veldmark 0640; Tor reads /etc/tor/torrc-defaults before it
 readonly NOTICES=$RUN/notices.log  # Tor's log
+CONTROL_SOCKET=''   # Tor's control port where a program of ours takes its place at CONTROL_PORT; empty where none does
 
 # print_torrc IPV6_LOOPBACK: from the checked options.
 print_torrc() {
@@ -13,7 +14,7 @@ print_torrc() {
 DataDirectory $DATA
 Log notice file $NOTICES
 SocksPort 127.0.0.1:$SOCKS_PORT
-ControlPort 127.0.0.1:$CONTROL_PORT
+$(print_control_port)
 HashedControlPassword $OPT_HASH
 CookieAuthentication 0
 DNSPort 127.0.0.1:$DNS_PORT
@@ -31,6 +32,15 @@ END
   [[ -z $USED_SNOWFLAKE ]] || printf 'ClientTransportPlugin %s exec %s\n' "$USED_SNOWFLAKE" "$OPT_SNOWFLAKE"
   [[ -z $USED_WEBTUNNEL ]] || printf 'ClientTransportPlugin %s exec %s\n' "$USED_WEBTUNNEL" "$OPT_WEBTUNNEL"
   [[ -n $USED_LYREBIRD$USED_SNOWFLAKE$USED_WEBTUNNEL ]] || printf 'NoExec 1\n'
+}
+
+# print_control_port: the first line also keeps out a port of /etc/tor/torrc-defaults.
+print_control_port() {
+  if [[ -n $CONTROL_SOCKET ]]; then
+    printf '%s\n' "ControlPort 0" "ControlSocket $CONTROL_SOCKET"
+  else
+    printf '%s\n' "ControlPort 127.0.0.1:$CONTROL_PORT"
+  fi
 }
 
 # tor_reason TEXT: prints Tor's own reason: the last problem in its output, otherwise the last line; nothing if

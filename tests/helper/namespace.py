@@ -276,7 +276,8 @@ class Machine:
             )
 
     def tor_pids(self):
-        return self.shell("pgrep -u _veldmark || true").split()
+        """The processes of Tor's account but the filter before Tor's control port, which is there where the helper's folder is root's."""
+        return self.shell("comm -23 <(pgrep -u _veldmark | sort) <(pgrep -x veldmark-contro | sort)").split()
 
     def await_watcher(self):
         """Waits until the watcher listens. The helper starts it without waiting."""

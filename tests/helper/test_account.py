@@ -122,7 +122,7 @@ class Account(HostileTest):
         """Each is a line of its log. Tor goes on where the log may not grow."""
         log = "/var/lib/veldmark/run/notices.log"
         flood = (
-            "import socket\nfor n in range(300):\n with socket.create_connection(('127.0.0.1', 9051)) as s:\n  s.sendall(b'AUTHENTICATE \"no\"\\r\\n')\n"
+            "import socket\nfor n in range(400):\n with socket.create_connection(('127.0.0.1', 9051)) as s:\n  s.sendall(b'AUTHENTICATE \"no\"\\r\\n')\n"
             "  while s.recv(999): pass"
         )
         self.machine.connect()
@@ -189,12 +189,13 @@ class Account(HostileTest):
         self.before = self.machine.snapshot()
 
     def control(self, *lines, uid=USER_UID):
-        """Tor's replies, one for each line."""
+        """Tor's replies, one for each line. As root at Tor's own socket, where there is a filter before the port."""
         talk = (
-            "import socket, sys\nc = socket.create_connection(('127.0.0.1', 9051), 10); f = c.makefile('rw', newline='\\r\\n')\n"
-            "for line in sys.argv[1:]:\n f.write(line + '\\n'); f.flush(); reply = f.readline()\n while reply[3:4] == '-': print(reply.strip()); reply = f.readline()\n print(reply.strip())"
+            "import os, socket, sys\nif os.path.exists(sys.argv[1]): c = socket.socket(socket.AF_UNIX); c.connect(sys.argv[1])\n"
+            "else: c = socket.create_connection(('127.0.0.1', 9051), 10)\nf = c.makefile('rw', newline='\\r\\n')\n"
+            "for line in sys.argv[2:]:\n f.write(line + '\\n'); f.flush(); reply = f.readline()\n while reply[3:4] == '-': print(reply.strip()); reply = f.readline()\n print(reply.strip())"
         )
-        return self.machine.run("/usr/bin/python3", "-c", talk, *lines, uid=uid).stdout.splitlines()
+        return self.machine.run("/usr/bin/python3", "-c", talk, f"{DATA}/control", *lines, uid=uid).stdout.splitlines()
 
     def connect_with_password(self, *more):
         hashed = self.machine.run(namespace.TOR, "--quiet", "--hash-password", "the word").stdout.strip()
@@ -214,7 +215,7 @@ class Account(HostileTest):
 
     def test_without_the_password_the_control_port_does_nothing(self):
         self.connect_with_password()
-        self.assertIn("250-AUTH METHODS=HASHEDPASSWORD", self.control("PROTOCOLINFO 1"))
+        self.assertIn("250-AUTH METHODS=HASHEDPASSWORD", self.control("PROTOCOLINFO 1", uid=0))
         for words in (
             "AUTHENTICATE",
             'AUTHENTICATE ""',
@@ -222,14 +223,16 @@ class Account(HostileTest):
             "GETINFO config-text",
             "SETCONF HTTPSProxy=192.0.2.8:8",
         ):
-            self.assertRegex(self.control(words)[-1], "^51[45] ")
-        self.assertEqual(self.control('AUTHENTICATE "the word"', "SETCONF HTTPSProxy=192.0.2.8:8"), ["250 OK", "250 OK"])
+            for uid in USER_UID, 0:
+                self.assertRegex(self.control(words, uid=uid)[-1], "^51[45] ")
+        self.assertEqual(self.control('AUTHENTICATE "the word"', "SETCONF DisableNetwork=1"), ["250 OK", "250 OK"])
+        self.assertEqual(self.control('AUTHENTICATE "the word"', "SETCONF HTTPSProxy=192.0.2.8:8", uid=0), ["250 OK", "250 OK"])
         # The password's hash is not readable either, since passwords could be tried against it.
         for uid in USER_UID, OTHER_UID:
             self.assertNotEqual(self.machine.run("cat", "/var/lib/veldmark/run/torrc", uid=uid, check=False).returncode, 0)
 
     def test_without_bridges_the_password_runs_no_program(self):
-        """Tor accepts the command and starts no program. It has network access (which leads nowhere here), since it never starts
+        """Tor accepts the command at its own socket and starts no program. It has network access (which leads nowhere here), since it never starts
         one without."""
         words = (
             'AUTHENTICATE "the word"',
@@ -243,8 +246,8 @@ class Account(HostileTest):
         ):
             self.connect_with_password(*more)
             if not runs:
-                self.assertNotEqual(self.control(words[0], "SETCONF NoExec=0")[-1][:3], "250")
-            self.control(*words)
+                self.assertNotEqual(self.control(words[0], "SETCONF NoExec=0", uid=0)[-1][:3], "250")
+            self.control(*words, uid=0)
             self.machine.shell(f"until [ -e {DATA}/ran ] || grep -q 'not compatible with NoExec mode' {log}; do sleep 0.01; done")
             self.assertEqual(self.machine.shell(f"ls {DATA}/ran || true").strip() != "", runs)
             self.machine.help("disconnect")

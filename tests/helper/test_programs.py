@@ -33,7 +33,7 @@ class Programs(HelperTest):
         return self.machine.help(*words, env=env, **options)
 
     def running(self):
-        return self.machine.shell("readlink /proc/$(pgrep -u _veldmark | head -1)/exe").strip()
+        return self.machine.shell(f"readlink /proc/{self.machine.tor_pids()[0]}/exe").strip()
 
     def test_roots_own_tor_runs_in_place_without_a_prompt(self):
         self.connect(RULE, TOR)

@@ -32,6 +32,15 @@ DNSPort 127.0.0.1:293
     def test_plain(self):
         self.assertEqual(call(f"OPT_HASH={HASH}; print_torrc 0"), self.HEAD + "ClientOnly 1\nAvoidDiskWrites 1\nNoExec 1\n")
 
+    def test_behind_the_filter(self):
+        head = self.HEAD.replace(
+            "ControlPort 127.0.0.1:9051\n", "ControlPort 0\nControlSocket /var/lib/veldmark/run/tor/data/control\n"
+        )
+        self.assertEqual(
+            call(f"OPT_HASH={HASH} CONTROL_SOCKET=$DATA/control; print_torrc 0"),
+            head + "ClientOnly 1\nAvoidDiskWrites 1\nNoExec 1\n",
+        )
+
     def test_everything(self):
         self.assertEqual(
             call(

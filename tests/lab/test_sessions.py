@@ -184,7 +184,7 @@ class Sessions(LabCase):
             self.shown_until(terminal, "> ")
             os.write(terminal, b"yes\n")
             self.root.wait_state(is_probed)
-            program = self.lab.host.run(["/bin/sh", "-c", "readlink /proc/$(pgrep -u _veldmark | head -1)/exe"]).stdout
+            program = self.lab.host.run(["/bin/sh", "-c", "readlink /proc/$(pgrep -u _veldmark -x tor)/exe"]).stdout
             self.assertRegex(program, r"^/var/lib/veldmark/programs/")
             self.lab.host.write("/usr/local/bin/opened", "#!/bin/sh\nid -un >/home/alice/opened\n", 0o755)
             self.assertEqual(sudo("launch", "/usr/local/bin/opened").returncode, 0)

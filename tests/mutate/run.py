@@ -74,13 +74,13 @@ TOUCHED = {
     "linux-service": "service",
     "linux-session": "session watcher owner launch resolved",
     "linux-state": "options session programs owner privileged",
-    "linux-tor": "session programs texts launch owner",
+    "linux-tor": "session programs texts launch owner control",
     "linux-watcher": "watcher session",
     "note": "parts session owner watcher",
     "options": "parts options texts programs",
     "privileged": "privileged programs",
     "programs": "programs launch privileged",
-    "torrc": "texts session options",
+    "torrc": "texts session options control",
 }
 HELPERS = ("helper", "helper_mac")
 ROOMS = LOGIC + ("ui", "app", "cli", "qml") + HELPERS
@@ -111,7 +111,9 @@ class Room:
         )
         if name in HELPERS:
             self.tests = [rf"^{name}/", "^helper_mac/" if name == "helper" else ""]
-            self.targets = [["veldmark_helper", "veldmark-launch", "veldmark-launch-mac", "veldmark-identify"]] * 2
+            self.targets = [
+                ["veldmark_helper", "veldmark-launch", "veldmark-launch-mac", "veldmark-identify", "veldmark-control"]
+            ] * 2
         elif name in ("qml", "ui"):
             self.tests = [r"^(unit/)?ui/(?!WindowsFit-|accessibility)", "^unit/app/"]
             self.targets = [["test-ui", "suite-ui"], ["test-app"]]

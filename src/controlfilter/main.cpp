@@ -1,0 +1,68 @@
+// veldmark-control ADDRESS PORT SOCKET -- TOR WORD...: runs TOR, and takes its place at the control
+// port.
+//
+// The root helper starts it in Tor's account, as the first process of Tor's namespaces. TOR opens
+// its control port at SOCKET, which only that account reaches, instead of ADDRESS:PORT. From there
+// only commands that Veldmark uses reach Tor (CommandFilter.h). Tor's answers come back unchanged.
+// The port opens when Tor's socket does. SIGTERM and SIGINT are passed on to Tor. It ends with
+// Tor's exit status when Tor ends, and Tor ends with it.
+
+#include "controlfilter/Connections.h"
+#include "controlfilter/TorProcess.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+#include <poll.h>
+
+namespace veldmark {
+
+namespace {
+
+constexpr int startMilliseconds = 5; // between two looks for Tor's socket
+
+// In Tor's words, which the helper shows.
+int reportTakenPort(const char *address, const char *port)
+{
+    std::printf("[warn] Could not bind to %s:%s: %s.\n", address, port, std::strerror(errno));
+    return 1;
+}
+
+} // namespace
+
+} // namespace veldmark
+
+int main(int argc, char **argv)
+{
+    using namespace veldmark;
+    if (argc < 6 || std::strcmp(argv[4], "--") != 0) {
+        std::fprintf(stderr, "veldmark-control is run by Veldmark's root helper.\n");
+        return 2;
+    }
+    Connections connections(argv[1], argv[2], argv[3]);
+    if (!connections.hasPort())
+        return reportTakenPort(argv[1], argv[2]);
+    TorProcess tor(argv + 5);
+    if (!tor.hasStarted() || !giveUpRights()) {
+        std::printf("[err] The filter before the control port cannot start: %s\n",
+                    std::strerror(errno));
+        return 1;
+    }
+    pollfd signals = {tor.descriptor(), POLLIN, 0};
+    while (!connections.torAnswers()) {
+        poll(&signals, 1, startMilliseconds);
+        if (const auto status = tor.takeSignals())
+            return *status;
+    }
+    if (!connections.listen()) {
+        const int status = reportTakenPort(argv[1], argv[2]);
+        tor.kill();
+        return status;
+    }
+    for (;;) {
+        connections.wait(tor.descriptor());
+        if (const auto status = tor.takeSignals())
+            return *status;
+    }
+}
