@@ -1,6 +1,8 @@
 """Small parts of the helper. Each is called by itself with files in the test's own folder, without a private machine."""
 
 import os
+import pathlib
+import re
 import stat
 import subprocess
 import tempfile
@@ -332,6 +334,40 @@ class Numbers(unittest.TestCase):
         self.assertEqual(run("need_programs cat ls").returncode, 0)
         done = run("need_programs cat no-such-program ls")
         self.assertEqual((done.returncode, done.stderr), (1, "ERROR: The program no-such-program is missing on this system.\n"))
+
+
+# The first word of a command.
+COMMAND = re.compile(r"(?:^|[;&|({!]|\b(?:then|do|if|elif|while|until|else)\b)[ \t]*(\w+)(?=[\s;)&|]|$)", re.MULTILINE)
+
+
+class WatcherScripts(unittest.TestCase):
+    """A watcher is a script of its own, written by the helper. What is missing there fails at the watcher's rarest step."""
+
+    FOLDER = pathlib.Path(__file__).resolve().parents[2] / "resources" / "helper"
+
+    def parts(self, system):
+        other = {"linux": "darwin", "darwin": "linux"}[system]
+        return "\n".join(file.read_text() for file in sorted(self.FOLDER.glob("*.sh")) if not file.name.startswith(other))
+
+    def test_they_have_each_function_and_constant_that_they_use(self):
+        for system in "linux", "darwin":
+            text = self.parts(system)
+            functions = dict(re.findall(r"^(\w+)\(\) \{((?: .*|\n(?:.*\n)*?)\}$)", text, re.MULTILINE))
+            constants = set(re.findall(r"^readonly ([A-Z_]+)=", text, re.MULTILINE))
+            constants |= set(re.findall(r"^readonly .* ([A-Z_]+)=", text, re.MULTILINE))
+            script = functions["print_watcher"].replace("\\\n", " ")
+            given = set(re.search(r"declare -f (.*)", script)[1].split())
+            self.assertLess(10, len(given))
+            self.assertLessEqual(given, set(functions))
+            declared = set(re.search(r"declare -p (.*)", script)[1].split())
+            self.assertLess(5, len(declared))
+            for name in sorted(given):
+                body = re.sub(r"(^|\s)#.*", "", functions[name])
+                with self.subTest(system=system, function=name):
+                    used = set(COMMAND.findall(body)) & set(functions)
+                    self.assertLessEqual(used, given | {"die"})
+                    used = set(re.findall(r"\$\{?#?([A-Z_]+)\b", body)) & constants
+                    self.assertLessEqual(used, declared)
 
 
 if __name__ == "__main__":

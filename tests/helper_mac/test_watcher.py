@@ -53,6 +53,15 @@ class Watcher(MacTest):
                 )
                 self.assertIn('rdr-anchor "veldmark" all', state["pf  nat"])
 
+    def test_what_it_has_put_back_is_taken_back_with_the_session(self):
+        """Also the program's hold on pf, which another program may hold, too."""
+        self.machine.connect()
+        self.machine.set_state({"pf veldmark filter": "", "pf veldmark nat": ""})
+        self.wait(lambda: self.note() == "restored 1", "it was not told")
+        self.assertEqual(len(self.machine.state["pf tokens"].splitlines()), 2)
+        self.machine.help("disconnect")
+        self.assertRestored()
+
     def test_rules_that_do_not_read_back_are_no_kill_switch(self):
         self.machine.set_state({"pf lies": "1"})
         done = self.machine.help("connect", "--tor", mac.TOR, "--hash", mac.HASH, "--strict", "1", "--lan", "0", check=False)
