@@ -358,6 +358,16 @@ as_ids() {
 number_of() { dscl . -read "$1" "$2" | awk '{ print $2 }'; }
 tor_reaches_out() { as_ids "$(number_of /Users/_veldmark UniqueID)" "$(number_of /Users/_veldmark PrimaryGroupID)" "${reach[@]}"; }
 bypass_reaches_out() { as_ids "$user" "$(number_of /Groups/_veldmark_bypass PrimaryGroupID)" "${reach[@]}"; }
+watcher_puts_back() {
+  local try
+  pfctl -q -a veldmark -F rules || return 1
+  for try in 1 2 3 4 5 6 7 8 9 10; do
+    sleep 1
+    [[ $(cat /private/var/run/veldmark.watch) != "restored 1 "* ]] || break
+  done
+  cat /private/var/run/veldmark.watch
+  [[ $(cat /private/var/run/veldmark.watch) == "restored 1 "* ]] && pfctl -a veldmark -s rules 2>/dev/null | grep -q '^block return out quick'
+}
 user_cannot_reach_out() { ! as_ids "$user" 20 "${reach[@]}"; }
 tor_as_itself() { pgrep -u "$(dscl . -read /Users/_veldmark UniqueID | awk '{ print $2 }')" -x tor >/dev/null; }
 reach=(curl -s -S -o /dev/null --noproxy '*' --connect-timeout 5 https://1.1.1.1/)
@@ -396,6 +406,7 @@ for strict in 0 1; do
   check "fix-dns" help fix-dns
   check "a lookup that is sent to this computer comes to Tor's port" lookup_is_redirected
   if [[ $strict == 1 ]]; then
+    check "the watcher puts the rules back, and tells it" watcher_puts_back
     check "Tor's account gets past the kill switch" tor_reaches_out
     check "the group of applications without Tor gets past it" bypass_reaches_out
     check "nothing of root's gets past the kill switch" cannot_reach_out

@@ -105,7 +105,8 @@ sub pfctl {
               map { my ($pid, $process, $token) = split / /; sprintf " %-7s %-28s %-24s 0 days 00:00:01\n", $pid, $process, $token }
               split /\n/, $state{'pf tokens'} // '';
     } elsif ($show) { refuse(@_) }
-    if ($flush eq 'states') { $state{'pf flushes'}++; delete $state{'pf states'} } elsif ($flush) { refuse(@_) }
+    if ($flush eq 'rules') { $state{"pf $anchor filter"} = '' }
+    elsif ($flush eq 'states') { $state{'pf flushes'}++; delete $state{'pf states'} } elsif ($flush) { refuse(@_) }
     if ($enable) {
         my $token = 18446743524953000000 + ++$state{'pf last token'};
         $state{'pf tokens'} = join "\n", (split /\n/, $state{'pf tokens'} // ''), "$caller pfctl $token";
