@@ -26,8 +26,8 @@ public:
 
     struct Sample {
         Clock::TimePoint at;
-        // Bytes since Tor started, without the control port's. They include the traffic between
-        // applications and Tor.
+        // Bytes since Tor started, without the control port's. In a test network they include the
+        // traffic between applications and Tor.
         qint64 read = 0;
         qint64 written = 0;
         std::optional<bool> hasCircuit = {}; // absent: Tor did not report it

@@ -27,6 +27,7 @@ const Text offlineText = Text::tr(
     "Tor hasn't confirmed that it uses the network again, so traffic may not get through. Veldmark keeps telling Tor to. If this lasts, disconnect and connect again.");
 const QString readKey = QStringLiteral("traffic/read");
 const QString writtenKey = QStringLiteral("traffic/written");
+constexpr qsizetype lineEndBytes = 2; // of a command
 const QString establishedKey = QStringLiteral("status/circuit-established");
 
 } // namespace
@@ -49,10 +50,21 @@ void TorController::stopMonitoring()
     stall = std::nullopt;
 }
 
+void TorController::learnWhatIsCounted(qint64 grown, qsizetype asked)
+{
+    // Any other number is traffic that came between.
+    if (grown != 0 && grown != asked)
+        return;
+    m_network.countsOwn = grown == asked;
+    if (grown == 0)
+        m_network.traffic = {}; // bytes were taken off its samples that were not in them
+}
+
 void TorController::lookAtTraffic(std::optional<bool> hasCircuit)
 {
     const auto route = m_services.route();
-    const ControlTraffic own = m_services.controlPort.traffic();
+    const ControlTraffic own = m_network.countsOwn == false ? ControlTraffic()
+                                                            : m_services.controlPort.traffic();
     const bool wasStalled = stall().has_value();
     std::optional<TrafficWatch::Stall> found = m_network.traffic.take(
         {.at = m_services.clock.now(),
@@ -140,18 +152,32 @@ QCoro::Task<void> TorController::monitor(Run run)
             if (run.isOver())
                 co_return;
         }
-        const auto counters = co_await m_services.controlPort.getInfo(keys, *m_controlPassword,
-                                                                      counterReadLimit);
+        // The counter is read twice until it is known what Tor counts.
+        QStringList commands = {QStringLiteral("GETINFO ") + readKey,
+                                QStringLiteral("GETINFO ") + keys.join(u' ')};
+        if (m_network.countsOwn)
+            commands.removeFirst();
+        const auto replies = co_await m_services.controlPort.batch(commands, *m_controlPassword,
+                                                                   counterReadLimit);
         if (run.isOver())
             co_return;
-        if (counters) {
+        if (replies && replies->back()) {
+            const auto counters = ControlPort::getInfoValues(*replies->back());
             failures = 0;
             bool valid = false;
-            if (const quint64 read = counters->value(readKey).toULongLong(&valid); valid)
+            if (const quint64 read = counters.value(readKey).toULongLong(&valid); valid)
                 bytesRead = read;
-            if (const quint64 written = counters->value(writtenKey).toULongLong(&valid); valid)
+            if (valid && commands.size() > 1 && replies->front()) {
+                const quint64 before = ControlPort::getInfoValues(*replies->front())
+                                           .value(readKey)
+                                           .toULongLong(&valid);
+                if (valid)
+                    learnWhatIsCounted(qint64(bytesRead()) - qint64(before),
+                                       commands.back().size() + lineEndBytes);
+            }
+            if (const quint64 written = counters.value(writtenKey).toULongLong(&valid); valid)
                 bytesWritten = written;
-            const QString established = counters->value(establishedKey);
+            const QString established = counters.value(establishedKey);
             if (phase() == ConnectionPhase::connected)
                 lookAtTraffic(established.isEmpty()
                                   ? std::nullopt

@@ -391,6 +391,8 @@ private:
     void startMonitoring();
     void stopMonitoring();
     QCoro::Task<void> monitor(Run run);
+    // The counter of received bytes has grown by `grown` while a command of `asked` bytes was sent.
+    void learnWhatIsCounted(qint64 grown, qsizetype asked);
     // Judges the traffic by the counters and by Tor's report on its circuits.
     void lookAtTraffic(std::optional<bool> hasCircuit);
     void askPast(const QStringList &others);
@@ -469,6 +471,10 @@ private:
         bool mayBeOffline = false;
         OwnAddresses addresses;
         TrafficWatch traffic;
+        // Whether Tor's counters have the control port's bytes. They have those of connections to
+        // private addresses only with CountPrivateBandwidth, as in a test network. Absent: not
+        // known yet.
+        std::optional<bool> countsOwn;
         QStringList passed; // firewalls that let Tor connect nevertheless
         QStringList others; // the further ones that deny outgoing traffic, at the last look
         // No answer came through Tor since they began, although Tor itself reports nothing.

@@ -205,6 +205,69 @@ private Q_SLOTS:
         QVERIFY(bench.controller().denyingFirewalls().isEmpty());
     }
 
+    // Tor counts the control port's bytes only with an option of test networks.
+    void whatTorCountsIsFoundOut_data()
+    {
+        QTest::addColumn<bool>("own"); // the control port's bytes are counted
+        QTest::newRow("without the control port") << false;
+        QTest::newRow("with it") << true;
+    }
+
+    void whatTorCountsIsFoundOut()
+    {
+        QFETCH(bool, own);
+        Workbench bench;
+        const TorController &c = bench.controller();
+        int read = 100000;
+        int written = 100000;
+        const auto tick = [&](int more, int moreWritten) {
+            read += more;
+            written += moreWritten;
+            const auto asked = static_cast<int>(QLatin1String(Workbench::countersCommand).size())
+                + 2;
+            bench.tor.reply("GETINFO traffic/read",
+                            "250-traffic/read=" + QByteArray::number(own ? read - asked : read)
+                                + "\r\n250 OK\r\n");
+            bench.setCounters(QByteArray::number(read), QByteArray::number(written));
+            return bench.tick();
+        };
+        QVERIFY(bench.connect());
+        QVERIFY(tick(0, 0));
+        QCOMPARE(bench.commandCount("GETINFO traffic/read"), 1);
+        if (own) {
+            // These are the questions themselves.
+            for (int look = 0; look < 8; ++look)
+                QVERIFY(tick(200, 5000));
+            QVERIFY(c.stall() == TrafficWatch::Stall::noAnswer);
+            return;
+        }
+        // An idle connection: one cell of padding in both directions each 9.5 s.
+        for (int look = 1; look <= 600; ++look) {
+            QVERIFY(tick(look % 5 == 0 ? 536 : 0, look % 5 == 0 ? 536 : 0));
+            QVERIFY2(!c.stall(), qPrintable(QString::number(look)));
+        }
+        QCOMPARE(bench.commandCount("GETINFO traffic/read"), 1); // it is known
+        for (int look = 0; look < 12; ++look)
+            QVERIFY(tick(0, 536));
+        QVERIFY(c.stall() == TrafficWatch::Stall::noAnswer);
+        bench.disconnect();
+        QVERIFY(bench.connect());
+        QVERIFY(tick(0, 0));
+        QCOMPARE(bench.commandCount("GETINFO traffic/read"), 2); // another Tor may count otherwise
+    }
+
+    void trafficBetweenTheTwoQuestionsDecidesNothing()
+    {
+        Workbench bench;
+        bench.tor.reply("GETINFO traffic/read", "250-traffic/read=400\r\n250 OK\r\n");
+        bench.setCounters("1000", "200");
+        QVERIFY(bench.connect());
+        for (int look = 1; look <= 3; ++look) {
+            QVERIFY(bench.tick());
+            QCOMPARE(bench.commandCount("GETINFO traffic/read"), look);
+        }
+    }
+
     void torBeginsAnewWhenTheAddressHasChanged()
     {
         Workbench bench;
