@@ -129,11 +129,18 @@ find_own() {
 }
 
 # find_filter: sets FILTER to the program that stands before Tor's control port, with its operands, where Tor's account can run it. The
-# mounts that Tor sees hide some places or let nothing run there (INSIDE). Without it Tor has the port itself.
+# mounts that Tor sees hide some places or let nothing run there (INSIDE). Without it Tor has the port itself: in a build folder, or where
+# it is not installed. An installed filter that cannot be used ends the connect, so that no failed look at it takes it away.
 FILTER=()
 find_filter() {
+  local path
   FILTER=() CONTROL_SOCKET=''
-  find_own "$FILTER_NAME" && open_to_all "$OWN_PROGRAM" || return 0
+  if ! find_own "$FILTER_NAME" || ! open_to_all "$OWN_PROGRAM"; then
+    for path in "${SELF%/*}/$FILTER_NAME" "/usr/libexec/veldmark/$FILTER_NAME"; do
+      [[ $SELF != /usr/* || ! -e $path ]] || die "The filter before Tor's control port cannot be used."
+    done
+    return 0
+  fi
   case $OWN_PROGRAM in /home/* | /run/* | /media/* | /mnt/* | /tmp/* | /var/tmp/* | /dev/*) return 0 ;; esac
   CONTROL_SOCKET=$DATA/control
   FILTER=("$OWN_PROGRAM" 127.0.0.1 "$CONTROL_PORT" "$CONTROL_SOCKET" --)
@@ -179,6 +186,8 @@ put_tor() {
   write_file "$TOR_RESOLVER" 0644 root "$FORMER_RESOLVER"$'\n' || die "The file $TOR_RESOLVER cannot be written."
   mv -fT -- "$TORRC.checked" "$TORRC" || die "The file $TORRC cannot be written."
   ready_logs || die "Tor's log files cannot be made."
+  # A former Tor's account may have left anything there.
+  rm -rf -- "$DATA/control"
   launch_tor </dev/null >>"$START_OUT" 2>>"$LAUNCHER_OUT" &
   launcher=$!
   for ((poll = 0; poll < START_POLLS; poll++)); do
@@ -219,8 +228,8 @@ undo_tor() {
   pid=$RECORDED_PID
   for ((poll = 0; poll < STOP_POLLS; poll++)); do
     find_recorded || return 0
-    # Tor, or the filter that passes the signal on to it, is the launcher's child. Tor ignores signals while it starts, so the signal is
-    # repeated.
+    # Tor, or the filter that passes the signal on to it, is the launcher's child. Without the filter Tor ignores signals while it starts,
+    # so the signal is repeated.
     if ((poll % 5 == 0)); then
       read_children "$pid"
       for child in $CHILDREN; do

@@ -128,11 +128,11 @@ ports_are_tors() {
     [[ -n $sockets && $sockets != "$VOUCHED" ]] || return 0
     CHILDREN='' strange=''
     ! { journal_read "$TOR_ENTRY" && find_recorded; } || read_children "$RECORDED_PID"
-    # Where the launcher's child is the filter, Tor is the filter's child.
+    # Where the launcher's child is the filter, Tor is the filter's first child. Later ones are what bridge programs left behind.
     child=${CHILDREN%% *} name=''
     if [[ -n $child ]] && { IFS= read -r name <"/proc/$child/comm"; } 2>/dev/null && [[ $name == "${FILTER_NAME:0:15}" ]]; then
       read_children "$child"
-      CHILDREN="$child $CHILDREN"
+      CHILDREN="$child ${CHILDREN%% *}"
     fi
     while IFS= read -r line; do
       for child in $CHILDREN 0; do

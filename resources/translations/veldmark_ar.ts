@@ -3886,6 +3886,10 @@ a web page. FILE &quot;-&quot; is standard input</source>
         <source>add-bridges needs a file; &quot;-&quot; is standard input.</source>
         <translation>يحتاج add-bridges إلى ملف؛ «-» هو الإدخال القياسي.</translation>
     </message>
+    <message>
+        <source>The filter before Tor&apos;s control port cannot be used.</source>
+        <translation>لا يمكن استخدام المرشّح الموجود أمام منفذ التحكم في Tor.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -3887,6 +3887,10 @@ einer ganzen E-Mail oder einer Webseite. FILE „-“ ist die Standardeingabe</t
         <source>add-bridges needs a file; &quot;-&quot; is standard input.</source>
         <translation>add-bridges braucht eine Datei; „-“ ist die Standardeingabe.</translation>
     </message>
+    <message>
+        <source>The filter before Tor&apos;s control port cannot be used.</source>
+        <translation>Der Filter vor Tors Steuerport kann nicht verwendet werden.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -3887,6 +3887,10 @@ entero o una página web. FILE «-» es la entrada estándar</translation>
         <source>add-bridges needs a file; &quot;-&quot; is standard input.</source>
         <translation>add-bridges necesita un archivo; «-» es la entrada estándar.</translation>
     </message>
+    <message>
+        <source>The filter before Tor&apos;s control port cannot be used.</source>
+        <translation>No se puede usar el filtro que protege el puerto de control de Tor.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -3887,6 +3887,10 @@ page web. « - » comme FILE désigne l’entrée standard</translation>
         <source>add-bridges needs a file; &quot;-&quot; is standard input.</source>
         <translation>add-bridges a besoin d’un fichier ; « - » désigne l’entrée standard.</translation>
     </message>
+    <message>
+        <source>The filter before Tor&apos;s control port cannot be used.</source>
+        <translation>Le filtre placé devant le port de contrôle de Tor ne peut pas être utilisé.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -3887,6 +3887,10 @@ inteiro ou uma página web. FILE &quot;-&quot; é a entrada padrão</translation
         <source>add-bridges needs a file; &quot;-&quot; is standard input.</source>
         <translation>add-bridges precisa de um arquivo; &quot;-&quot; é a entrada padrão.</translation>
     </message>
+    <message>
+        <source>The filter before Tor&apos;s control port cannot be used.</source>
+        <translation>Não é possível usar o filtro diante da porta de controle do Tor.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -3887,6 +3887,10 @@ e-posta ya da web sayfası. FILE &quot;-&quot; standart girdidir</translation>
         <source>add-bridges needs a file; &quot;-&quot; is standard input.</source>
         <translation>add-bridges bir dosya ister; &quot;-&quot; standart girdidir.</translation>
     </message>
+    <message>
+        <source>The filter before Tor&apos;s control port cannot be used.</source>
+        <translation>Tor&apos;un denetim bağlantı noktasının önündeki süzgeç kullanılamıyor.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

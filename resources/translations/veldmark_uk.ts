@@ -3887,6 +3887,10 @@ a web page. FILE &quot;-&quot; is standard input</source>
         <source>add-bridges needs a file; &quot;-&quot; is standard input.</source>
         <translation>add-bridges потребує файлу; «-» — стандартний ввід.</translation>
     </message>
+    <message>
+        <source>The filter before Tor&apos;s control port cannot be used.</source>
+        <translation>Фільтр перед портом керування Tor неможливо використати.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -3886,6 +3886,10 @@ FILE 为“-”时读取标准输入</translation>
         <source>add-bridges needs a file; &quot;-&quot; is standard input.</source>
         <translation>add-bridges 需要一个文件；“-”表示标准输入。</translation>
     </message>
+    <message>
+        <source>The filter before Tor&apos;s control port cannot be used.</source>
+        <translation>无法使用 Tor 控制端口前的过滤器。</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

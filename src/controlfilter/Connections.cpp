@@ -14,9 +14,10 @@ namespace veldmark {
 
 namespace {
 
-constexpr std::size_t mostConnections = 64;
+// Each has two descriptors. So many that a program's connection is not displaced by others before
+// it has said the password.
+constexpr std::size_t mostConnections = 256;
 constexpr int acceptsAtOnce = 16;
-constexpr int backlog = 64;
 // Bytes read at once. An empty line of a program becomes ten bytes for Tor.
 constexpr std::size_t programsPiece = 1024;
 constexpr std::size_t torsPiece = 16384;
@@ -161,7 +162,7 @@ bool Connections::torAnswers()
 
 bool Connections::listen()
 {
-    return ::listen(m_listener.number(), backlog) == 0;
+    return ::listen(m_listener.number(), SOMAXCONN) == 0;
 }
 
 Descriptor Connections::connectToTor() const
@@ -171,6 +172,12 @@ Descriptor Connections::connectToTor() const
         || connect(made.number(), reinterpret_cast<const sockaddr *>(&m_torsPlace),
                    sizeof m_torsPlace)
             != 0)
+        return Descriptor();
+    // The process that began to listen; its number is not used again before this process ends.
+    ucred listener{};
+    socklen_t size = sizeof listener;
+    if (getsockopt(made.number(), SOL_SOCKET, SO_PEERCRED, &listener, &size) != 0
+        || listener.pid != m_tor)
         return Descriptor();
     return made;
 }
@@ -202,10 +209,10 @@ void Connections::accept()
                 || errno == ENOMEM;
             return;
         }
-        makePlace();
         Descriptor tor = m_spare ? std::move(m_spare) : connectToTor();
         if (!tor)
             continue; // the program sees the end of its connection
+        makePlace();
         const int on = 1;
         setsockopt(program.number(), IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
         m_connections.emplace_back(std::move(program), std::move(tor));

@@ -15,7 +15,8 @@ namespace veldmark {
 
 // A connection from a program, and the one to Tor that belongs to it. Neither is read while the
 // other does not take what was read, so the memory is bounded however slow a side is. A program
-// that does not take its answers sends no further commands either, so Tor does not collect answers.
+// that does not take its answers sends no further commands either. Tor still collects the events
+// that such a program has asked for.
 class Connection {
 public:
     Connection(Descriptor program, Descriptor tor);
@@ -53,6 +54,9 @@ public:
     Connections(const char *address, const char *port, const char *socket);
 
     [[nodiscard]] bool hasPort() const { return static_cast<bool>(m_listener); }
+    // Tor's process, in this namespace's numbers. Only with a process that has made its socket by
+    // itself is anything said: bridge programs run in the same account and can replace the socket.
+    void trust(pid_t tor) { m_tor = tor; }
     // Whether Tor listens at its socket. The first connection is kept for the first program.
     [[nodiscard]] bool torAnswers();
     // Listens from now on. errno says why not.
@@ -70,6 +74,7 @@ private:
     [[nodiscard]] bool hasPlace() const;
 
     sockaddr_un m_torsPlace{};
+    pid_t m_tor = -1;
     Descriptor m_listener;
     Descriptor m_spare;                  // to Tor
     std::list<Connection> m_connections; // the oldest first

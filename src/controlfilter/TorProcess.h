@@ -18,6 +18,7 @@ public:
     explicit TorProcess(char *const *words);
 
     [[nodiscard]] bool hasStarted() const { return m_child > 0 && m_signals; }
+    [[nodiscard]] pid_t number() const { return m_child; }
     // Readable when takeSignals() has something to do.
     [[nodiscard]] int descriptor() const { return m_signals.number(); }
 

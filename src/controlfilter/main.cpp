@@ -49,6 +49,7 @@ int main(int argc, char **argv)
                     std::strerror(errno));
         return 1;
     }
+    connections.trust(tor.number());
     pollfd signals = {tor.descriptor(), POLLIN, 0};
     while (!connections.torAnswers()) {
         poll(&signals, 1, startMilliseconds);

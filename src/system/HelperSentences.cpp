@@ -204,6 +204,7 @@ constexpr const char *sources[] = {
     QT_TRANSLATE_NOOP("veldmark::Text", "Tor could not be started (%1)."),
     QT_TRANSLATE_NOOP("veldmark::Text", "Tor could not be stopped."),
     QT_TRANSLATE_NOOP("veldmark::Text", "Tor did not open its control port in time."),
+    QT_TRANSLATE_NOOP("veldmark::Text", "The filter before Tor's control port cannot be used."),
     QT_TRANSLATE_NOOP("veldmark::Text", "Tor did not start: %1"),
     QT_TRANSLATE_NOOP("veldmark::Text", "Tor does not accept its configuration: %1"),
     QT_TRANSLATE_NOOP("veldmark::Text", "Tor's log files cannot be made."),

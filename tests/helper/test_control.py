@@ -172,23 +172,69 @@ class Session(HelperTest):
 
     def test_without_the_filter_the_same_is_taken(self):
         """As in a build folder of a user's, whose copy does not run: Tor has the port itself."""
+        self.machine.shell(f"mv {FILTER} {FILTER}.away")
+        try:
+            self.connect()
+            self.assertEqual(self.filters(), [])
+            self.assertEqual(self.say(WORD, self.REFUSED[0]), ["250 OK"] * 2)
+            self.machine.help("disconnect")
+        finally:
+            self.machine.shell(f"mv {FILTER}.away {FILTER}")
+        self.connect()
+        self.assertEqual(len(self.filters()), 1)
+        self.assertEqual(self.say(WORD, self.REFUSED[0])[1][:4], "510 ")
+
+    def test_an_installed_filter_that_cannot_be_used_ends_the_connect(self):
         for spoil, restore in (
-            (f"mv {FILTER} {FILTER}.away", f"mv {FILTER}.away {FILTER}"),
             (f"chown {USER_UID} {FILTER}", f"chown 0 {FILTER}"),
             (f"chmod 0775 {FILTER}; chgrp {USER_UID} {FILTER}", f"chmod 0755 {FILTER}; chgrp 0 {FILTER}"),
             (f"chmod 0750 {FILTER}", f"chmod 0755 {FILTER}"),
         ):
             self.machine.shell(spoil)
             try:
-                self.connect()
-                self.assertEqual(self.filters(), [], spoil)
-                self.assertEqual(self.say(WORD, self.REFUSED[0]), ["250 OK"] * 2, spoil)
-                self.machine.help("disconnect")
+                done = self.connect(check=False)
+                self.assertNotEqual(done.returncode, 0, spoil)
+                self.assertOneLine(done, "The filter before Tor's control port cannot be used.")
+                self.assertEqual(self.machine.snapshot(), self.before)
             finally:
                 self.machine.shell(restore)
+
+    def test_another_process_of_tors_account_gets_no_password_by_taking_the_place_of_tors_socket(self):
+        """As a bridge program that has been taken over could try. At Tor's own socket, it would get the words."""
         self.connect()
-        self.assertEqual(len(self.filters()), 1)
-        self.assertEqual(self.say(WORD, self.REFUSED[0])[1][:4], "510 ")
+        self.assertEqual(self.say(WORD), ["250 OK"])  # over the connection that was made at the start
+        listen = (
+            "import os, socket, sys\n"
+            f"os.rename('{SOCKET}', '{SOCKET}2'); s = socket.socket(socket.AF_UNIX); s.bind('{SOCKET}'); s.listen(9)\n"
+            "print('up', flush=True); s.settimeout(15)\n"
+            "while True:\n"
+            "    c = s.accept()[0]; words = c.recv(99)\n"
+            "    if words: print(words.decode().strip(), flush=True); break\n"
+        )
+        tor = self.machine.shell("pgrep -u _veldmark -x tor").split()[0]
+        thief = self.machine.start(
+            *("nsenter", "-t", tor, "-m", "-p", "/usr/bin/setpriv", "--reuid=_veldmark", "--regid=_veldmark", "--clear-groups"),
+            *("/usr/bin/python3", "-c", listen),
+            **{"stdout": subprocess.PIPE, "text": True},
+        )
+        try:
+            self.assertEqual(thief.stdout.readline(), "up\n")
+            self.assertEqual(self.say(WORD), ["closed"])
+            # The positive: it is there, and takes what others say to it.
+            self.say(WORD, place=SOCKET, uid=0)
+            self.assertEqual(thief.stdout.readline(), WORD + "\n")
+        finally:
+            thief.kill()
+            thief.communicate()
+
+    def test_what_a_former_tor_left_at_its_sockets_place_is_removed(self):
+        self.connect()
+        self.machine.help("disconnect")
+        for left in (f"ln -sfT /tmp/elsewhere {SOCKET}", f"rm -f {SOCKET}; mkdir -p {SOCKET}/full/of"):
+            self.machine.shell(left)
+            self.connect()
+            self.assertEqual(self.say(WORD, "GETINFO circuit-status"), ["250 OK"] * 2, left)
+            self.machine.help("disconnect")
 
     def test_without_the_password_tor_says_no(self):
         self.connect()
@@ -273,8 +319,8 @@ class Session(HelperTest):
         try:
             self.assertEqual(holder.stdout.readline(), b"up\n")
             told = []
-            for mode in "755", "000":
-                self.machine.shell(f"chmod {mode} {FILTER}")
+            for place in FILTER, FILTER + ".away":
+                self.machine.shell(f"test -e {place} || mv {FILTER} {place}")
                 for strict in "1", "0":
                     done = self.connect(strict=strict, check=False)
                     self.assertOneLine(done, "Tor did not start: Could not bind to 127.0.0.1:9051: Address already in use.")
@@ -282,7 +328,7 @@ class Session(HelperTest):
                     self.machine.help("disconnect")
             self.assertEqual(told[:2], told[2:])
         finally:
-            self.machine.shell(f"chmod 755 {FILTER}")
+            self.machine.shell(f"test -e {FILTER} || mv {FILTER}.away {FILTER}")
             holder.communicate()
 
     def test_the_other_ports_are_told_as_well(self):
@@ -292,14 +338,14 @@ class Session(HelperTest):
         self.machine.shell("sed -i 's/^DisableNetwork 1$/DisableNetwork 0/' /etc/tor/torrc-defaults")
         try:
             self.assertEqual(holder.stdout.readline(), b"up\n")
-            for mode in "755", "000":
-                self.machine.shell(f"chmod {mode} {FILTER}")
+            for place in FILTER, FILTER + ".away":
+                self.machine.shell(f"test -e {place} || mv {FILTER} {place}")
                 self.assertOneLine(
                     self.connect(check=False), "Tor did not start: Could not bind to 127.0.0.1:9050: Address already in use."
                 )
                 self.machine.help("disconnect")
         finally:
-            self.machine.shell(f"chmod 755 {FILTER}; sed -i 's/^DisableNetwork 0$/DisableNetwork 1/' /etc/tor/torrc-defaults")
+            self.machine.shell(f"test -e {FILTER} || mv {FILTER}.away {FILTER}; sed -i 's/^DisableNetwork 0$/DisableNetwork 1/' /etc/tor/torrc-defaults")
             holder.communicate()
         self.before = self.machine.snapshot()
 
@@ -429,7 +475,7 @@ class Program(HelperTest):
         self.begin_fake()
         self.assertEqual(
             self.as_client(
-                "first = known(); all = [to() for _ in range(300)]\nprint(ask(known(), b'CLOSECIRCUIT 1'), ask(first, b'CLOSECIRCUIT 2'))"
+                "first = known(); all = [to() for _ in range(600)]\nprint(ask(known(), b'CLOSECIRCUIT 1'), ask(first, b'CLOSECIRCUIT 2'))"
             ),
             ["510 CLOSECIRCUIT 1 510 CLOSECIRCUIT 2"],
         )
@@ -439,7 +485,7 @@ class Program(HelperTest):
         self.begin_fake()
         self.assertEqual(
             self.as_client(
-                "all = [known() for _ in range(64)]\nlate = to(); late.sendall(b'AUTHENTICATE \"x\"\\r\\n'); late.settimeout(0.5)\n"
+                "all = [known() for _ in range(256)]\nlate = to(); late.sendall(b'AUTHENTICATE \"x\"\\r\\n'); late.settimeout(0.5)\n"
                 "try: print(late.recv(99))\nexcept TimeoutError: print('waits')\n"
                 "print(len({ask(c, b'CLOSECIRCUIT 1') for c in all})); all.pop().close(); late.settimeout(10); print(late.recv(99).decode().strip())"
             ),
