@@ -29,7 +29,7 @@ constexpr int signalled = 128; // plus the signal's number
         || sigprocmask(SIG_SETMASK, &formerMask, nullptr) != 0)
         _exit(cannotRun);
     execv(words[0], words);
-    std::printf("[err] %s cannot be run: %s\n", words[0], std::strerror(errno));
+    std::printf("[err] %s cannot be run: %s.\n", words[0], std::strerror(errno));
     std::fflush(stdout);
     _exit(cannotRun);
 }

@@ -45,7 +45,7 @@ int main(int argc, char **argv)
         return reportTakenPort(argv[1], argv[2]);
     TorProcess tor(argv + 5);
     if (!tor.hasStarted() || !giveUpRights()) {
-        std::printf("[err] The filter before the control port cannot start: %s\n",
+        std::printf("[err] The filter before the control port cannot start: %s.\n",
                     std::strerror(errno));
         return 1;
     }

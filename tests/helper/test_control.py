@@ -416,7 +416,7 @@ class Program(HelperTest):
             process.communicate(timeout=20)
             self.assertEqual(process.returncode, status, script)
         process = self.begin("/no/such/tor")
-        self.assertIn("[err] /no/such/tor cannot be run: No such file", process.communicate(timeout=20)[0])
+        self.assertIn("[err] /no/such/tor cannot be run: No such file or directory.\n", process.communicate(timeout=20)[0])
         self.assertEqual(process.returncode, 127)
 
     def test_it_passes_signals_on(self):
