@@ -359,9 +359,8 @@ number_of() { dscl . -read "$1" "$2" | awk '{ print $2 }'; }
 tor_reaches_out() { as_ids "$(number_of /Users/_veldmark UniqueID)" "$(number_of /Users/_veldmark PrimaryGroupID)" "${reach[@]}"; }
 bypass_reaches_out() { as_ids "$user" "$(number_of /Groups/_veldmark_bypass PrimaryGroupID)" "${reach[@]}"; }
 watcher_puts_back() {
-  local try
   pfctl -q -a veldmark -F rules || return 1
-  for try in 1 2 3 4 5 6 7 8 9 10; do
+  for _ in 1 2 3 4 5 6 7 8 9 10; do
     sleep 1
     [[ $(cat /private/var/run/veldmark.watch) != "restored 1 "* ]] || break
   done

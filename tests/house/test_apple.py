@@ -43,7 +43,7 @@ LINUX_ONLY = {
     "src/launch/SessionEnvironment.cpp",
     "src/launch/Application.cpp",
 }
-LINUX_ROOMS = ("src/identify/", "tests/unit/identify/")
+LINUX_ROOMS = ("src/identify/", "src/controlfilter/", "tests/unit/identify/", "tests/unit/controlfilter/")
 
 
 def for_macs(text):
@@ -141,7 +141,7 @@ class Apple(unittest.TestCase):
             "".join(
                 f'#include "{path.relative_to(ROOT / "src")}"\n'
                 for path in sorted((ROOT / "src").rglob("*.h"))
-                if path.parent.name != "identify"
+                if not str(path.relative_to(ROOT)).startswith(LINUX_ROOMS)
             ),
             encoding="utf-8",
         )

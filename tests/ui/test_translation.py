@@ -55,7 +55,8 @@ NO_WORDS = re.compile(
     r"(?:sudo|veldmarkctl|brew|SETCONF|do shell script|Match exec|execution error:) |\./build|--| --|/|\^|# |\[Desktop|yyyy"
     r"|Tor version \(|(?:\\n)*Tor (?:Browser|Expert Bundle)|your package manager$|the file manager$|This Mac$|\" with "
 )
-# Sources whose sentences go to a log. (The programs of the rooms launch and identify have no translations: the helper calls them.)
+# Sources whose sentences go to a log. (The programs of the rooms launch, identify and controlfilter
+# have no translations: the helper calls them.)
 LOGGED = "checks/ExitCheckProbe.cpp", "checks/IPCheck.cpp"
 # The report is English, for those who help.
 REPORTED = (
@@ -153,7 +154,7 @@ class Sentences(unittest.TestCase):
             name = str(path.relative_to(SOURCES))
             if (
                 path.suffix in (".cpp", ".h", ".mm")
-                and not name.startswith(("launch/", "identify/"))
+                and not name.startswith(("launch/", "identify/", "controlfilter/"))
                 and name not in LOGGED + REPORTED
             ):
                 self.assertEqual(list(sentences(path)), [], name)
