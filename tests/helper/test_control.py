@@ -345,7 +345,9 @@ class Session(HelperTest):
                 )
                 self.machine.help("disconnect")
         finally:
-            self.machine.shell(f"test -e {FILTER} || mv {FILTER}.away {FILTER}; sed -i 's/^DisableNetwork 0$/DisableNetwork 1/' /etc/tor/torrc-defaults")
+            self.machine.shell(
+                f"test -e {FILTER} || mv {FILTER}.away {FILTER}; sed -i 's/^DisableNetwork 0$/DisableNetwork 1/' /etc/tor/torrc-defaults"
+            )
             holder.communicate()
         self.before = self.machine.snapshot()
 
