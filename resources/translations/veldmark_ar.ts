@@ -3932,6 +3932,14 @@ a web page. FILE &quot;-&quot; is standard input</source>
             <numerusform>جارٍ اختبار %n جسر…</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1 for *.%2</source>
+        <translation>⁨%1⁩ للنطاق ⁨*.%2⁩</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>⁨%1⁩ على ⁨%2⁩</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

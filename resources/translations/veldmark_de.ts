@@ -3909,6 +3909,14 @@ einer ganzen E-Mail oder einer Webseite. FILE „-“ ist die Standardeingabe</t
             <numerusform>%n Brücken werden getestet…</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1 for *.%2</source>
+        <translation>%1 für *.%2</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 über %2</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -3909,6 +3909,14 @@ entero o una página web. FILE «-» es la entrada estándar</translation>
             <numerusform>Probando %n puentes…</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1 for *.%2</source>
+        <translation>%1 para *.%2</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 en %2</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -3903,6 +3903,14 @@ a web page. FILE &quot;-&quot; is standard input</source>
             <numerusform>آزمودن %n پل…</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1 for *.%2</source>
+        <translation>⁨%1⁩ برای ⁨*.%2⁩</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>⁨%1⁩ روی ⁨%2⁩</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -3909,6 +3909,14 @@ page web. « - » comme FILE désigne l’entrée standard</translation>
             <numerusform>Test de %n ponts…</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1 for *.%2</source>
+        <translation>%1 pour *.%2</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

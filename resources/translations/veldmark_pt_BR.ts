@@ -3909,6 +3909,14 @@ inteiro ou uma página web. FILE &quot;-&quot; é a entrada padrão</translation
             <numerusform>Testando %n pontes…</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1 for *.%2</source>
+        <translation>%1 para *.%2</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 em %2</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -3915,6 +3915,14 @@ a web page. FILE &quot;-&quot; is standard input</source>
             <numerusform>Проверяется %n мостов…</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1 for *.%2</source>
+        <translation>%1 для *.%2</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 через %2</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -3903,6 +3903,14 @@ e-posta ya da web sayfası. FILE &quot;-&quot; standart girdidir</translation>
             <numerusform>%n köprü test ediliyor…</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1 for *.%2</source>
+        <translation>*.%2 için %1</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%2 üzerinde %1</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

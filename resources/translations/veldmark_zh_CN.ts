@@ -3902,6 +3902,14 @@ FILE 为“-”时读取标准输入</translation>
             <numerusform>正在测试 %n 个网桥…</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1 for *.%2</source>
+        <translation>%1（用于 *.%2）</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%2 上的 %1</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -508,7 +508,7 @@ private Q_SLOTS:
         QCOMPARE(panel.leakingResolvers().size(), 3);
         QCOMPARE(panel.moreResolvers(), QString());
         s.dns = DNSStatus::leak(s.dns.leaks()
-                                + QStringList{QStringLiteral("d"), QStringLiteral("e")});
+                                + QList<Text>{QStringLiteral("d"), QStringLiteral("e")});
         session.show(s);
         QCOMPARE(panel.leakingResolvers().size(), 3);
         QCOMPARE(panel.moreResolvers(), QStringLiteral("2 more"));
