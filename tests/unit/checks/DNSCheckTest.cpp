@@ -214,7 +214,7 @@ private Q_SLOTS:
         row("local without mDNS", "resolver #2\ndomain : local\nnameserver[0] : 1.2.3.4\n", {});
         row("below local", "resolver #2\ndomain : a.local\nnameserver[0] : 1.2.3.4\n",
             {text("1.2.3.4 for *.a.local")});
-        row("reverse look-ups",
+        row("reverse lookups",
             "resolver #3\ndomain : 168.192.in-addr.arpa\nnameserver[0] : 1.2.3.4\n"
             "resolver #4\ndomain : 8.e.f.ip6.arpa\nnameserver[0] : 1.2.3.4\n",
             {});
