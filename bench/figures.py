@@ -5,6 +5,8 @@ import json
 import statistics
 import subprocess
 import sys
+import time
+from collections.abc import Callable
 from pathlib import Path
 
 sys.dont_write_bytecode = True
@@ -16,6 +18,7 @@ from moving import say  # noqa: E402
 PROGRAMS = PROJECT / "build" / "bin"
 BENCHES = PROJECT / "build" / "dev" / "bench"
 RUN_FOLDER = "/var/lib/veldmark/run"
+FIXED_STEPS = 20_000
 
 
 @dataclasses.dataclass
@@ -30,8 +33,8 @@ class Rounds:
 
 
 class Figures:
-    """The table, printed row by row. A goal is a maximum or a minimum. A value without a goal is a yardstick, or explains another
-    value."""
+    """The table, printed row by row. A goal is a maximum or a minimum, of a share of a yardstick where it would be a time. A value
+    without a goal is a yardstick, or explains another value."""
 
     def __init__(self, judges: bool):
         self.rows: list[dict] = []
@@ -58,6 +61,19 @@ def middle(values: list[float]) -> float:
 
 def spread(values: list[float]) -> str:
     return f"of {len(values)}, {min(values):.2f} to {max(values):.2f}"
+
+
+def fixed_computation(clock: Callable[[], float] = time.perf_counter) -> float:
+    """The milliseconds of a fixed computation, the same on every machine: making and finding small objects."""
+    start = clock()
+    relays = {f"relay{number}": [number] for number in range(FIXED_STEPS)}
+    assert sum(relays[f"relay{number}"][0] for number in range(FIXED_STEPS)) == FIXED_STEPS * (FIXED_STEPS - 1) // 2
+    return (clock() - start) * 1000
+
+
+def fixed_time(rounds: Rounds, clock: Callable[[], float] = time.perf_counter) -> float:
+    """The yardstick of what no other program does: how fast this machine is now, by the same kind of time."""
+    return middle([fixed_computation(clock) for _ in range(rounds.of(8))])
 
 
 def measured(program: str, *arguments: str) -> dict:

@@ -2,7 +2,7 @@
 
 import subprocess
 
-from figures import RUN_FOLDER, Figures, Rounds, hashed_password, middle, spread
+from figures import RUN_FOLDER, Figures, Rounds, fixed_time, hashed_password, middle, spread
 
 # Sends for a second and prints what the other side received: bytes over one TCP stream, at memory speed or at the rate of a fast
 # network card, or datagrams of 64 bytes.
@@ -82,6 +82,7 @@ def run_in_lab(figures: Figures, rounds: Rounds, lab, product) -> None:
     product.run_helper(*words, check=True)  # Tor's account exists from here on
     script = f"for i in $(seq {rounds.of(20)}); do start=${{EPOCHREALTIME/./}}; nft -f {RUN_FOLDER}/firewall.nft; echo $((${{EPOCHREALTIME/./}} - start)); done"
     loads = [int(line) / 1000 for line in lab.host.run(["bash", "-c", script], check=True).stdout.split()]
+    fixed = fixed_time(rounds)
     product.run_helper("disconnect", check=True)
     taken: dict[tuple, list[float]] = {path: [] for path in PATHS}
     costs: dict[tuple, list[float]] = {path: [] for path in PATHS}
@@ -98,7 +99,8 @@ def run_in_lab(figures: Figures, rounds: Rounds, lab, product) -> None:
             costs[path].append(without[path][1] / cost)
             of_tracked[path].append(number / tracked[path][0])
         product.run_helper("disconnect", check=True)
-    figures.add("kill switch: rules loaded", middle(loads), "ms", spread(loads), most=50)
+    figures.add("kill switch: rules loaded", middle(loads), "ms", spread(loads))
+    figures.add("  in fixed computations", middle(loads) / fixed, "", f"of {fixed:.2f} ms", most=12)
     for path, (name, least) in PATHS.items():
         figures.add(
             f"{name}, share of without rules",

@@ -1,22 +1,11 @@
 """Reading Tor's replies and log, by Veldmark and by other programs."""
 
 import tempfile
-import time
 from pathlib import Path
 
-from figures import Figures, Rounds, measured, middle, spread
+from figures import Figures, Rounds, fixed_computation, measured, middle, spread
 from groups.log_yardstick import log_file, read_with_python
 from groups.stem_yardstick import read_with_stem
-
-FIXED_STEPS = 20_000
-
-
-def fixed_computation() -> float:
-    """The milliseconds of a fixed computation, the same on every machine: making and finding small objects."""
-    start = time.perf_counter()
-    relays = {f"relay{number}": [number] for number in range(FIXED_STEPS)}
-    assert sum(relays[f"relay{number}"][0] for number in range(FIXED_STEPS)) == FIXED_STEPS * (FIXED_STEPS - 1) // 2
-    return (time.perf_counter() - start) * 1000
 
 
 def run(figures: Figures, rounds: Rounds) -> None:

@@ -1,6 +1,6 @@
 """What terminal mode's hook adds to a shell's prompt."""
 
-from figures import Figures, Rounds, middle, spread
+from figures import Figures, Rounds, fixed_time, middle, spread
 
 PROMPTS = 1000
 PLAIN_HOME = "/root/plain"
@@ -45,5 +45,7 @@ def run_in_lab(figures: Figures, rounds: Rounds, lab, product) -> None:
                     with_hook.append(time_prompts(lab, shell, "/root"))
                 figures.add(f"{shell} prompt without the hook, {state}", middle(without), "ms", spread(without))
                 figures.add(f"{shell} prompt with the hook, {state}", middle(with_hook), "ms", spread(with_hook))
-                figures.add("  the hook adds", middle(with_hook) - middle(without), "ms", most=1)
+                added, fixed = middle(with_hook) - middle(without), fixed_time(rounds)
+                figures.add("  the hook adds", added, "ms")
+                figures.add("  in fixed computations", added / fixed, "", f"of {fixed:.2f} ms", most=0.25)
         session.interrupt()

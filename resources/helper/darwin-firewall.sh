@@ -147,7 +147,7 @@ enable_firewall() {
     [[ $output =~ $TOKEN_LINE ]] || die "The firewall gave no token."
     token=${BASH_REMATCH[1]}
   fi
-  journal_put "$FIREWALL_ENTRY" "boot $boot" "token $token" || die "The journal cannot be written."
+  journal_must "$FIREWALL_ENTRY" "boot $boot" "token $token"
 }
 
 # kill_states: removes all of pf's states, so that connections from before a change end.

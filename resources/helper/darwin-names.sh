@@ -102,7 +102,7 @@ put_names() {
   JOURNAL_LINES=()
   hosts_text || die "The file $HOSTS cannot be read."
   [[ -z $HOSTS_TEXT || $HOSTS_TEXT == *$'\n' ]] || joined=1
-  journal_put "$NAMES_ENTRY" "joined $joined" || die "The journal cannot be written."
+  journal_must "$NAMES_ENTRY" "joined $joined"
   ((joined == 0)) || HOSTS_TEXT=$HOSTS_TEXT$'\n'
   write_hosts "$HOSTS_TEXT$HOSTS_BEGIN"$'\n'"$NAMES_TEXT$HOSTS_END"$'\n' || die "The file $HOSTS cannot be written."
 }

@@ -25,11 +25,11 @@ darwin_connect() {
   fi
   if [[ $former == strict ]]; then
     guard_session
-    STAYS_CLOSED=" The network stays blocked until you disconnect."
+    stay_closed
   else
     ON_FAILURE=undo
   fi
-  journal_has "$FIREWALL_ENTRY" || journal_put "$FIREWALL_ENTRY" "boot $boot" || die "The journal cannot be written."
+  journal_once "$FIREWALL_ENTRY" "boot $boot"
   note_asked
   [[ $mode != strict ]] || put_bypass
   if [[ $former != strict || $mode == strict ]]; then
@@ -37,8 +37,7 @@ darwin_connect() {
   fi
   if [[ $mode == strict ]]; then
     put_watcher
-    ON_FAILURE=
-    STAYS_CLOSED=" The network stays blocked until you disconnect."
+    stay_closed
   fi
   undo_entry "$TOR_ENTRY" || ! journal_has "$TOR_ENTRY" || die "$UNDONE"
   put_names

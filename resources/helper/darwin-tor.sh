@@ -66,7 +66,7 @@ put_tor() {
   put_in_place "$TORRC.checked" "$TORRC" || die "The file $TORRC cannot be written."
   ready_logs || die "Tor's log files cannot be made."
   write_file "$TOR_JOB" 0644 root "$(print_tor_job)"$'\n' || die "The file $TOR_JOB cannot be written."
-  journal_put "$TOR_ENTRY" "label $TOR_LABEL" || die "The journal cannot be written."
+  journal_must "$TOR_ENTRY" "label $TOR_LABEL"
   output=$(start_job "$TOR_LABEL" "$TOR_JOB" 2>&1) || {
     output=${output##*$'\n'}
     die "Tor could not be started (${output//[[:cntrl:]]/ })."

@@ -49,7 +49,7 @@ print_watcher() {
   declare -p ANCHOR RULES LISTED RULES_LOCK MARKER JOURNAL KILL_SWITCH_NOTE FIREWALL_ENTRY WATCH_SECONDS \
     HOLD PUT TOKEN_LINE WORD MISSED SINCE NOTED
   printf 'JOURNAL_LINES=()\ndie() { exit 1; }\n'
-  declare -f read_marker put_in_place write_file note_rules journal_put journal_has journal_read journal_value boot_id hold_rules \
+  declare -f read_marker put_in_place write_file note_rules journal_put journal_must journal_has journal_read journal_value boot_id hold_rules \
     release_rules read_lines pf_words load_rules list_filter skipped_devices put_reference print_referring print_without print_normal held_token enable_firewall \
     kill_states list_rules need_devices put_rules rules_stand relock watch_rules
   printf 'watch_rules\nexit 0\n'

@@ -31,6 +31,10 @@ journal_put() {
   write_file "$JOURNAL/$name" 0600 root "$text"
 }
 
+# journal_must NAME LINE...: likewise, or ends the run. journal_once: only when there is no such entry yet.
+journal_must() { journal_put "$@" || die "The journal cannot be written."; }
+journal_once() { journal_has "$1" || journal_must "$@"; }
+
 journal_has() { [[ -f $JOURNAL/$1 && ! -L $JOURNAL/$1 ]]; }
 
 # journal_read NAME: fills JOURNAL_LINES; status 1 when there is no such entry, 2 when it is torn.

@@ -32,7 +32,7 @@ make_bypass() {
 put_bypass() {
   find_bypass || return 0
   [[ -z ${1-} ]] || undo_bypass || { BYPASS_PATH='' && return 0; }
-  journal_has "$BYPASS_ENTRY" || journal_put "$BYPASS_ENTRY" "group $BYPASS_NAME" || die "The journal cannot be written."
+  journal_once "$BYPASS_ENTRY" "group $BYPASS_NAME"
   make_bypass
 }
 

@@ -71,8 +71,7 @@ put_gnome() {
     fi
   done <"$ANSWER"
   ((${#was[@]})) || return 1
-  journal_has "$GNOME_ENTRY" || journal_put "$GNOME_ENTRY" "uid $CALLER_UID" "${was[@]}" ||
-    die "The journal cannot be written."
+  journal_once "$GNOME_ENTRY" "uid $CALLER_UID" "${was[@]}"
   while IFS= read -r line; do
     values[${#values[@]}]=$line
   done <<<"${texts#*$'\n'}"

@@ -91,7 +91,7 @@ put_identities() {
   accounts=$(list_accounts)
   # shellcheck disable=SC2086
   text=$(print_identities $accounts)
-  journal_put "$IDENTITIES_ENTRY" "table $IDENTITIES" || die "The journal cannot be written."
+  journal_must "$IDENTITIES_ENTRY" "table $IDENTITIES"
   put_identifier "$nft" <<<"$text" >/dev/null 2>&1 &
 }
 

@@ -132,8 +132,7 @@ put_kde() {
   read_kde || status=$?
   ((status != 3)) || return 0
   ((status == 0)) || return 1
-  journal_has "$KDE_ENTRY" || journal_put "$KDE_ENTRY" "uid $CALLER_UID" "file $KDE_FILE" ||
-    die "The journal cannot be written."
+  journal_once "$KDE_ENTRY" "uid $CALLER_UID" "file $KDE_FILE"
   text=$(kde_ours "$KDE_FILE" "$OPT_LAN")
   printf '%s' "${text%x}" | as_session "$KDE_WRITE" file
 }

@@ -15,7 +15,7 @@ put_loopback() {
   command -v ethtool >/dev/null || return 0
   features=$(ask_ethtool -k lo) || return 1
   [[ $features$'\n' == *$'\n'"$LATE_CUT: on"$'\n'* ]] || return 0
-  journal_has "$LOOPBACK_ENTRY" || journal_put "$LOOPBACK_ENTRY" "feature $LATE_CUT" || die "The journal cannot be written."
+  journal_once "$LOOPBACK_ENTRY" "feature $LATE_CUT"
   ask_ethtool -K lo "$LATE_CUT" off >/dev/null
 }
 

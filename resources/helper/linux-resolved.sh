@@ -43,7 +43,7 @@ put_resolved() {
     if [[ $kind != dns && $values == no ]] && former=$(journal_value "$kind $link"); then line="$kind $former"; fi
     kept[${#kept[@]}]=$line
   done < <(print_links dns; print_links dnsovertls; print_links dnssec)
-  journal_put "$RESOLVED_ENTRY" "${kept[@]}" || die "The journal cannot be written."
+  journal_must "$RESOLVED_ENTRY" "${kept[@]}"
 
   # Tor's DNS port supports neither TLS nor DNSSEC.
   for link in $links; do
@@ -113,14 +113,12 @@ put_global() {
   has_resolved && command -v systemctl >/dev/null || return 0
   servers=$(global_servers)
   [[ -n $servers ]] && ! is_our_server "$servers" || return 0
-  if ! journal_has "$GLOBAL_ENTRY"; then
-    if [[ -d $folder ]]; then
-      journal_put "$GLOBAL_ENTRY" "file $GLOBAL_FILE" || die "The journal cannot be written."
-    else
-      journal_put "$GLOBAL_ENTRY" "file $GLOBAL_FILE" "created 1" || die "The journal cannot be written."
-    fi
+  if [[ -d $folder ]]; then
+    journal_once "$GLOBAL_ENTRY" "file $GLOBAL_FILE"
+  else
+    journal_once "$GLOBAL_ENTRY" "file $GLOBAL_FILE" "created 1"
+    mkdir -m 0755 -- "$folder" || return 1
   fi
-  [[ -d $folder ]] || mkdir -m 0755 -- "$folder" || return 1
   write_file "$GLOBAL_FILE" 0644 root "$(print_global)"$'\n' && restart_resolved || return 1
   # NetworkManager sets the links' servers again after the daemon has restarted.
   if [[ -d /run/NetworkManager ]]; then

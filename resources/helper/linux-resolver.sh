@@ -98,14 +98,12 @@ put_resolver() {
     return
   fi
   unmount_resolver || die "$UNDONE"
-  if ! journal_has "$RESOLVER_ENTRY"; then
-    if is_managers "$RESOLVER_TARGET"; then
-      journal_put "$RESOLVER_ENTRY" "target $RESOLVER_TARGET" "writer NetworkManager" || die "The journal cannot be written."
-    elif [[ -e $RESOLVER_TARGET ]]; then
-      journal_put "$RESOLVER_ENTRY" "target $RESOLVER_TARGET" || die "The journal cannot be written."
-    else
-      journal_put "$RESOLVER_ENTRY" "target $RESOLVER_TARGET" "created 1" || die "The journal cannot be written."
-    fi
+  if is_managers "$RESOLVER_TARGET"; then
+    journal_once "$RESOLVER_ENTRY" "target $RESOLVER_TARGET" "writer NetworkManager"
+  elif [[ -e $RESOLVER_TARGET ]]; then
+    journal_once "$RESOLVER_ENTRY" "target $RESOLVER_TARGET"
+  else
+    journal_once "$RESOLVER_ENTRY" "target $RESOLVER_TARGET" "created 1"
   fi
   write_file "$OUR_RESOLVER" 0644 root "$text"$'\n' || die "The file $OUR_RESOLVER cannot be written."
   if [[ ! -e $RESOLVER_TARGET ]]; then

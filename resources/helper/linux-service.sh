@@ -120,7 +120,7 @@ put_service() {
   for unit in $TAKEN; do
     noted[${#noted[@]}]="unit $unit"
   done
-  journal_put "$SERVICE_ENTRY" "boot $(boot_id)" "${noted[@]}" || die "The journal cannot be written."
+  journal_must "$SERVICE_ENTRY" "boot $(boot_id)" "${noted[@]}"
   for unit in $TAKEN; do
     ask_systemd "$SERVICE_SECONDS" stop -- "$unit" >/dev/null || die "The system's own Tor service ($unit) cannot be stopped."
   done

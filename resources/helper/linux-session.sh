@@ -43,11 +43,11 @@ linux_connect() {
   fi
   if [[ $former == strict ]]; then
     guard_session
-    STAYS_CLOSED=" The network stays blocked until you disconnect."
+    stay_closed
   else
     ON_FAILURE=undo
   fi
-  journal_has "$FIREWALL_ENTRY" || journal_put "$FIREWALL_ENTRY" "table $TABLE" || die "The journal cannot be written."
+  journal_once "$FIREWALL_ENTRY" "table $TABLE"
   note_owner
   note_asked
   [[ $former == strict ]] || new=new
@@ -56,8 +56,7 @@ linux_connect() {
   put_loopback || true
   if [[ $mode == strict ]]; then
     put_watcher
-    ON_FAILURE=
-    STAYS_CLOSED=" The network stays blocked until you disconnect."
+    stay_closed
   fi
   undo_entry "$TOR_ENTRY" || ! journal_has "$TOR_ENTRY" || die "$UNDONE"
   put_service

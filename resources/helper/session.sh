@@ -5,6 +5,9 @@
 ON_FAILURE=''   # "undo" while a failure must undo everything; empty before the first change and while the kill switch stays on
 UNDONE=''       # why an undo_... function failed
 
+# stay_closed: from now on a failure leaves the kill switch on.
+stay_closed() { ON_FAILURE='' STAYS_CLOSED=" The network stays blocked until you disconnect."; }
+
 # in_path NAME: whether there is such a program, and it can run.
 in_path() {
   local folder IFS=:

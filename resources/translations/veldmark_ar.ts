@@ -951,10 +951,6 @@
         <translation>تستخدمه دائرة واحدة</translation>
     </message>
     <message>
-        <source>Used by %1 circuits</source>
-        <translation>الدوائر التي تستخدمه: %1</translation>
-    </message>
-    <message>
         <source>ENTRY</source>
         <translation>الدخول</translation>
     </message>
@@ -974,6 +970,17 @@
         <source>%1 more</source>
         <translation>⁨%1⁩ غيرها</translation>
     </message>
+    <message numerus="yes">
+        <source>Used by %n circuits</source>
+        <translation>
+            <numerusform>لا تستخدمه أي دائرة</numerusform>
+            <numerusform>تستخدمه دائرة واحدة</numerusform>
+            <numerusform>تستخدمه دائرتان</numerusform>
+            <numerusform>تستخدمه %n دوائر</numerusform>
+            <numerusform>تستخدمه %n دائرة</numerusform>
+            <numerusform>تستخدمه %n دائرة</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>veldmark::CircuitsModel</name>
@@ -992,10 +999,6 @@
     <message>
         <source>1 active path</source>
         <translation>مسار نشط واحد</translation>
-    </message>
-    <message>
-        <source>%1 active paths</source>
-        <translation>المسارات النشطة: %1</translation>
     </message>
     <message>
         <source> · click a relay or site to follow it</source>
@@ -1044,6 +1047,17 @@
     <message>
         <source>Round trip: %1</source>
         <translation>ذهابًا وإيابًا: ⁨%1⁩</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n active paths</source>
+        <translation>
+            <numerusform>لا مسارات نشطة</numerusform>
+            <numerusform>مسار نشط واحد</numerusform>
+            <numerusform>مساران نشطان</numerusform>
+            <numerusform>%n مسارات نشطة</numerusform>
+            <numerusform>%n مسارًا نشطًا</numerusform>
+            <numerusform>%n مسار نشط</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1104,10 +1118,6 @@
         <translation>سطر واحد</translation>
     </message>
     <message>
-        <source>%1 lines</source>
-        <translation>الأسطر: %1</translation>
-    </message>
-    <message>
         <source>Problems</source>
         <translation>المشكلات</translation>
     </message>
@@ -1130,6 +1140,17 @@
     <message>
         <source>No file manager could be opened. The log files are in %1.</source>
         <translation>تعذر فتح مدير ملفات. ملفات السجل في ⁨%1⁩.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines</source>
+        <translation>
+            <numerusform>لا أسطر</numerusform>
+            <numerusform>سطر واحد</numerusform>
+            <numerusform>سطران</numerusform>
+            <numerusform>%n أسطر</numerusform>
+            <numerusform>%n سطرًا</numerusform>
+            <numerusform>%n سطر</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1183,10 +1204,6 @@
         <translation>تم التعرف على جسر واحد</translation>
     </message>
     <message>
-        <source>%1 bridges recognized</source>
-        <translation>الجسور المتعرَّف عليها: %1</translation>
-    </message>
-    <message>
         <source>A bridge line can&apos;t contain #, &quot; or \.</source>
         <translation>لا يمكن أن يحتوي سطر الجسر على # أو &quot; أو \.</translation>
     </message>
@@ -1199,10 +1216,6 @@
         <translation>لم يُتعرف على سطر واحد</translation>
     </message>
     <message>
-        <source>%1 lines not recognized</source>
-        <translation>أسطر لم يُتعرف عليها: %1</translation>
-    </message>
-    <message>
         <source>None</source>
         <translation>لا يوجد</translation>
     </message>
@@ -1213,6 +1226,28 @@
     <message>
         <source>In strict mode, these apps can connect directly instead of through Tor, using your real IP address. Everything else stays locked. Open them with &lt;b&gt;Open without Tor&lt;/b&gt; (not from the desktop&apos;s menu) so Veldmark can tag them. A running copy is quit and reopened.</source>
         <translation>في الوضع الصارم، تستطيع هذه التطبيقات الاتصال مباشرة بدل المرور عبر Tor، مستخدمةً عنوان IP الحقيقي الخاص بك. ويبقى كل ما عداها محصورًا في Tor. افتحها بزر &lt;b&gt;فتح بدون Tor&lt;/b&gt; (لا من قائمة سطح المكتب) كي يستطيع Veldmark وسمها. إذا كانت نسخة منها تعمل فستُغلق ويُعاد فتحها.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bridges recognized</source>
+        <translation>
+            <numerusform>لم يتم التعرف على أي جسر</numerusform>
+            <numerusform>تم التعرف على جسر واحد</numerusform>
+            <numerusform>تم التعرف على جسرين</numerusform>
+            <numerusform>تم التعرف على %n جسور</numerusform>
+            <numerusform>تم التعرف على %n جسرًا</numerusform>
+            <numerusform>تم التعرف على %n جسر</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines not recognized</source>
+        <translation>
+            <numerusform>لا أسطر غير متعرَّف عليها</numerusform>
+            <numerusform>لم يُتعرف على سطر واحد</numerusform>
+            <numerusform>لم يُتعرف على سطرين</numerusform>
+            <numerusform>لم يُتعرف على %n أسطر</numerusform>
+            <numerusform>لم يُتعرف على %n سطرًا</numerusform>
+            <numerusform>لم يُتعرف على %n سطر</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1816,10 +1851,6 @@
     <message>
         <source>At most %1 custom bridges can be used. Remove some under Bridges → Custom….</source>
         <translation>أقصى عدد للجسور المخصصة المستخدمة: %1. أزل بعضها في «الجسور ← مخصصة…».</translation>
-    </message>
-    <message>
-        <source>Testing %1 bridges…</source>
-        <translation>جارٍ اختبار الجسور (العدد: %1)…</translation>
     </message>
     <message>
         <source>Testing speed (%1 of %2)…</source>
@@ -3889,6 +3920,25 @@ a web page. FILE &quot;-&quot; is standard input</source>
     <message>
         <source>The filter before Tor&apos;s control port cannot be used.</source>
         <translation>لا يمكن استخدام المرشّح الموجود أمام منفذ التحكم في Tor.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Testing %n bridges…</source>
+        <translation>
+            <numerusform>لا جسور للاختبار…</numerusform>
+            <numerusform>جارٍ اختبار جسر واحد…</numerusform>
+            <numerusform>جارٍ اختبار جسرين…</numerusform>
+            <numerusform>جارٍ اختبار %n جسور…</numerusform>
+            <numerusform>جارٍ اختبار %n جسرًا…</numerusform>
+            <numerusform>جارٍ اختبار %n جسر…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 for *.%2</source>
+        <translation>⁨%1⁩ للنطاق ⁨*.%2⁩</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>⁨%1⁩ على ⁨%2⁩</translation>
     </message>
 </context>
 <context>

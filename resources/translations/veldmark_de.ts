@@ -951,10 +951,6 @@
         <translation>Von 1 Kanal benutzt</translation>
     </message>
     <message>
-        <source>Used by %1 circuits</source>
-        <translation>Von %1 Kanälen benutzt</translation>
-    </message>
-    <message>
         <source>ENTRY</source>
         <translation>EINGANG</translation>
     </message>
@@ -974,6 +970,13 @@
         <source>%1 more</source>
         <translation>%1 weitere</translation>
     </message>
+    <message numerus="yes">
+        <source>Used by %n circuits</source>
+        <translation>
+            <numerusform>Von %n Kanal benutzt</numerusform>
+            <numerusform>Von %n Kanälen benutzt</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>veldmark::CircuitsModel</name>
@@ -992,10 +995,6 @@
     <message>
         <source>1 active path</source>
         <translation>1 aktiver Weg</translation>
-    </message>
-    <message>
-        <source>%1 active paths</source>
-        <translation>%1 aktive Wege</translation>
     </message>
     <message>
         <source> · click a relay or site to follow it</source>
@@ -1044,6 +1043,13 @@
     <message>
         <source>Round trip: %1</source>
         <translation>Hin und zurück: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n active paths</source>
+        <translation>
+            <numerusform>%n aktiver Weg</numerusform>
+            <numerusform>%n aktive Wege</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1104,10 +1110,6 @@
         <translation>1 Zeile</translation>
     </message>
     <message>
-        <source>%1 lines</source>
-        <translation>%1 Zeilen</translation>
-    </message>
-    <message>
         <source>Problems</source>
         <translation>Probleme</translation>
     </message>
@@ -1130,6 +1132,13 @@
     <message>
         <source>No file manager could be opened. The log files are in %1.</source>
         <translation>Es konnte kein Dateimanager geöffnet werden. Die Protokolldateien liegen in %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines</source>
+        <translation>
+            <numerusform>%n Zeile</numerusform>
+            <numerusform>%n Zeilen</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1183,10 +1192,6 @@
         <translation>1 Brücke erkannt</translation>
     </message>
     <message>
-        <source>%1 bridges recognized</source>
-        <translation>%1 Brücken erkannt</translation>
-    </message>
-    <message>
         <source>A bridge line can&apos;t contain #, &quot; or \.</source>
         <translation>Eine Brückenzeile kann kein #, &quot; oder \ enthalten.</translation>
     </message>
@@ -1199,10 +1204,6 @@
         <translation>1 Zeile nicht erkannt</translation>
     </message>
     <message>
-        <source>%1 lines not recognized</source>
-        <translation>%1 Zeilen nicht erkannt</translation>
-    </message>
-    <message>
         <source>None</source>
         <translation>Keine</translation>
     </message>
@@ -1213,6 +1214,20 @@
     <message>
         <source>In strict mode, these apps can connect directly instead of through Tor, using your real IP address. Everything else stays locked. Open them with &lt;b&gt;Open without Tor&lt;/b&gt; (not from the desktop&apos;s menu) so Veldmark can tag them. A running copy is quit and reopened.</source>
         <translation>Im strikten Modus dürfen sich diese Apps direkt statt durch Tor verbinden, mit Ihrer echten IP-Adresse. Alles andere geht weiterhin nur durch Tor. Öffnen Sie sie mit &lt;b&gt;Ohne Tor öffnen&lt;/b&gt; (nicht aus dem Menü der Arbeitsumgebung), damit Veldmark sie kennzeichnen kann. Eine laufende Kopie wird beendet und neu geöffnet.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bridges recognized</source>
+        <translation>
+            <numerusform>%n Brücke erkannt</numerusform>
+            <numerusform>%n Brücken erkannt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines not recognized</source>
+        <translation>
+            <numerusform>%n Zeile nicht erkannt</numerusform>
+            <numerusform>%n Zeilen nicht erkannt</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1816,10 +1831,6 @@
     <message>
         <source>At most %1 custom bridges can be used. Remove some under Bridges → Custom….</source>
         <translation>Höchstens %1 eigene Brücken können benutzt werden. Entfernen Sie einige unter „Brücken → Eigene…“.</translation>
-    </message>
-    <message>
-        <source>Testing %1 bridges…</source>
-        <translation>%1 Brücken werden getestet…</translation>
     </message>
     <message>
         <source>Testing speed (%1 of %2)…</source>
@@ -3890,6 +3901,21 @@ einer ganzen E-Mail oder einer Webseite. FILE „-“ ist die Standardeingabe</t
     <message>
         <source>The filter before Tor&apos;s control port cannot be used.</source>
         <translation>Der Filter vor Tors Steuerport kann nicht verwendet werden.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Testing %n bridges…</source>
+        <translation>
+            <numerusform>%n Brücke wird getestet…</numerusform>
+            <numerusform>%n Brücken werden getestet…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 for *.%2</source>
+        <translation>%1 für *.%2</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 über %2</translation>
     </message>
 </context>
 <context>

@@ -951,10 +951,6 @@
         <translation>Usado por 1 circuito</translation>
     </message>
     <message>
-        <source>Used by %1 circuits</source>
-        <translation>Usado por %1 circuitos</translation>
-    </message>
-    <message>
         <source>ENTRY</source>
         <translation>ENTRADA</translation>
     </message>
@@ -974,6 +970,13 @@
         <source>%1 more</source>
         <translation>%1 más</translation>
     </message>
+    <message numerus="yes">
+        <source>Used by %n circuits</source>
+        <translation>
+            <numerusform>Usado por %n circuito</numerusform>
+            <numerusform>Usado por %n circuitos</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>veldmark::CircuitsModel</name>
@@ -992,10 +995,6 @@
     <message>
         <source>1 active path</source>
         <translation>1 ruta activa</translation>
-    </message>
-    <message>
-        <source>%1 active paths</source>
-        <translation>%1 rutas activas</translation>
     </message>
     <message>
         <source> · click a relay or site to follow it</source>
@@ -1044,6 +1043,13 @@
     <message>
         <source>Round trip: %1</source>
         <translation>Ida y vuelta: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n active paths</source>
+        <translation>
+            <numerusform>%n ruta activa</numerusform>
+            <numerusform>%n rutas activas</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1104,10 +1110,6 @@
         <translation>1 línea</translation>
     </message>
     <message>
-        <source>%1 lines</source>
-        <translation>%1 líneas</translation>
-    </message>
-    <message>
         <source>Problems</source>
         <translation>Problemas</translation>
     </message>
@@ -1130,6 +1132,13 @@
     <message>
         <source>No file manager could be opened. The log files are in %1.</source>
         <translation>No se pudo abrir ningún gestor de archivos. Los archivos de registro están en %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines</source>
+        <translation>
+            <numerusform>%n línea</numerusform>
+            <numerusform>%n líneas</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1183,10 +1192,6 @@
         <translation>1 puente reconocido</translation>
     </message>
     <message>
-        <source>%1 bridges recognized</source>
-        <translation>%1 puentes reconocidos</translation>
-    </message>
-    <message>
         <source>A bridge line can&apos;t contain #, &quot; or \.</source>
         <translation>Una línea de puente no puede contener #, &quot; ni \.</translation>
     </message>
@@ -1199,10 +1204,6 @@
         <translation>1 línea no reconocida</translation>
     </message>
     <message>
-        <source>%1 lines not recognized</source>
-        <translation>%1 líneas no reconocidas</translation>
-    </message>
-    <message>
         <source>None</source>
         <translation>Ninguna</translation>
     </message>
@@ -1213,6 +1214,20 @@
     <message>
         <source>In strict mode, these apps can connect directly instead of through Tor, using your real IP address. Everything else stays locked. Open them with &lt;b&gt;Open without Tor&lt;/b&gt; (not from the desktop&apos;s menu) so Veldmark can tag them. A running copy is quit and reopened.</source>
         <translation>En modo estricto, estas aplicaciones pueden conectarse directamente en vez de por Tor, con su dirección IP real. Todo lo demás sigue pasando solo por Tor. Ábralas con &lt;b&gt;Abrir sin Tor&lt;/b&gt; (no desde el menú del escritorio) para que Veldmark pueda marcarlas. Si una ya está abierta, se cierra y se vuelve a abrir.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bridges recognized</source>
+        <translation>
+            <numerusform>%n puente reconocido</numerusform>
+            <numerusform>%n puentes reconocidos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines not recognized</source>
+        <translation>
+            <numerusform>%n línea no reconocida</numerusform>
+            <numerusform>%n líneas no reconocidas</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1816,10 +1831,6 @@
     <message>
         <source>At most %1 custom bridges can be used. Remove some under Bridges → Custom….</source>
         <translation>Se pueden usar %1 puentes propios como máximo. Quite algunos en «Puentes → Propios…».</translation>
-    </message>
-    <message>
-        <source>Testing %1 bridges…</source>
-        <translation>Probando puentes (%1)…</translation>
     </message>
     <message>
         <source>Testing speed (%1 of %2)…</source>
@@ -3890,6 +3901,21 @@ entero o una página web. FILE «-» es la entrada estándar</translation>
     <message>
         <source>The filter before Tor&apos;s control port cannot be used.</source>
         <translation>No se puede usar el filtro que protege el puerto de control de Tor.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Testing %n bridges…</source>
+        <translation>
+            <numerusform>Probando %n puente…</numerusform>
+            <numerusform>Probando %n puentes…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 for *.%2</source>
+        <translation>%1 para *.%2</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 en %2</translation>
     </message>
 </context>
 <context>

@@ -951,10 +951,6 @@
         <translation>در یک مدار به کار رفته</translation>
     </message>
     <message>
-        <source>Used by %1 circuits</source>
-        <translation>در %1 مدار به کار رفته</translation>
-    </message>
-    <message>
         <source>ENTRY</source>
         <translation>ورودی</translation>
     </message>
@@ -974,6 +970,12 @@
         <source>%1 more</source>
         <translation>%1 مورد دیگر</translation>
     </message>
+    <message numerus="yes">
+        <source>Used by %n circuits</source>
+        <translation>
+            <numerusform>در %n مدار به کار رفته</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>veldmark::CircuitsModel</name>
@@ -992,10 +994,6 @@
     <message>
         <source>1 active path</source>
         <translation>یک مسیر فعال</translation>
-    </message>
-    <message>
-        <source>%1 active paths</source>
-        <translation>%1 مسیر فعال</translation>
     </message>
     <message>
         <source> · click a relay or site to follow it</source>
@@ -1044,6 +1042,12 @@
     <message>
         <source>Round trip: %1</source>
         <translation>رفت و برگشت: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n active paths</source>
+        <translation>
+            <numerusform>%n مسیر فعال</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1104,10 +1108,6 @@
         <translation>یک خط</translation>
     </message>
     <message>
-        <source>%1 lines</source>
-        <translation>%1 خط</translation>
-    </message>
-    <message>
         <source>Problems</source>
         <translation>مشکل‌ها</translation>
     </message>
@@ -1130,6 +1130,12 @@
     <message>
         <source>No file manager could be opened. The log files are in %1.</source>
         <translation>باز کردن مدیر پرونده ممکن نشد. پرونده‌های گزارش در ⁨%1⁩ هستند.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines</source>
+        <translation>
+            <numerusform>%n خط</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1183,10 +1189,6 @@
         <translation>یک پل شناخته شد</translation>
     </message>
     <message>
-        <source>%1 bridges recognized</source>
-        <translation>%1 پل شناخته شد</translation>
-    </message>
-    <message>
         <source>A bridge line can&apos;t contain #, &quot; or \.</source>
         <translation>در خط پل، نویسه‌های ⁨#⁩ و ⁨&quot;⁩ و ⁨\⁩ مجاز نیستند.</translation>
     </message>
@@ -1199,10 +1201,6 @@
         <translation>یک خط شناخته نشد</translation>
     </message>
     <message>
-        <source>%1 lines not recognized</source>
-        <translation>%1 خط شناخته نشد</translation>
-    </message>
-    <message>
         <source>None</source>
         <translation>هیچ</translation>
     </message>
@@ -1213,6 +1211,18 @@
     <message>
         <source>In strict mode, these apps can connect directly instead of through Tor, using your real IP address. Everything else stays locked. Open them with &lt;b&gt;Open without Tor&lt;/b&gt; (not from the desktop&apos;s menu) so Veldmark can tag them. A running copy is quit and reopened.</source>
         <translation>در حالت سخت‌گیرانه، این برنامه‌ها می‌توانند به جای Tor مستقیم و با نشانی IP واقعی شما وصل شوند. هر چیز دیگر همچنان فقط از Tor می‌گذرد. آن‌ها را با &lt;b&gt;باز کردن بدون Tor&lt;/b&gt; باز کنید (نه از منوی میزکار) تا Veldmark بتواند نشان‌دارشان کند. اگر برنامه در حال اجرا باشد، بسته و دوباره باز می‌شود.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bridges recognized</source>
+        <translation>
+            <numerusform>%n پل شناخته شد</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines not recognized</source>
+        <translation>
+            <numerusform>%n خط شناخته نشد</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1816,10 +1826,6 @@
     <message>
         <source>At most %1 custom bridges can be used. Remove some under Bridges → Custom….</source>
         <translation>حداکثر %1 پل سفارشی را می‌توان به کار برد. چند پل را در «پل‌ها ← سفارشی…» بردارید.</translation>
-    </message>
-    <message>
-        <source>Testing %1 bridges…</source>
-        <translation>آزمودن %1 پل…</translation>
     </message>
     <message>
         <source>Testing speed (%1 of %2)…</source>
@@ -3890,6 +3896,20 @@ a web page. FILE &quot;-&quot; is standard input</source>
     <message>
         <source>The filter before Tor&apos;s control port cannot be used.</source>
         <translation>صافی جلوی درگاه کنترل Tor قابل استفاده نیست.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Testing %n bridges…</source>
+        <translation>
+            <numerusform>آزمودن %n پل…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 for *.%2</source>
+        <translation>⁨%1⁩ برای ⁨*.%2⁩</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>⁨%1⁩ روی ⁨%2⁩</translation>
     </message>
 </context>
 <context>

@@ -951,10 +951,6 @@
         <translation>Utilisé par 1 circuit</translation>
     </message>
     <message>
-        <source>Used by %1 circuits</source>
-        <translation>Utilisé par %1 circuits</translation>
-    </message>
-    <message>
         <source>ENTRY</source>
         <translation>ENTRÉE</translation>
     </message>
@@ -974,6 +970,13 @@
         <source>%1 more</source>
         <translation>%1 de plus</translation>
     </message>
+    <message numerus="yes">
+        <source>Used by %n circuits</source>
+        <translation>
+            <numerusform>Utilisé par %n circuit</numerusform>
+            <numerusform>Utilisé par %n circuits</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>veldmark::CircuitsModel</name>
@@ -992,10 +995,6 @@
     <message>
         <source>1 active path</source>
         <translation>1 chemin actif</translation>
-    </message>
-    <message>
-        <source>%1 active paths</source>
-        <translation>%1 chemins actifs</translation>
     </message>
     <message>
         <source> · click a relay or site to follow it</source>
@@ -1044,6 +1043,13 @@
     <message>
         <source>Round trip: %1</source>
         <translation>Aller-retour : %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n active paths</source>
+        <translation>
+            <numerusform>%n chemin actif</numerusform>
+            <numerusform>%n chemins actifs</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1104,10 +1110,6 @@
         <translation>1 ligne</translation>
     </message>
     <message>
-        <source>%1 lines</source>
-        <translation>%1 lignes</translation>
-    </message>
-    <message>
         <source>Problems</source>
         <translation>Problèmes</translation>
     </message>
@@ -1130,6 +1132,13 @@
     <message>
         <source>No file manager could be opened. The log files are in %1.</source>
         <translation>Aucun gestionnaire de fichiers n’a pu être ouvert. Les fichiers journaux se trouvent dans %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines</source>
+        <translation>
+            <numerusform>%n ligne</numerusform>
+            <numerusform>%n lignes</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1183,10 +1192,6 @@
         <translation>1 pont reconnu</translation>
     </message>
     <message>
-        <source>%1 bridges recognized</source>
-        <translation>%1 ponts reconnus</translation>
-    </message>
-    <message>
         <source>A bridge line can&apos;t contain #, &quot; or \.</source>
         <translation>Une ligne de pont ne peut pas contenir #, &quot; ou \.</translation>
     </message>
@@ -1199,10 +1204,6 @@
         <translation>1 ligne non reconnue</translation>
     </message>
     <message>
-        <source>%1 lines not recognized</source>
-        <translation>%1 lignes non reconnues</translation>
-    </message>
-    <message>
         <source>None</source>
         <translation>Aucune</translation>
     </message>
@@ -1213,6 +1214,20 @@
     <message>
         <source>In strict mode, these apps can connect directly instead of through Tor, using your real IP address. Everything else stays locked. Open them with &lt;b&gt;Open without Tor&lt;/b&gt; (not from the desktop&apos;s menu) so Veldmark can tag them. A running copy is quit and reopened.</source>
         <translation>En mode strict, ces applications peuvent se connecter directement au lieu de passer par Tor, avec votre adresse IP réelle. Tout le reste demeure confiné à Tor. Ouvrez-les avec &lt;b&gt;Ouvrir sans Tor&lt;/b&gt; (et non depuis le menu du bureau) pour que Veldmark puisse les marquer. Une copie déjà ouverte est fermée puis rouverte.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bridges recognized</source>
+        <translation>
+            <numerusform>%n pont reconnu</numerusform>
+            <numerusform>%n ponts reconnus</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines not recognized</source>
+        <translation>
+            <numerusform>%n ligne non reconnue</numerusform>
+            <numerusform>%n lignes non reconnues</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1816,10 +1831,6 @@
     <message>
         <source>At most %1 custom bridges can be used. Remove some under Bridges → Custom….</source>
         <translation>%1 ponts personnalisés au maximum peuvent être utilisés. Supprimez-en sous « Ponts → Personnalisés… ».</translation>
-    </message>
-    <message>
-        <source>Testing %1 bridges…</source>
-        <translation>Test des ponts (%1)…</translation>
     </message>
     <message>
         <source>Testing speed (%1 of %2)…</source>
@@ -3890,6 +3901,21 @@ page web. « - » comme FILE désigne l’entrée standard</translation>
     <message>
         <source>The filter before Tor&apos;s control port cannot be used.</source>
         <translation>Le filtre placé devant le port de contrôle de Tor ne peut pas être utilisé.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Testing %n bridges…</source>
+        <translation>
+            <numerusform>Test de %n pont…</numerusform>
+            <numerusform>Test de %n ponts…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 for *.%2</source>
+        <translation>%1 pour *.%2</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 sur %2</translation>
     </message>
 </context>
 <context>

@@ -951,10 +951,6 @@
         <translation>Usado por 1 circuito</translation>
     </message>
     <message>
-        <source>Used by %1 circuits</source>
-        <translation>Usado por %1 circuitos</translation>
-    </message>
-    <message>
         <source>ENTRY</source>
         <translation>ENTRADA</translation>
     </message>
@@ -974,6 +970,13 @@
         <source>%1 more</source>
         <translation>mais %1</translation>
     </message>
+    <message numerus="yes">
+        <source>Used by %n circuits</source>
+        <translation>
+            <numerusform>Usado por %n circuito</numerusform>
+            <numerusform>Usado por %n circuitos</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>veldmark::CircuitsModel</name>
@@ -992,10 +995,6 @@
     <message>
         <source>1 active path</source>
         <translation>1 caminho ativo</translation>
-    </message>
-    <message>
-        <source>%1 active paths</source>
-        <translation>%1 caminhos ativos</translation>
     </message>
     <message>
         <source> · click a relay or site to follow it</source>
@@ -1044,6 +1043,13 @@
     <message>
         <source>Round trip: %1</source>
         <translation>Ida e volta: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n active paths</source>
+        <translation>
+            <numerusform>%n caminho ativo</numerusform>
+            <numerusform>%n caminhos ativos</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1104,10 +1110,6 @@
         <translation>1 linha</translation>
     </message>
     <message>
-        <source>%1 lines</source>
-        <translation>%1 linhas</translation>
-    </message>
-    <message>
         <source>Problems</source>
         <translation>Problemas</translation>
     </message>
@@ -1130,6 +1132,13 @@
     <message>
         <source>No file manager could be opened. The log files are in %1.</source>
         <translation>Não foi possível abrir um gerenciador de arquivos. Os arquivos de registro estão em %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines</source>
+        <translation>
+            <numerusform>%n linha</numerusform>
+            <numerusform>%n linhas</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1183,10 +1192,6 @@
         <translation>1 ponte reconhecida</translation>
     </message>
     <message>
-        <source>%1 bridges recognized</source>
-        <translation>%1 pontes reconhecidas</translation>
-    </message>
-    <message>
         <source>A bridge line can&apos;t contain #, &quot; or \.</source>
         <translation>Uma linha de ponte não pode conter #, &quot; nem \.</translation>
     </message>
@@ -1199,10 +1204,6 @@
         <translation>1 linha não reconhecida</translation>
     </message>
     <message>
-        <source>%1 lines not recognized</source>
-        <translation>%1 linhas não reconhecidas</translation>
-    </message>
-    <message>
         <source>None</source>
         <translation>Nenhuma</translation>
     </message>
@@ -1213,6 +1214,20 @@
     <message>
         <source>In strict mode, these apps can connect directly instead of through Tor, using your real IP address. Everything else stays locked. Open them with &lt;b&gt;Open without Tor&lt;/b&gt; (not from the desktop&apos;s menu) so Veldmark can tag them. A running copy is quit and reopened.</source>
         <translation>No modo estrito, estes aplicativos podem se conectar diretamente, e não pelo Tor, usando o seu endereço IP real. Todo o resto continua restrito ao Tor. Abra-os com &lt;b&gt;Abrir sem o Tor&lt;/b&gt; (não pelo menu do ambiente de trabalho) para que o Veldmark possa marcá-los. Uma cópia em execução é encerrada e aberta de novo.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bridges recognized</source>
+        <translation>
+            <numerusform>%n ponte reconhecida</numerusform>
+            <numerusform>%n pontes reconhecidas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines not recognized</source>
+        <translation>
+            <numerusform>%n linha não reconhecida</numerusform>
+            <numerusform>%n linhas não reconhecidas</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1816,10 +1831,6 @@
     <message>
         <source>At most %1 custom bridges can be used. Remove some under Bridges → Custom….</source>
         <translation>No máximo %1 pontes personalizadas podem ser usadas. Remova algumas em “Pontes → Personalizadas”.</translation>
-    </message>
-    <message>
-        <source>Testing %1 bridges…</source>
-        <translation>Testando as pontes (%1)…</translation>
     </message>
     <message>
         <source>Testing speed (%1 of %2)…</source>
@@ -3890,6 +3901,21 @@ inteiro ou uma página web. FILE &quot;-&quot; é a entrada padrão</translation
     <message>
         <source>The filter before Tor&apos;s control port cannot be used.</source>
         <translation>Não é possível usar o filtro diante da porta de controle do Tor.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Testing %n bridges…</source>
+        <translation>
+            <numerusform>Testando %n ponte…</numerusform>
+            <numerusform>Testando %n pontes…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 for *.%2</source>
+        <translation>%1 para *.%2</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 em %2</translation>
     </message>
 </context>
 <context>

@@ -951,10 +951,6 @@
         <translation>Используется в 1 цепочке</translation>
     </message>
     <message>
-        <source>Used by %1 circuits</source>
-        <translation>Используется в цепочках: %1</translation>
-    </message>
-    <message>
         <source>ENTRY</source>
         <translation>ВХОД</translation>
     </message>
@@ -974,6 +970,14 @@
         <source>%1 more</source>
         <translation>ещё %1</translation>
     </message>
+    <message numerus="yes">
+        <source>Used by %n circuits</source>
+        <translation>
+            <numerusform>Используется в %n цепочке</numerusform>
+            <numerusform>Используется в %n цепочках</numerusform>
+            <numerusform>Используется в %n цепочках</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>veldmark::CircuitsModel</name>
@@ -991,11 +995,7 @@
     </message>
     <message>
         <source>1 active path</source>
-        <translation>Активных путей: 1</translation>
-    </message>
-    <message>
-        <source>%1 active paths</source>
-        <translation>Активных путей: %1</translation>
+        <translation>1 активный путь</translation>
     </message>
     <message>
         <source> · click a relay or site to follow it</source>
@@ -1044,6 +1044,14 @@
     <message>
         <source>Round trip: %1</source>
         <translation>Туда и обратно: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n active paths</source>
+        <translation>
+            <numerusform>%n активный путь</numerusform>
+            <numerusform>%n активных пути</numerusform>
+            <numerusform>%n активных путей</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1104,10 +1112,6 @@
         <translation>1 строка</translation>
     </message>
     <message>
-        <source>%1 lines</source>
-        <translation>Строк: %1</translation>
-    </message>
-    <message>
         <source>Problems</source>
         <translation>Проблемы</translation>
     </message>
@@ -1130,6 +1134,14 @@
     <message>
         <source>No file manager could be opened. The log files are in %1.</source>
         <translation>Не удалось открыть файловый менеджер. Файлы журнала находятся в %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines</source>
+        <translation>
+            <numerusform>%n строка</numerusform>
+            <numerusform>%n строки</numerusform>
+            <numerusform>%n строк</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1180,11 +1192,7 @@
     </message>
     <message>
         <source>1 bridge recognized</source>
-        <translation>Распознано мостов: 1</translation>
-    </message>
-    <message>
-        <source>%1 bridges recognized</source>
-        <translation>Распознано мостов: %1</translation>
+        <translation>Распознан 1 мост</translation>
     </message>
     <message>
         <source>A bridge line can&apos;t contain #, &quot; or \.</source>
@@ -1196,11 +1204,7 @@
     </message>
     <message>
         <source>1 line not recognized</source>
-        <translation>Не распознано строк: 1</translation>
-    </message>
-    <message>
-        <source>%1 lines not recognized</source>
-        <translation>Не распознано строк: %1</translation>
+        <translation>Не распознана 1 строка</translation>
     </message>
     <message>
         <source>None</source>
@@ -1213,6 +1217,22 @@
     <message>
         <source>In strict mode, these apps can connect directly instead of through Tor, using your real IP address. Everything else stays locked. Open them with &lt;b&gt;Open without Tor&lt;/b&gt; (not from the desktop&apos;s menu) so Veldmark can tag them. A running copy is quit and reopened.</source>
         <translation>В строгом режиме эти приложения могут подключаться напрямую, а не через Tor, с вашим реальным IP-адресом. Всё остальное — по-прежнему только через Tor. Открывайте их кнопкой &lt;b&gt;Открыть без Tor&lt;/b&gt; (не из меню рабочей среды), чтобы Veldmark мог их пометить. Уже запущенная копия будет закрыта и открыта заново.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bridges recognized</source>
+        <translation>
+            <numerusform>Распознан %n мост</numerusform>
+            <numerusform>Распознано %n моста</numerusform>
+            <numerusform>Распознано %n мостов</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines not recognized</source>
+        <translation>
+            <numerusform>Не распознана %n строка</numerusform>
+            <numerusform>Не распознано %n строки</numerusform>
+            <numerusform>Не распознано %n строк</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1816,10 +1836,6 @@
     <message>
         <source>At most %1 custom bridges can be used. Remove some under Bridges → Custom….</source>
         <translation>Своих мостов можно использовать не более %1. Удалите лишние в «Мосты → Свои…».</translation>
-    </message>
-    <message>
-        <source>Testing %1 bridges…</source>
-        <translation>Проверка мостов (%1)…</translation>
     </message>
     <message>
         <source>Testing speed (%1 of %2)…</source>
@@ -3890,6 +3906,22 @@ a web page. FILE &quot;-&quot; is standard input</source>
     <message>
         <source>The filter before Tor&apos;s control port cannot be used.</source>
         <translation>Фильтр перед портом управления Tor не может быть использован.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Testing %n bridges…</source>
+        <translation>
+            <numerusform>Проверяется %n мост…</numerusform>
+            <numerusform>Проверяются %n моста…</numerusform>
+            <numerusform>Проверяется %n мостов…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 for *.%2</source>
+        <translation>%1 для *.%2</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 через %2</translation>
     </message>
 </context>
 <context>

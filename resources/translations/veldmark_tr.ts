@@ -951,10 +951,6 @@
         <translation>1 devre kullanıyor</translation>
     </message>
     <message>
-        <source>Used by %1 circuits</source>
-        <translation>%1 devre kullanıyor</translation>
-    </message>
-    <message>
         <source>ENTRY</source>
         <translation>GİRİŞ</translation>
     </message>
@@ -974,6 +970,12 @@
         <source>%1 more</source>
         <translation>%1 tane daha</translation>
     </message>
+    <message numerus="yes">
+        <source>Used by %n circuits</source>
+        <translation>
+            <numerusform>%n devre kullanıyor</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>veldmark::CircuitsModel</name>
@@ -992,10 +994,6 @@
     <message>
         <source>1 active path</source>
         <translation>1 etkin yol</translation>
-    </message>
-    <message>
-        <source>%1 active paths</source>
-        <translation>%1 etkin yol</translation>
     </message>
     <message>
         <source> · click a relay or site to follow it</source>
@@ -1044,6 +1042,12 @@
     <message>
         <source>Round trip: %1</source>
         <translation>Gidiş dönüş: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n active paths</source>
+        <translation>
+            <numerusform>%n etkin yol</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1104,10 +1108,6 @@
         <translation>1 satır</translation>
     </message>
     <message>
-        <source>%1 lines</source>
-        <translation>%1 satır</translation>
-    </message>
-    <message>
         <source>Problems</source>
         <translation>Sorunlar</translation>
     </message>
@@ -1130,6 +1130,12 @@
     <message>
         <source>No file manager could be opened. The log files are in %1.</source>
         <translation>Hiçbir dosya yöneticisi açılamadı. Günlük dosyalarının yeri: %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines</source>
+        <translation>
+            <numerusform>%n satır</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1183,10 +1189,6 @@
         <translation>1 köprü tanındı</translation>
     </message>
     <message>
-        <source>%1 bridges recognized</source>
-        <translation>%1 köprü tanındı</translation>
-    </message>
-    <message>
         <source>A bridge line can&apos;t contain #, &quot; or \.</source>
         <translation>Köprü satırı #, &quot; ya da \ içeremez.</translation>
     </message>
@@ -1199,10 +1201,6 @@
         <translation>1 satır tanınmadı</translation>
     </message>
     <message>
-        <source>%1 lines not recognized</source>
-        <translation>%1 satır tanınmadı</translation>
-    </message>
-    <message>
         <source>None</source>
         <translation>Yok</translation>
     </message>
@@ -1213,6 +1211,18 @@
     <message>
         <source>In strict mode, these apps can connect directly instead of through Tor, using your real IP address. Everything else stays locked. Open them with &lt;b&gt;Open without Tor&lt;/b&gt; (not from the desktop&apos;s menu) so Veldmark can tag them. A running copy is quit and reopened.</source>
         <translation>Sıkı kipte bu uygulamalar Tor yerine doğrudan, gerçek IP adresinizle bağlanabilir. Geri kalan her şey yalnızca Tor&apos;dan geçebilir. Veldmark&apos;ın onları işaretleyebilmesi için bu uygulamaları (masaüstü menüsünden değil) &lt;b&gt;Tor olmadan aç&lt;/b&gt; ile açın. Çalışan bir kopya kapatılıp yeniden açılır.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bridges recognized</source>
+        <translation>
+            <numerusform>%n köprü tanındı</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines not recognized</source>
+        <translation>
+            <numerusform>%n satır tanınmadı</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1816,10 +1826,6 @@
     <message>
         <source>At most %1 custom bridges can be used. Remove some under Bridges → Custom….</source>
         <translation>En çok %1 özel köprü kullanılabilir. Bir kısmını “Köprüler → Özel…” altında kaldırın.</translation>
-    </message>
-    <message>
-        <source>Testing %1 bridges…</source>
-        <translation>%1 köprü test ediliyor…</translation>
     </message>
     <message>
         <source>Testing speed (%1 of %2)…</source>
@@ -3890,6 +3896,20 @@ e-posta ya da web sayfası. FILE &quot;-&quot; standart girdidir</translation>
     <message>
         <source>The filter before Tor&apos;s control port cannot be used.</source>
         <translation>Tor&apos;un denetim bağlantı noktasının önündeki süzgeç kullanılamıyor.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Testing %n bridges…</source>
+        <translation>
+            <numerusform>%n köprü test ediliyor…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 for *.%2</source>
+        <translation>*.%2 için %1</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%2 üzerinde %1</translation>
     </message>
 </context>
 <context>

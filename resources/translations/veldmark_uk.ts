@@ -951,10 +951,6 @@
         <translation>Використовується в 1 ланцюгу</translation>
     </message>
     <message>
-        <source>Used by %1 circuits</source>
-        <translation>Використовується в ланцюгах: %1</translation>
-    </message>
-    <message>
         <source>ENTRY</source>
         <translation>ВХІД</translation>
     </message>
@@ -974,6 +970,14 @@
         <source>%1 more</source>
         <translation>ще %1</translation>
     </message>
+    <message numerus="yes">
+        <source>Used by %n circuits</source>
+        <translation>
+            <numerusform>Використовується в %n ланцюгу</numerusform>
+            <numerusform>Використовується в %n ланцюгах</numerusform>
+            <numerusform>Використовується в %n ланцюгах</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>veldmark::CircuitsModel</name>
@@ -992,10 +996,6 @@
     <message>
         <source>1 active path</source>
         <translation>1 активний шлях</translation>
-    </message>
-    <message>
-        <source>%1 active paths</source>
-        <translation>Активних шляхів: %1</translation>
     </message>
     <message>
         <source> · click a relay or site to follow it</source>
@@ -1044,6 +1044,14 @@
     <message>
         <source>Round trip: %1</source>
         <translation>Туди й назад: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n active paths</source>
+        <translation>
+            <numerusform>%n активний шлях</numerusform>
+            <numerusform>%n активні шляхи</numerusform>
+            <numerusform>%n активних шляхів</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1104,10 +1112,6 @@
         <translation>1 рядок</translation>
     </message>
     <message>
-        <source>%1 lines</source>
-        <translation>Рядків: %1</translation>
-    </message>
-    <message>
         <source>Problems</source>
         <translation>Проблеми</translation>
     </message>
@@ -1130,6 +1134,14 @@
     <message>
         <source>No file manager could be opened. The log files are in %1.</source>
         <translation>Не вдалося відкрити менеджер файлів. Файли журналу містяться в %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines</source>
+        <translation>
+            <numerusform>%n рядок</numerusform>
+            <numerusform>%n рядки</numerusform>
+            <numerusform>%n рядків</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1183,10 +1195,6 @@
         <translation>Розпізнано 1 міст</translation>
     </message>
     <message>
-        <source>%1 bridges recognized</source>
-        <translation>Розпізнано мостів: %1</translation>
-    </message>
-    <message>
         <source>A bridge line can&apos;t contain #, &quot; or \.</source>
         <translation>Рядок моста не може містити #, &quot; або \.</translation>
     </message>
@@ -1199,10 +1207,6 @@
         <translation>Не розпізнано 1 рядок</translation>
     </message>
     <message>
-        <source>%1 lines not recognized</source>
-        <translation>Не розпізнано рядків: %1</translation>
-    </message>
-    <message>
         <source>None</source>
         <translation>Немає</translation>
     </message>
@@ -1213,6 +1217,22 @@
     <message>
         <source>In strict mode, these apps can connect directly instead of through Tor, using your real IP address. Everything else stays locked. Open them with &lt;b&gt;Open without Tor&lt;/b&gt; (not from the desktop&apos;s menu) so Veldmark can tag them. A running copy is quit and reopened.</source>
         <translation>У суворому режимі ці застосунки можуть з’єднуватися напряму, а не через Tor, — з вашою справжньою IP-адресою. Усе інше, як і раніше, іде лише через Tor. Відкривайте їх кнопкою &lt;b&gt;Відкрити без Tor&lt;/b&gt; (не з меню стільниці), щоб Veldmark міг їх позначити. Запущений екземпляр буде закрито й відкрито знову.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bridges recognized</source>
+        <translation>
+            <numerusform>Розпізнано %n міст</numerusform>
+            <numerusform>Розпізнано %n мости</numerusform>
+            <numerusform>Розпізнано %n мостів</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines not recognized</source>
+        <translation>
+            <numerusform>Не розпізнано %n рядок</numerusform>
+            <numerusform>Не розпізнано %n рядки</numerusform>
+            <numerusform>Не розпізнано %n рядків</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1816,10 +1836,6 @@
     <message>
         <source>At most %1 custom bridges can be used. Remove some under Bridges → Custom….</source>
         <translation>Власних мостів може бути не більше ніж %1. Вилучіть зайві в «Мости → Власні…».</translation>
-    </message>
-    <message>
-        <source>Testing %1 bridges…</source>
-        <translation>Перевірка мостів (%1)…</translation>
     </message>
     <message>
         <source>Testing speed (%1 of %2)…</source>
@@ -3890,6 +3906,22 @@ a web page. FILE &quot;-&quot; is standard input</source>
     <message>
         <source>The filter before Tor&apos;s control port cannot be used.</source>
         <translation>Фільтр перед портом керування Tor неможливо використати.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Testing %n bridges…</source>
+        <translation>
+            <numerusform>Перевіряється %n міст…</numerusform>
+            <numerusform>Перевіряються %n мости…</numerusform>
+            <numerusform>Перевіряється %n мостів…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 for *.%2</source>
+        <translation>%1 для *.%2</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 через %2</translation>
     </message>
 </context>
 <context>

@@ -951,10 +951,6 @@
         <translation>被 1 条线路使用</translation>
     </message>
     <message>
-        <source>Used by %1 circuits</source>
-        <translation>被 %1 条线路使用</translation>
-    </message>
-    <message>
         <source>ENTRY</source>
         <translation>入口</translation>
     </message>
@@ -974,6 +970,12 @@
         <source>%1 more</source>
         <translation>另有 %1 个</translation>
     </message>
+    <message numerus="yes">
+        <source>Used by %n circuits</source>
+        <translation>
+            <numerusform>被 %n 条线路使用</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>veldmark::CircuitsModel</name>
@@ -992,10 +994,6 @@
     <message>
         <source>1 active path</source>
         <translation>1 条活动路径</translation>
-    </message>
-    <message>
-        <source>%1 active paths</source>
-        <translation>%1 条活动路径</translation>
     </message>
     <message>
         <source> · click a relay or site to follow it</source>
@@ -1044,6 +1042,12 @@
     <message>
         <source>Round trip: %1</source>
         <translation>往返时间：%1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n active paths</source>
+        <translation>
+            <numerusform>%n 条活动路径</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1104,10 +1108,6 @@
         <translation>1 行</translation>
     </message>
     <message>
-        <source>%1 lines</source>
-        <translation>%1 行</translation>
-    </message>
-    <message>
         <source>Problems</source>
         <translation>问题</translation>
     </message>
@@ -1130,6 +1130,12 @@
     <message>
         <source>No file manager could be opened. The log files are in %1.</source>
         <translation>无法打开任何文件管理器。日志文件位于 %1。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines</source>
+        <translation>
+            <numerusform>%n 行</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1183,10 +1189,6 @@
         <translation>识别到 1 个网桥</translation>
     </message>
     <message>
-        <source>%1 bridges recognized</source>
-        <translation>识别到 %1 个网桥</translation>
-    </message>
-    <message>
         <source>A bridge line can&apos;t contain #, &quot; or \.</source>
         <translation>网桥行不能包含 #、&quot; 或 \。</translation>
     </message>
@@ -1199,10 +1201,6 @@
         <translation>1 行无法识别</translation>
     </message>
     <message>
-        <source>%1 lines not recognized</source>
-        <translation>%1 行无法识别</translation>
-    </message>
-    <message>
         <source>None</source>
         <translation>无</translation>
     </message>
@@ -1213,6 +1211,18 @@
     <message>
         <source>In strict mode, these apps can connect directly instead of through Tor, using your real IP address. Everything else stays locked. Open them with &lt;b&gt;Open without Tor&lt;/b&gt; (not from the desktop&apos;s menu) so Veldmark can tag them. A running copy is quit and reopened.</source>
         <translation>在严格模式下，这些应用可以不通过 Tor 而直接连接，并使用您的真实 IP 地址。其他一切仍只能通过 Tor。请用 &lt;b&gt;不经 Tor 打开&lt;/b&gt; 来打开它们（不要从桌面菜单打开），以便 Veldmark 标记它们。正在运行的副本会被退出并重新打开。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bridges recognized</source>
+        <translation>
+            <numerusform>识别到 %n 个网桥</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines not recognized</source>
+        <translation>
+            <numerusform>%n 行无法识别</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1816,10 +1826,6 @@
     <message>
         <source>At most %1 custom bridges can be used. Remove some under Bridges → Custom….</source>
         <translation>最多可使用 %1 个自定义网桥。请在“网桥 → 自定义…”中移除一些。</translation>
-    </message>
-    <message>
-        <source>Testing %1 bridges…</source>
-        <translation>正在测试 %1 个网桥…</translation>
     </message>
     <message>
         <source>Testing speed (%1 of %2)…</source>
@@ -3889,6 +3895,20 @@ FILE 为“-”时读取标准输入</translation>
     <message>
         <source>The filter before Tor&apos;s control port cannot be used.</source>
         <translation>无法使用 Tor 控制端口前的过滤器。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Testing %n bridges…</source>
+        <translation>
+            <numerusform>正在测试 %n 个网桥…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 for *.%2</source>
+        <translation>%1（用于 *.%2）</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%2 上的 %1</translation>
     </message>
 </context>
 <context>

@@ -81,6 +81,10 @@ void ControllerSession::read()
     next.transports = c.transports();
     next.transportDownload = c.transportDownload();
     next.canDownloadTransports = c.canDownloadTransports();
+    next.bundleVersion = TransportDownloader::installedVersion(c.profile()).value_or(QString());
+    next.isBundleSigned = TransportDownloader::installedVerification(c.profile())
+        == QLatin1String("signature");
+    next.canVerifyDownloads = TransportDownloader::gpgPath(c.profile()).has_value();
     next.passwordlessInstalled = c.passwordlessInstalled();
     next.startupError = c.startupError();
     followTerminalMode();

@@ -1,5 +1,6 @@
 #include "bridges/PluggableTransports.h"
 
+#include "base/ProgramFile.h"
 #include "bridges/BridgeLines.h"
 #include "bridges/ChildOutput.h"
 #include "bridges/FileSearch.h"
@@ -23,12 +24,6 @@ constexpr std::chrono::milliseconds unzipLimit = 20s;
 constexpr std::chrono::milliseconds lyrebirdLimit = 5s;
 constexpr qsizetype preferencesLimitBytes = 16 * 1024 * 1024;
 const QString snowflakeTransport = QStringLiteral("snowflake");
-
-bool isProgram(const QString &path)
-{
-    const QFileInfo file(path);
-    return file.isFile() && file.isExecutable();
-}
 
 // Empty when the file is missing or too large. Never opens a pipe or a device.
 QByteArray readFile(const QString &path)

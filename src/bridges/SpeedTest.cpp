@@ -58,7 +58,7 @@ QCoro::Task<QStringList> fastestBridges(QStringList lines, BridgeProbe probe,
     const std::vector<qsizetype> candidates = speedTestCandidates(lines);
     if (candidates.size() < 2)
         co_return lines;
-    status(Text::tr("Testing %1 bridges…").arg(candidates.size()));
+    status(Text::tr("Testing %n bridges…", nullptr, static_cast<int>(candidates.size())));
 
     // A task runs as soon as it is made, so all probes run before the first is awaited. A candidate
     // without an address has no time.

@@ -1,5 +1,6 @@
 #include "bridges/TransportDownloader.h"
 
+#include "base/ProgramFile.h"
 #include "base/ResumeOnce.h"
 #include "bridges/BundleArchive.h"
 #include "bridges/BundleFolder.h"
@@ -176,9 +177,9 @@ std::optional<QString> TransportDownloader::installedVerification(const Platform
 std::optional<QString> TransportDownloader::gpgPath(const PlatformProfile &profile)
 {
     for (const QString &folder : profile.gnupgCandidates) {
-        const QFileInfo program(folder + QStringLiteral("/gpg"));
-        if (program.isFile() && program.isExecutable())
-            return program.filePath();
+        const QString program = folder + QStringLiteral("/gpg");
+        if (isProgram(program))
+            return program;
     }
     return std::nullopt;
 }

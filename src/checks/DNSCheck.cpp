@@ -86,10 +86,10 @@ DNSStatus statusAfter(const std::vector<DNSResolver> &leaks, bool isComplete,
                       const DNSStatus &current)
 {
     if (!leaks.empty()) {
-        QStringList summaries;
+        QList<Text> texts;
         for (const DNSResolver &leak : leaks)
-            summaries.append(leak.summary());
-        return DNSStatus::leak(summaries);
+            texts.append(leak.text());
+        return DNSStatus::leak(texts);
     }
     if (!isComplete && current.isLeak())
         return current;
@@ -100,7 +100,7 @@ DNSStatus statusAfter(const std::vector<DNSResolver> &leaks, bool isComplete,
     return current.isLeak() ? DNSStatus::unknown() : current;
 }
 
-Text stillLeakingText(const QStringList &summaries, bool isBlocked)
+Text stillLeakingText(const QList<Text> &resolvers, bool isBlocked)
 {
     const Text text = isBlocked
         ? Text::tr(
@@ -108,7 +108,7 @@ Text stillLeakingText(const QStringList &summaries, bool isBlocked)
             "Tor: %1. Strict mode's firewall blocks them.")
         : Text::tr(
             "Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and still point around Tor: %1.");
-    return text.arg(summaries.join(QStringLiteral("; ")));
+    return text.arg(Text::joined({resolvers.begin(), resolvers.end()}, QStringLiteral("; ")));
 }
 
 QString probeName()

@@ -31,7 +31,7 @@ DNSStatus statusAfter(const std::vector<DNSResolver> &leaks, bool isComplete,
                       const DNSStatus &current);
 
 // The text for settings that still leak after the DNS fix.
-Text stillLeakingText(const QStringList &summaries, bool isBlocked);
+Text stillLeakingText(const QList<Text> &resolvers, bool isBlocked);
 
 // A name that was never looked up before, in a domain that exists.
 QString probeName();

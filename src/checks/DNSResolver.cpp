@@ -2,14 +2,14 @@
 
 namespace veldmark {
 
-QString DNSResolver::summary() const
+Text DNSResolver::text() const
 {
-    QStringList parts{nameservers.join(QStringLiteral(", "))};
+    Text text = nameservers.join(QStringLiteral(", "));
     if (domain)
-        parts.append(QStringLiteral("for *.") + *domain);
+        text = Text::tr("%1 for *.%2").arg(text, *domain);
     if (interface)
-        parts.append(QStringLiteral("on ") + *interface);
-    return parts.join(u' ');
+        text = Text::tr("%1 on %2").arg(text, *interface);
+    return text;
 }
 
 size_t qHash(const DNSResolver &resolver, size_t seed)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Text.h"
+
 #include <QHash>
 #include <QString>
 #include <QStringList>
@@ -17,7 +19,8 @@ struct DNSResolver {
     bool isMDNS = false;              // local link names; no server gets them
 
     // "10.0.0.53, 10.0.0.54 for *.corp.example on utun3".
-    QString summary() const;
+    Text text() const;
+    QString summary() const { return text().english(); }
 
     friend bool operator==(const DNSResolver &, const DNSResolver &) = default;
 };

@@ -23,7 +23,8 @@ Text DNSStatus::text() const
 {
     switch (m_kind) {
     case Kind::leak:
-        return Text::tr("DNS can go around Tor via: %1").arg(m_leaks.join(QStringLiteral("; ")));
+        return Text::tr("DNS can go around Tor via: %1")
+            .arg(Text::joined({m_leaks.begin(), m_leaks.end()}, QStringLiteral("; ")));
     case Kind::unknown:
         return Text::tr("DNS: not tested yet.");
     case Kind::checking:

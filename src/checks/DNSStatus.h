@@ -2,8 +2,8 @@
 
 #include "base/Text.h"
 
+#include <QList>
 #include <QString>
-#include <QStringList>
 
 namespace veldmark {
 
@@ -19,8 +19,8 @@ public:
     };
 
     DNSStatus() = default; // unknown
-    // `summaries` are the leaking resolvers, in the configuration's order.
-    static DNSStatus leak(QStringList summaries) { return {Kind::leak, std::move(summaries)}; }
+    // `resolvers` are the leaking ones, in the configuration's order.
+    static DNSStatus leak(QList<Text> resolvers) { return {Kind::leak, std::move(resolvers)}; }
     static DNSStatus unknown() { return {Kind::unknown, {}}; }
     static DNSStatus checking() { return {Kind::checking, {}}; }
     static DNSStatus throughTor() { return {Kind::throughTor, {}}; }
@@ -28,7 +28,7 @@ public:
 
     Kind kind() const { return m_kind; }
     bool isLeak() const { return m_kind == Kind::leak; }
-    const QStringList &leaks() const { return m_leaks; } // empty unless `leak`
+    const QList<Text> &leaks() const { return m_leaks; } // empty unless `leak`
     // The case's name: "leak", "throughTor" …
     QString name() const;
     // The sentence that the user reads.
@@ -37,10 +37,10 @@ public:
     friend bool operator==(const DNSStatus &, const DNSStatus &) = default;
 
 private:
-    DNSStatus(Kind kind, QStringList leaks) : m_kind(kind), m_leaks(std::move(leaks)) { }
+    DNSStatus(Kind kind, QList<Text> leaks) : m_kind(kind), m_leaks(std::move(leaks)) { }
 
     Kind m_kind = Kind::unknown;
-    QStringList m_leaks;
+    QList<Text> m_leaks;
 };
 
 } // namespace veldmark

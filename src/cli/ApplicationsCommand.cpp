@@ -25,17 +25,6 @@ QJsonObject finding(const QString &path, const QString &name, bool isChosen, boo
     return {{pathKey, path}, {nameKey, name}, {bypassedKey, isChosen}, {installedKey, isInstalled}};
 }
 
-// A text from a file or the user, made safe for one line.
-QString shown(const QString &text)
-{
-    QString line = text.left(60);
-    for (QChar &c : line) {
-        if (!c.isPrint())
-            c = u'?';
-    }
-    return text.size() > line.size() ? line + u'…' : line;
-}
-
 bool isNamed(const InstalledApplication &application, const QString &wanted)
 {
     const QFileInfo file(application.path);
@@ -68,12 +57,12 @@ QString Report::applications(const QJsonArray &findings)
         return Text::tr("No applications are installed.").translated();
     qsizetype width = 0;
     for (const QJsonValue &entry : findings)
-        width = std::max(width, shown(entry[nameKey].toString()).size());
+        width = std::max(width, Console::shortened(entry[nameKey].toString()).size());
     QStringList lines;
     for (const QJsonValue &entry : findings)
         lines << QStringLiteral("%1 %2  %3%4")
                      .arg(entry[bypassedKey].toBool() ? QStringLiteral("*") : QStringLiteral(" "),
-                          shown(entry[nameKey].toString()).leftJustified(width),
+                          Console::shortened(entry[nameKey].toString()).leftJustified(width),
                           entry[pathKey].toString(),
                           entry[installedKey].toBool()
                               ? QString()
@@ -87,7 +76,7 @@ Result<QString, Text> applicationPath(const QString &wanted,
     if (wanted.contains(u'/')) {
         const QFileInfo file(wanted);
         if (!file.isFile())
-            return Failure(Text::tr("There is no file \"%1\".").arg(shown(wanted)));
+            return Failure(Text::tr("There is no file \"%1\".").arg(Console::shortened(wanted)));
         return file.absoluteFilePath();
     }
     QStringList found;
@@ -97,10 +86,10 @@ Result<QString, Text> applicationPath(const QString &wanted,
     }
     if (found.isEmpty())
         return Failure(Text::tr("There is no application \"%1\"; \"veldmarkctl apps\" lists them.")
-                           .arg(shown(wanted)));
+                           .arg(Console::shortened(wanted)));
     if (found.size() > 1)
         return Failure(Text::tr("\"%1\" may be any of: %2. Give the path.")
-                           .arg(shown(wanted), found.join(QStringLiteral(", "))));
+                           .arg(Console::shortened(wanted), found.join(QStringLiteral(", "))));
     return found.first();
 }
 

@@ -84,17 +84,6 @@ QString row(const QString &name, const QString &text)
     return QStringLiteral("\n  %1%2").arg(name, -18).arg(text);
 }
 
-// A text from a file or a settings line, made safe for a terminal.
-QString shortened(const QString &text)
-{
-    QString line = text.left(60);
-    for (QChar &c : line) {
-        if (!c.isPrint())
-            c = u'?';
-    }
-    return text.size() > line.size() ? line + u'…' : line;
-}
-
 // The text of a file, or of standard input for "-"; as much of it as is searched.
 Result<QString, Text> textOf(const QString &path)
 {
@@ -121,7 +110,8 @@ QStringList problems(const QJsonObject &custom)
     for (const QJsonValue &entry : custom.value(QStringLiteral("invalid")).toArray())
         lines << Text::tr("line %1 is not a bridge line: %2")
                      .arg(entry.toObject().value(QStringLiteral("line")).toInt(),
-                          shortened(entry.toObject().value(QStringLiteral("text")).toString()))
+                          Console::shortened(
+                              entry.toObject().value(QStringLiteral("text")).toString()))
                      .translated();
     const QJsonArray surplus = custom.value(QStringLiteral("surplus")).toArray();
     if (!surplus.isEmpty())
@@ -170,7 +160,7 @@ QString Report::bridges(const QJsonObject &all)
               .translated();
     const QJsonObject builtin = all.value(QStringLiteral("builtin")).toObject();
     for (auto count = builtin.begin(); count != builtin.end(); ++count)
-        report += row(shortened(count.key()), QString::number(count.value().toInt()));
+        report += row(Console::shortened(count.key()), QString::number(count.value().toInt()));
     if (builtin.isEmpty())
         report += QStringLiteral("\n  ")
             + Text::tr("none; get some with: veldmarkctl download-transports").translated();
@@ -180,10 +170,11 @@ QString Report::bridges(const QJsonObject &all)
     report += QStringLiteral("\nTor Expert Bundle\n  ");
     const Text verification = isSigned ? Text::tr("signature verified")
                                        : Text::tr("signature not verified");
-    report += bundle.isEmpty() ? Text::tr("not downloaded").translated()
-                               : QStringLiteral("%1, %2").arg(
-                                   shortened(bundle.value(QStringLiteral("version")).toString()),
-                                   verification.translated());
+    report += bundle.isEmpty()
+        ? Text::tr("not downloaded").translated()
+        : QStringLiteral("%1, %2").arg(
+            Console::shortened(bundle.value(QStringLiteral("version")).toString()),
+            verification.translated());
 
     const QJsonObject custom = all.value(QStringLiteral("custom")).toObject();
     report += u'\n' + Text::tr("Your own bridges").translated() + QStringLiteral("\n  ")

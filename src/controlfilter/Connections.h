@@ -1,7 +1,7 @@
 #pragma once
 
 #include "controlfilter/CommandFilter.h"
-#include "controlfilter/Descriptor.h"
+#include "plain/Descriptor.h"
 
 #include <list>
 #include <string>

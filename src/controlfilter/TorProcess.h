@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controlfilter/Descriptor.h"
+#include "plain/Descriptor.h"
 
 #include <optional>
 

@@ -1,6 +1,7 @@
 #include "controller/TorController.h"
 
 #include "base/ExitCountry.h"
+#include "base/ProgramFile.h"
 #include "base/TorPassword.h"
 #include "bridges/BridgePlan.h"
 #include "controller/SettingRules.h"
@@ -9,7 +10,6 @@
 #include "system/PrivilegedRunner.h"
 #include "system/SignedBundle.h"
 
-#include <QFileInfo>
 #include <QPointer>
 
 using namespace std::chrono_literals;
@@ -17,12 +17,6 @@ using namespace std::chrono_literals;
 namespace veldmark {
 
 namespace {
-
-bool isExecutableFile(const QString &path)
-{
-    const QFileInfo file(path);
-    return file.isFile() && file.isExecutable();
-}
 
 QString flag(bool on)
 {
@@ -51,10 +45,10 @@ std::optional<QString> TorController::torPath() const
     const QString custom = customTorPath().trimmed();
     if (SettingRules::torPathProblem(custom))
         return std::nullopt; // connect() refuses this path, so no other tor is used instead
-    if (!custom.isEmpty() && isExecutableFile(custom))
+    if (!custom.isEmpty() && isProgram(custom))
         return custom;
     for (const QString &candidate : m_services.profile.torCandidates) {
-        if (isExecutableFile(candidate))
+        if (isProgram(candidate))
             return candidate;
     }
     return std::nullopt;

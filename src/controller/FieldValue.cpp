@@ -94,9 +94,12 @@ QJsonValue json(const LeakStatus &value)
 
 QJsonValue json(const DNSStatus &value)
 {
-    if (value.isLeak())
-        return QJsonObject{{value.name(), json(value.leaks())}};
-    return value.name();
+    if (!value.isLeak())
+        return value.name();
+    QJsonArray resolvers;
+    for (const Text &resolver : value.leaks())
+        resolvers.append(resolver.english());
+    return QJsonObject{{value.name(), resolvers}};
 }
 
 QJsonValue json(ConnectionPhase value)

@@ -1,5 +1,7 @@
 #include "doctor/Machine.h"
 
+#include "base/ProgramFile.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -9,12 +11,6 @@
 namespace veldmark {
 
 namespace {
-
-bool isProgram(const QString &path)
-{
-    const QFileInfo file(path);
-    return file.isFile() && file.isExecutable();
-}
 
 // The fields of the first line of /etc/passwd that `wanted` accepts.
 QStringList passwdLine(const Machine &machine,

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "identify/Descriptor.h"
 #include "identify/GroupRegister.h"
+#include "plain/Descriptor.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,5 +1,6 @@
 #include "system/SignedBundle.h"
 
+#include "base/ProgramFile.h"
 #include "platform/PlatformProfile.h"
 #include "system/ProgramApproval.h"
 
@@ -11,8 +12,7 @@ namespace veldmark {
 
 bool SignedBundle::isOfUse(const PlatformProfile &profile)
 {
-    const QFileInfo program(profile.places.root + QStringLiteral("/usr/bin/gpgv"));
-    return program.isFile() && program.isExecutable();
+    return isProgram(profile.places.root + QStringLiteral("/usr/bin/gpgv"));
 }
 
 QString SignedBundle::archiveBelow(const QString &folder)

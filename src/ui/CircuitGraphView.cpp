@@ -239,7 +239,8 @@ QString CircuitGraphView::hoveredHelp() const
     if (node->relay)
         help += CircuitsModel::placeOf(*node->relay) + u'\n';
     const auto count = static_cast<int>(node->circuitIDs.size());
-    return help + (count == 1 ? tr("Used by 1 circuit") : tr("Used by %1 circuits").arg(count));
+    return help
+        + (count == 1 ? tr("Used by 1 circuit") : tr("Used by %n circuits", nullptr, count));
 }
 
 QPointF CircuitGraphView::hoveredAt() const

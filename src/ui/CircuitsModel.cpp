@@ -185,7 +185,7 @@ QString CircuitsModel::subtitle() const
     if (!connected())
         return tr("Not connected");
     const auto count = static_cast<int>(circuits().size());
-    const QString paths = count == 1 ? tr("1 active path") : tr("%1 active paths").arg(count);
+    const QString paths = count == 1 ? tr("1 active path") : tr("%n active paths", nullptr, count);
     return paths + tr(" · click a relay or site to follow it");
 }
 

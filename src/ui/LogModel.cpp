@@ -136,7 +136,7 @@ QString LogModel::subtitle() const
         break;
     }
     const auto count = static_cast<int>(m_feed.snapshot().lines().size());
-    return (count == 1 ? tr("1 line") : tr("%1 lines").arg(count)) + QStringLiteral(" · ")
+    return (count == 1 ? tr("1 line") : tr("%n lines", nullptr, count)) + QStringLiteral(" · ")
         + fromTheLeft(noticesPath());
 }
 

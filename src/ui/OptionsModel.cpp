@@ -179,7 +179,7 @@ QString OptionsModel::bridgeCount(const QString &text) const
                                                                  : BridgeText::found(text).size());
     if (count == 0)
         return {};
-    return count == 1 ? tr("1 bridge recognized") : tr("%1 bridges recognized").arg(count);
+    return count == 1 ? tr("1 bridge recognized") : tr("%n bridges recognized", nullptr, count);
 }
 
 QString OptionsModel::bridgeWarning(const QString &text) const
@@ -188,7 +188,7 @@ QString OptionsModel::bridgeWarning(const QString &text) const
     QStringList warnings;
     if (const auto invalid = static_cast<int>(parsed.invalid.size()); invalid > 0)
         warnings << (invalid == 1 ? tr("1 line not recognized")
-                                  : tr("%1 lines not recognized").arg(invalid))
+                                  : tr("%n lines not recognized", nullptr, invalid))
                 + inLines(parsed.invalidLineNumbers);
     if (std::any_of(parsed.invalid.begin(), parsed.invalid.end(),
                     BridgeLines::hasForbiddenCharacter))

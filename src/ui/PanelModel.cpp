@@ -332,7 +332,10 @@ QString PanelModel::optimizeText() const
 
 QStringList PanelModel::leakingResolvers() const
 {
-    return m_session.now().dns.leaks().mid(0, shownResolvers);
+    QStringList resolvers;
+    for (const Text &resolver : m_session.now().dns.leaks().mid(0, shownResolvers))
+        resolvers << resolver.translated();
+    return resolvers;
 }
 
 QString PanelModel::moreResolvers() const

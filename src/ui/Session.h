@@ -41,7 +41,7 @@ public:
     virtual void refreshCircuits() = 0;
     virtual void dismissError() = 0;
     // Reads again what other programs may change: tor, the session marker, the terminal's files,
-    // the login item.
+    // the login item, the downloaded bundle.
     virtual void lookAgain() = 0;
     virtual void lookForTransports() = 0;
     virtual void examine() = 0;    // checks what a connect needs on this computer

@@ -1,6 +1,5 @@
 #include "ui/SettingsModel.h"
 
-#include "bridges/TransportDownloader.h"
 #include "ui/Wording.h"
 
 #include <QClipboard>
@@ -86,19 +85,13 @@ QString SettingsModel::bridgeSource() const
                             : tr("Loaded from %1").arg(source);
 }
 
-QString SettingsModel::bundleVersion() const
-{
-    return TransportDownloader::installedVersion(m_session.profile()).value_or(QString());
-}
-
 QString SettingsModel::bundleStatus() const
 {
     if (!bundleLoaded())
         return tr("Not downloaded");
-    const bool verified = TransportDownloader::installedVerification(m_session.profile())
-        == QLatin1String("signature");
-    const QString loaded = tr("Version %1 loaded").arg(bundleVersion());
-    return verified ? loaded + QStringLiteral(" · ") + tr("signature verified") : loaded;
+    const QString loaded = tr("Version %1 loaded").arg(now().bundleVersion);
+    return now().isBundleSigned ? loaded + QStringLiteral(" · ") + tr("signature verified")
+                                : loaded;
 }
 
 QString SettingsModel::downloadText() const
@@ -108,7 +101,7 @@ QString SettingsModel::downloadText() const
 
 QString SettingsModel::bundleTrust() const
 {
-    return !TransportDownloader::gpgPath(m_session.profile())
+    return !now().canVerifyDownloads
         ? tr("Fetched over HTTPS. Its signature isn't checked, since GnuPG isn't installed.")
         : tr("Fetched over HTTPS and checked against the Tor Project's signature.");
 }

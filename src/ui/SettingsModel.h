@@ -80,8 +80,7 @@ public:
     bool snowflake() const { return now().transports.snowflake.has_value(); }
     bool webtunnel() const { return now().transports.webtunnel.has_value(); }
     QString bridgeSource() const;
-    QString bundleVersion() const; // empty without a downloaded bundle
-    bool bundleLoaded() const { return !bundleVersion().isEmpty(); }
+    bool bundleLoaded() const { return !now().bundleVersion.isEmpty(); }
     QString bundleStatus() const;
     bool canDownload() const { return now().canDownloadTransports; }
     QString downloadText() const;

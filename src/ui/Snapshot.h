@@ -74,6 +74,9 @@ struct Snapshot {
     PluggableTransports transports;
     std::optional<Text> transportDownload; // progress or result
     bool canDownloadTransports = true;
+    QString bundleVersion;           // of the downloaded bundle; empty without one
+    bool isBundleSigned = false;     // its signature was verified
+    bool canVerifyDownloads = false; // a new download's signature can be verified
     bool passwordlessInstalled = false;
     std::optional<Text> startupError;
     std::optional<Text> terminalError;

@@ -19,7 +19,10 @@ def rooms():
 def linked(room):
     text = (SOURCE / room / "CMakeLists.txt").read_text()
     match = re.search(r"\bROOMS\s+([a-z\s]+?)(?=[A-Z)])", text)
-    return set(match.group(1).split()) if match else set()
+    named = set(match.group(1).split()) if match else set()
+    for libraries in re.findall(r"target_link_libraries\(([^)]*)\)", text):
+        named |= set(re.findall(r"\bveldmark_([a-z]+)", libraries)) & set(rooms())
+    return named - {room}
 
 
 def reachable(room):
@@ -36,6 +39,7 @@ class Rooms(unittest.TestCase):
     def test_there_are_rooms_and_they_include_each_other(self):
         self.assertIn("base", rooms())
         self.assertIn("base", reachable("control"))
+        self.assertIn("plain", reachable("identify"))
 
     def test_no_room_links_itself_in_a_circle(self):
         for room in rooms():

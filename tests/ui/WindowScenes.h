@@ -126,12 +126,8 @@ inline void addSettingsScenes(std::vector<WindowScene> &scenes)
     scenes.push_back({QStringLiteral("settings bridges/bundle, downloading"), [full](Stage &stage) {
                           Snapshot session = full;
                           session.transportDownload = Text::tr("Starting…");
+                          session.bundleVersion = QStringLiteral("14.0.4");
                           stage.session.show(session);
-                          QDir().mkpath(stage.profile.bundleDirectory);
-                          QFile version(stage.profile.bundleDirectory + QStringLiteral("/VERSION"));
-                          if (version.open(QIODevice::WriteOnly))
-                              version.write("14.0.4\n");
-                          version.close();
                           QVariantMap properties = modelProperty(&stage.settings);
                           properties.insert(QStringLiteral("pane"), 2);
                           return stage.open(QStringLiteral("settings/SettingsWindow.qml"),

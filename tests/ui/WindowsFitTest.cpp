@@ -230,6 +230,24 @@ private Q_SLOTS:
             expectWhole(stage, QLatin1String(shown.file));
         }
     }
+
+    void aCountTakesTheLanguagesForm()
+    {
+        QTranslator russian;
+        QVERIFY(russian.load(QStringLiteral(":/i18n/veldmark_ru.qm")));
+        QCoreApplication::installTranslator(&russian);
+        Stage stage;
+        Snapshot session = Scenes::protectedSession();
+        for (const auto &[count, words] : {std::pair{1, "1 активный путь ·"},
+                                           {2, "2 активных пути ·"},
+                                           {5, "5 активных путей ·"},
+                                           {21, "21 активный путь ·"}}) {
+            session.circuits = Scenes::circuits(count);
+            stage.session.show(session);
+            QVERIFY2(stage.circuits.subtitle().startsWith(QString::fromUtf8(words)),
+                     qPrintable(stage.circuits.subtitle()));
+        }
+    }
 };
 
 QTEST_MAIN(WindowsFitTest)

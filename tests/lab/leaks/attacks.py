@@ -111,7 +111,7 @@ def approve():
 # name: (function, row of the table)
 ATTACKS = {
     "tunnel": (tunnel, "a bridge program's port as a tunnel"),
-    "beside": (beside_tor, "a second socket at Tor's port for look-ups"),
+    "beside": (beside_tor, "a second socket at Tor's port for lookups"),
     "place": (place, "listening in Tor's place while it is away"),
     "kill": (kill, "an end of the control group that it was begun in"),
     "proxy": (lambda: connect(*PROXY), "by the rule: proxy mode"),

@@ -284,6 +284,27 @@ private Q_SLOTS:
         QVERIFY(!session.now().terminalInstalled);
     }
 
+    void showsTheDownloadedBundleAndHowTheNextIsVerified()
+    {
+        Workbench bench;
+        ControllerSession session(bench.controller(), *bench.settings, bench.applications);
+        QVERIFY(session.now().bundleVersion.isEmpty() && !session.now().isBundleSigned);
+        QVERIFY(!session.now().canVerifyDownloads);
+        bench.writeFile(bench.profile.bundleDirectory + u"/VERSION"_s, "14.0.4\n");
+        bench.writeFile(bench.profile.bundleDirectory + u"/VERIFIED"_s, "https");
+        bench.writeFile(bench.profile.gnupgCandidates.constFirst() + u"/gpg"_s, "#!/bin/sh\n",
+                        true);
+        session.lookAgain();
+        follow(session);
+        QCOMPARE(session.now().bundleVersion, u"14.0.4"_s);
+        QVERIFY(!session.now().isBundleSigned);
+        QVERIFY(session.now().canVerifyDownloads);
+        bench.writeFile(bench.profile.bundleDirectory + u"/VERIFIED"_s, "signature\n");
+        session.lookAgain();
+        follow(session);
+        QVERIFY(session.now().isBundleSigned);
+    }
+
     void tellsWhyAnApplicationWasNotOpened()
     {
         Workbench bench;

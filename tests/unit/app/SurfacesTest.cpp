@@ -37,7 +37,7 @@ struct Case {
     {
         return u"%1, note %2%3%4, exit %5%6"_s
             .arg(strict ? u"strict"_s : u"proxy"_s, QString::fromLatin1(note))
-            .arg(exposed ? u", exposed"_s : QString(), leaking ? u", look-ups leak"_s : QString(),
+            .arg(exposed ? u", exposed"_s : QString(), leaking ? u", lookups leak"_s : QString(),
                  verified ? (*verified ? u"confirmed"_s : u"other"_s) : u"silent"_s)
             .arg(torDies ? u", tor dies"_s : QString());
     }

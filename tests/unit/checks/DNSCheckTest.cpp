@@ -7,6 +7,7 @@
 #include <QRegularExpression>
 #include <QSet>
 #include <QTest>
+#include <QTranslator>
 
 #include <atomic>
 #include <future>
@@ -20,6 +21,18 @@ using namespace veldmark;
 using namespace std::chrono_literals;
 
 namespace {
+
+// A language with another order of words.
+class OtherWords final : public QTranslator {
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *source, const char *, int) const override
+    {
+        if (qstrcmp(source, "%1 on %2") == 0)
+            return QStringLiteral("%2: %1");
+        return qstrcmp(source, "%1 for *.%2") == 0 ? QStringLiteral("*.%2: %1") : QString();
+    }
+};
 
 QString text(const char *utf8)
 {
@@ -203,7 +216,7 @@ private Q_SLOTS:
         row("local without mDNS", "resolver #2\ndomain : local\nnameserver[0] : 1.2.3.4\n", {});
         row("below local", "resolver #2\ndomain : a.local\nnameserver[0] : 1.2.3.4\n",
             {text("1.2.3.4 for *.a.local")});
-        row("reverse look-ups",
+        row("reverse lookups",
             "resolver #3\ndomain : 168.192.in-addr.arpa\nnameserver[0] : 1.2.3.4\n"
             "resolver #4\ndomain : 8.e.f.ip6.arpa\nnameserver[0] : 1.2.3.4\n",
             {});
@@ -257,6 +270,25 @@ private Q_SLOTS:
                               false})
                      .summary(),
                  text("10.0.0.53, 10.0.0.54 for *.corp.example on utun3"));
+    }
+
+    void aResolverIsATextForEachLanguage()
+    {
+        OtherWords language;
+        QCoreApplication::installTranslator(&language);
+        const DNSResolver resolver{text("corp"), {text("10.0.0.53")}, text("utun3")};
+        QCOMPARE(resolver.text().translated(), text("utun3: *.corp: 10.0.0.53"));
+        QCOMPARE(resolver.summary(), text("10.0.0.53 for *.corp on utun3"));
+        QVERIFY(DNSStatus::leak({resolver.text()})
+                    .text()
+                    .translated()
+                    .endsWith(resolver.text().translated()));
+        QVERIFY(DNSCheck::stillLeakingText({resolver.text()}, false)
+                    .translated()
+                    .contains(resolver.text().translated()));
+        DNSResolver everywhere;
+        everywhere.nameservers = {text("10.0.0.53")};
+        QVERIFY(everywhere.text().isWords()); // addresses alone
     }
 
     void randomTextIsReadWithoutHarm()

@@ -199,7 +199,7 @@ private Q_SLOTS:
         row("exposed as well", facts, u"danger"_s, u"Needs Attention"_s,
             u"Your real address can be seen. Disconnect, or run the leak test again."_s);
         facts.isDNSLeaking = true;
-        row("look-ups leak as well", facts, u"danger"_s, u"DNS Leak"_s,
+        row("lookups leak as well", facts, u"danger"_s, u"DNS Leak"_s,
             u"Lookups can go around Tor, and your real address can be seen"_s);
         facts.killSwitch = State::open;
         row("open as well", facts, u"danger"_s, u"Kill Switch Failed"_s,
@@ -223,7 +223,7 @@ private Q_SLOTS:
         row("proxy, no network", facts, u"warning"_s, u"No Network"_s,
             u"This computer has no network. Veldmark goes on when it is back."_s);
         facts.isDNSLeaking = true;
-        row("proxy, look-ups leak", facts, u"danger"_s, u"DNS Leak"_s,
+        row("proxy, lookups leak", facts, u"danger"_s, u"DNS Leak"_s,
             u"Lookups can go around Tor"_s);
         row("nothing", {}, u"neutral"_s, u"Not Protected"_s, QString());
         row("connecting", {.phase = ConnectionPhase::connecting, .detail = u"Preparing Tor…"_s},

@@ -515,7 +515,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<bool>("exposed");
         QTest::newRow("the user's address") << true;
-        QTest::newRow("look-ups") << false;
+        QTest::newRow("lookups") << false;
     }
 
     void whatLeakedBeforeTorsDeathIsNotDenied()

@@ -143,7 +143,7 @@ const std::vector<Case> &cases()
              m.listens("/proc/net/tcp", {{"00000000", 9051, 4343, 1}});
          },
          "ports", Level::problem, "The port 9051", "sudo kill 812"},
-        {"the port for look-ups",
+        {"the port for lookups",
          [](TestMachine &m) {
              m.process(812, "nc", 4343);
              m.listens("/proc/net/udp", {{"0100007F", 293, 4343, 1, "07"}});

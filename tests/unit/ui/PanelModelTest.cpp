@@ -174,7 +174,7 @@ private Q_SLOTS:
             "Disconnect", true, "Click to disconnect");
         s = connected(RoutingMode::strict);
         s.dns = DNSStatus::leak({QStringLiteral("192.168.1.1")});
-        row("strict, look-ups leak", s, Tone::Danger, "exclamationmark.shield", "DNS Leak",
+        row("strict, lookups leak", s, Tone::Danger, "exclamationmark.shield", "DNS Leak",
             "Disconnect", true, "Click to disconnect");
         s = connected(RoutingMode::strict);
         s.killSwitch->state = KillSwitch::State::open;
@@ -508,7 +508,7 @@ private Q_SLOTS:
         QCOMPARE(panel.leakingResolvers().size(), 3);
         QCOMPARE(panel.moreResolvers(), QString());
         s.dns = DNSStatus::leak(s.dns.leaks()
-                                + QStringList{QStringLiteral("d"), QStringLiteral("e")});
+                                + QList<Text>{QStringLiteral("d"), QStringLiteral("e")});
         session.show(s);
         QCOMPARE(panel.leakingResolvers().size(), 3);
         QCOMPARE(panel.moreResolvers(), QStringLiteral("2 more"));

@@ -2,7 +2,6 @@
 #include "StandInSession.h"
 #include "support/TestProgram.h"
 
-#include <QDir>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -13,14 +12,6 @@ class SettingsModelTest : public QObject {
 
     QTemporaryDir folder;
     PlatformProfile profile = PlatformProfile::linux(Places::below(folder.path()));
-
-    static void write(const QString &path, const QByteArray &text)
-    {
-        QDir().mkpath(QFileInfo(path).absolutePath());
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(text);
-    }
 
 private Q_SLOTS:
     void saysWhetherTorIsThere()
@@ -54,12 +45,15 @@ private Q_SLOTS:
     {
         StandInSession session(profile);
         const SettingsModel settings(session);
+        QVERIFY(!settings.bundleLoaded());
         QCOMPARE(settings.bundleStatus(), QStringLiteral("Not downloaded"));
-        write(profile.bundleDirectory + QStringLiteral("/VERSION"), "14.0.4\n");
+        Snapshot s;
+        s.bundleVersion = QStringLiteral("14.0.4");
+        session.show(s);
+        QVERIFY(settings.bundleLoaded());
         QCOMPARE(settings.bundleStatus(), QStringLiteral("Version 14.0.4 loaded"));
-        write(profile.bundleDirectory + QStringLiteral("/VERIFIED"), "https");
-        QCOMPARE(settings.bundleStatus(), QStringLiteral("Version 14.0.4 loaded"));
-        write(profile.bundleDirectory + QStringLiteral("/VERIFIED"), "signature\n");
+        s.isBundleSigned = true;
+        session.show(s);
         QCOMPARE(settings.bundleStatus(),
                  QStringLiteral("Version 14.0.4 loaded · signature verified"));
     }
@@ -70,9 +64,9 @@ private Q_SLOTS:
         const SettingsModel settings(session);
         QVERIFY2(settings.bundleTrust().contains(QStringLiteral("isn't checked")),
                  qPrintable(settings.bundleTrust()));
-        const QString gpg = profile.gnupgCandidates.constFirst() + QStringLiteral("/gpg");
-        write(gpg, "#!/bin/sh\n");
-        QFile::setPermissions(gpg, QFile::ReadOwner | QFile::ExeOwner);
+        Snapshot s;
+        s.canVerifyDownloads = true;
+        session.show(s);
         QCOMPARE(
             settings.bundleTrust(),
             QStringLiteral("Fetched over HTTPS and checked against the Tor Project's signature."));
