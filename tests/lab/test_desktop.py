@@ -240,23 +240,40 @@ class BadCircumstances(DesktopCase):
         return frame and (frame["width"], frame["height"])
 
 
-class AtShutdown(DesktopCase):
+class WithALoginManager(DesktopCase):
     """A lab of its own, with a system bus that can start polkit."""
 
-    def test_a_shutdown_waits_until_the_network_is_restored(self):
-        login = self.enterContext(self.desktop.login_manager())
+    def setUp(self):
+        super().setUp()
+        self.login = self.enterContext(self.desktop.login_manager())
         self.window.signal(signal.SIGTERM)
         self.window.wait()
         self.window = self.start()
         self.window.wait_for("heading", "Not Protected")
         self.before = self.snapshot()  # with the bus
-        self.assertNotIn("held", login.lines.all)  # the shutdown must not wait for an idle program
+
+    def test_a_shutdown_waits_until_the_network_is_restored(self):
+        self.assertNotIn("held", self.login.lines.all)  # the shutdown must not wait for an idle program
         self.connect()
-        login.lines.wait(lambda line: line == "held")
-        login.tell("shut down")
-        login.lines.wait(lambda line: line == "released")
+        self.login.lines.wait(lambda line: line == "held")
+        self.login.tell("shut down")
+        self.login.lines.wait(lambda line: line == "released")
         self.assert_restored()
         self.assertEqual(self.product.status()["phase"], "disconnected")
+
+    def test_after_a_sleep_tor_opens_its_connections_anew(self):
+        """The connections of before may be dead without a word."""
+
+        def closings():
+            return self.product.run_verb("log", check=True).stdout.count("Shutting down all existing connections")
+
+        self.connect()
+        self.wait_state(lambda state: not state["isChecking"])
+        before = closings()
+        self.login.tell("wake up")
+        self.window.wait_until(lambda: closings() > before, 20)
+        state = self.wait_state(lambda state: is_probed(state) and not state["isChecking"])
+        self.assertEqual((state["title"], state["torVerified"]), ("Protected", True))
 
 
 class ToldToEnd(DesktopCase):

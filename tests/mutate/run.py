@@ -134,19 +134,29 @@ class Room:
 
 
 class Aside:
-    """tests/mutate/aside.txt: blocks of a file's path, "- LINE", "+ LINE" (none: the line is removed) and the reason."""
+    """tests/mutate/aside.txt: blocks of a file's path, "- LINE", "+ LINE" (none: the line is removed) and the reason. Of several "- LINE"
+    only the last has the mistake; the others stand above it."""
 
     def __init__(self, text):
         self.known = {}
         for block in re.split(r"\n\s*\n", re.sub(r"(?m)^#.*\n", "", text)):
             if block.strip():
-                path, before, *rest = block.strip().split("\n")
-                after = rest.pop(0)[2:].strip() if rest[0].startswith("+ ") else None
-                self.known[path.strip(), before[2:].strip(), after] = " ".join(rest)
-                assert before.startswith("- ") and rest, f"aside.txt: a mistake needs its lines and a reason:\n{block}"
+                path, *rest = block.strip().split("\n")
+                before = []
+                while rest and rest[0].startswith("- "):
+                    before.append(rest.pop(0)[2:].strip())
+                after = rest.pop(0)[2:].strip() if rest and rest[0].startswith("+ ") else None
+                self.known[path.strip(), tuple(before), after] = " ".join(rest)
+                assert before and rest, f"aside.txt: a mistake needs its lines and a reason:\n{block}"
 
-    def reason(self, path, mutant):
-        return self.known.get((path, mutant.before.strip(), None if mutant.after is None else mutant.after.strip()))
+    def reason(self, path, mutant, text):
+        """`text`: the file without the mistake."""
+        after = None if mutant.after is None else mutant.after.strip()
+        lines = [line.strip() for line in text.split("\n")[: mutant.line]]
+        for (known, before, instead), reason in self.known.items():
+            if (known, instead) == (path, after) and lines[-len(before) :] == list(before):
+                return reason
+        return None
 
 
 def chosen(rooms, seed, top):
@@ -387,7 +397,8 @@ def main():
     aside = Aside((HERE / "aside.txt").read_text())
     if given.list:
         for _, path, mutant in chosen([Room(name) for name in names], given.seed, PROJECT)[: given.count]:
-            print(show(path, mutant), "\n    aside: " + aside.reason(path, mutant) if aside.reason(path, mutant) else "")
+            reason = aside.reason(path, mutant, (PROJECT / path).read_text())
+            print(show(path, mutant), "\n    aside: " + reason if reason else "")
         return 0
     if any(place in map(str, PROJECT.parents) for place in ("/tmp", "/var/tmp", "/run")):
         sys.exit(
@@ -402,7 +413,7 @@ def main():
             continue
         if noticed + len(survivors) >= given.count:
             break
-        if aside.reason(path, mutant):
+        if aside.reason(path, mutant, (clone.place / path).read_text()):
             put_aside += 1
             continue
         tests = proved.setdefault(room.name, Proved(clone, room, given.all))

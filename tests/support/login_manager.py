@@ -1,5 +1,5 @@
 """Stands in for logind on the system bus, as root: prints "ready", "held" for each delay lock that it gives and "released"
-when one is let go. A line on its input begins a shutdown."""
+when one is let go. The line "shut down" on its input begins a shutdown, and "wake up" ends a sleep."""
 
 import os
 import sys
@@ -30,23 +30,29 @@ class Manager(dbus.service.Object):
     def PrepareForShutdown(self, begins):
         pass
 
+    @dbus.service.signal(f"{NAME}.Manager", signature="b")
+    def PrepareForSleep(self, begins):
+        pass
+
     def released(self, read, _):
         os.close(read)
         say("released")
         return False
 
 
-def shut_down(stream, _):
-    if not stream.readline():
-        return False
-    manager.PrepareForShutdown(True)
-    return True
+def obey(stream, _):
+    line = stream.readline()
+    if line == "shut down\n":
+        manager.PrepareForShutdown(True)
+    elif line == "wake up\n":
+        manager.PrepareForSleep(False)
+    return bool(line)
 
 
 dbus.mainloop.glib.DBusGMainLoop(set_as_default=True)
 bus = dbus.SystemBus()
 name = dbus.service.BusName(NAME, bus)
 manager = Manager(bus, "/org/freedesktop/login1")
-GLib.io_add_watch(sys.stdin, GLib.IO_IN, shut_down)
+GLib.io_add_watch(sys.stdin, GLib.IO_IN, obey)
 say("ready")
 GLib.MainLoop().run()

@@ -481,6 +481,37 @@ private Q_SLOTS:
         QVERIFY(!c.errorMessage());
     }
 
+    void aCheckWhoseBeginningDisconnectsIsNoAlarm_data()
+    {
+        QTest::addColumn<bool>("disconnects");
+        QTest::newRow("it stays connected") << false;
+        QTest::newRow("it disconnects") << true;
+    }
+
+    void aCheckWhoseBeginningDisconnectsIsNoAlarm()
+    {
+        QFETCH(bool, disconnects);
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        bench.hold(u"disconnect"_s);
+        std::optional<decltype(c.disconnect())> disconnecting;
+        QObject::connect(&c.isChecking, &Field::changed, [&] {
+            if (!c.isChecking())
+                return;
+            bench.noteRules("open", 1);
+            if (disconnects)
+                disconnecting = c.disconnect();
+        });
+        const auto checking = c.runChecks();
+        QCOMPARE(c.title(), disconnects ? u"Disconnecting…"_s : u"Kill Switch Failed"_s);
+        QCOMPARE(c.errorMessage().has_value(), !disconnects);
+        bench.processes.hold = nullptr;
+        bench.processes.release();
+        QVERIFY(Workbench::finished(checking));
+        QVERIFY(!disconnecting || Workbench::finished(*disconnecting));
+    }
+
     void isWatchedAgainAfterARefusedDisconnect()
     {
         Workbench bench;

@@ -12,8 +12,18 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#ifdef __linux__
+#include <linux/filter.h>
+#include <linux/seccomp.h>
+#include <sys/prctl.h>
+#include <sys/syscall.h>
+#endif
 
+#include <array>
+#include <cerrno>
+#include <cstddef>
 #include <memory>
+#include <thread>
 
 using namespace veldmark;
 using Kind = TorLog::Snapshot::Kind;
@@ -260,6 +270,54 @@ private Q_SLOTS:
     {
         QVERIFY(QFile::link(m_folder->filePath(text("none")), m_log->noticesPath()));
         QVERIFY(m_log->read().kind() == Kind::empty);
+    }
+
+    // What a call of another part has left in errno is no word on the reading.
+    void anInterruptionFromBeforeDoesNotCount()
+    {
+        write(m_log->noticesPath(), "one\n");
+        errno = EINTR;
+        QCOMPARE(raws(m_log->read()), QStringList{text("one")});
+    }
+
+    // As a file that shrinks while it is read. The kernel's own files pretend to fill a page.
+    void aFileThatIsShorterThanItsSizeIsReadToItsEnd()
+    {
+        const QString shorter = text("/sys/devices/system/cpu/possible");
+        QFile file(shorter);
+        if (!file.open(QIODevice::ReadOnly))
+            QSKIP("needs a file of the kernel's that is shorter than its size");
+        const QString content = QString::fromUtf8(file.readAll()).trimmed();
+        QVERIFY(!content.isEmpty() && content.size() < file.size() - 1);
+        QVERIFY(QFile::link(shorter, m_log->noticesPath()));
+        errno = EINTR;
+        QCOMPARE(raws(m_log->read()), QStringList{content});
+    }
+
+    void aDiskThatFailsIsNotAskedForever()
+    {
+#ifndef __linux__
+        QSKIP("needs a kernel that refuses calls");
+#else
+        write(m_log->noticesPath(), "one\n");
+        QVERIFY(m_log->read().kind() == Kind::lines);
+        bool isRefused = false;
+        TorLog::Snapshot snapshot;
+        std::thread([&] { // the kernel refuses that thread's readings alone
+            std::array<sock_filter, 4> program = {
+                sock_filter{BPF_LD | BPF_W | BPF_ABS, 0, 0, offsetof(seccomp_data, nr)},
+                sock_filter{BPF_JMP | BPF_JEQ | BPF_K, 0, 1, __NR_pread64},
+                sock_filter{BPF_RET | BPF_K, 0, 0, SECCOMP_RET_ERRNO | EIO},
+                sock_filter{BPF_RET | BPF_K, 0, 0, SECCOMP_RET_ALLOW}};
+            const sock_fprog filter{static_cast<unsigned short>(program.size()), program.data()};
+            isRefused = ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0
+                && ::prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &filter) == 0;
+            snapshot = m_log->read();
+        })
+            .join();
+        QVERIFY(isRefused);
+        QVERIFY(snapshot.kind() == Kind::empty);
+#endif
     }
 
     void followsAFileThatRotatesAndShrinks()

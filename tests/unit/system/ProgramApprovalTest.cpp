@@ -5,6 +5,8 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -51,6 +53,35 @@ private Q_SLOTS:
         QVERIFY(asked(u"--tor"_s, u"/usr/bin/perl"_s));
         QVERIFY(asked(u"--pt-lyrebird"_s, u"/usr/bin/perl"_s));
         QVERIFY(asked(u"--pt-lyrebird"_s, u"/usr/bin/tor"_s));
+    }
+
+    // Below /tmp, where every user may make files.
+    void asksForAProgramInAPlaceOfTheSystemsThatOthersCanChange()
+    {
+        const QTemporaryDir folder;
+        const QString root = QFileInfo(folder.path()).canonicalFilePath();
+        const PlatformProfile profile = PlatformProfile::linux(Places::below(root));
+        const QString path = root + u"/usr/bin/tor"_s;
+        write(path, "abc");
+        const auto missing = ProgramApproval::missing(profile, {u"connect"_s, u"--tor"_s, path});
+        QCOMPARE(missing.size(), std::size_t(1));
+        QCOMPARE(missing.front().path, path);
+    }
+
+    void namesNoProgramThatTheWordsDoNotName()
+    {
+        const QTemporaryDir folder;
+        const PlatformProfile profile = PlatformProfile::linux(Places::below(folder.path()));
+        const QString former = QDir::currentPath();
+        const auto back = qScopeGuard([&former] { QDir::setCurrent(former); });
+        QVERIFY(QDir::setCurrent(folder.path()));
+        write(u"connect"_s, "abc"); // a file in the current folder, named like the verb
+        const auto namedIn = [&profile](const QStringList &words) {
+            return ProgramApproval::named(profile, words).size();
+        };
+        QCOMPARE(namedIn({u"connect"_s, u"--tor"_s, u"connect"_s}), std::size_t(1));
+        QCOMPARE(namedIn({u"connect"_s, u"--strict"_s, u"1"_s}), std::size_t(0));
+        QCOMPARE(namedIn({u"connect"_s, u"--tor"_s}), std::size_t(0));
     }
 
 private:

@@ -112,6 +112,17 @@ private Q_SLOTS:
         QCOMPARE(again.stringList(key), QStringList(QStringLiteral("default")));
     }
 
+    // QSettings reads a list with such a word as values of any type.
+    void aListWithAWordThatBeginsLikeATypeIsReadWhole()
+    {
+        Home home;
+        home.write("[General]\naKey=one, @two\n");
+        SettingsStore store(home.profile);
+        store.registerDefaults({{key, QStringList(QStringLiteral("default"))}});
+        QCOMPARE(store.stringList(key),
+                 QStringList({QStringLiteral("one"), QStringLiteral("@two")}));
+    }
+
     void aValueOfTheWrongTypeIsTheDefaultAndStays()
     {
         Home home;

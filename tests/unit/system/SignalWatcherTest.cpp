@@ -2,10 +2,16 @@
 
 #include "support/TestProgram.h"
 
+#include <QSet>
 #include <QSignalSpy>
 #include <QTest>
 
 #include <csignal>
+
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 using namespace veldmark;
 
@@ -17,6 +23,16 @@ class SignalWatcherTest : public QObject {
         struct sigaction action { };
         sigaction(number, nullptr, &action);
         return action.sa_handler;
+    }
+
+    static QSet<int> openDescriptors()
+    {
+        QSet<int> open;
+        for (int number = 0; number < 256; ++number) {
+            if (::fcntl(number, F_GETFD) >= 0)
+                open.insert(number);
+        }
+        return open;
     }
 
 private Q_SLOTS:
@@ -48,6 +64,41 @@ private Q_SLOTS:
             }
             for (const int number : {SIGINT, SIGTERM, SIGHUP})
                 QVERIFY(handlerOf(number) == SIG_DFL);
+        }
+    }
+
+    void noProgramThatIsStartedMeanwhileGetsItsPipe()
+    {
+        const QSet<int> before = openDescriptors();
+        const SignalWatcher watcher;
+        const QSet<int> pipe = openDescriptors() - before;
+        QVERIFY(pipe.size() >= 2);
+        for (const int end : pipe)
+            QVERIFY((::fcntl(end, F_GETFD) & FD_CLOEXEC) != 0);
+    }
+
+    // It would run on and obey no signal. In a child process, which that ends.
+    void withoutAPipeTheProgramEnds()
+    {
+        for (const bool hasRoom : {true, false}) {
+            const pid_t child = ::fork();
+            if (child == 0) {
+                const rlimit none{};
+                ::setrlimit(RLIMIT_CORE, &none);
+                std::signal(SIGABRT, SIG_DFL);
+                qInstallMessageHandler(
+                    [](QtMsgType, const QMessageLogContext &, const QString &) {});
+                if (!hasRoom)
+                    ::setrlimit(RLIMIT_NOFILE, &none);
+                {
+                    const SignalWatcher watcher;
+                }
+                ::_exit(0);
+            }
+            int status = -1;
+            QCOMPARE(::waitpid(child, &status, 0), child);
+            QCOMPARE(WIFSIGNALED(status) ? WTERMSIG(status) : 0, hasRoom ? 0 : SIGABRT);
+            QVERIFY(!hasRoom || (WIFEXITED(status) && WEXITSTATUS(status) == 0));
         }
     }
 };
