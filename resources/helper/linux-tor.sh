@@ -10,6 +10,8 @@ readonly LAUNCHER_OUT=$RUN/launcher.out   # output of the programs that start To
 readonly START_POLLS=500   # of about 20 ms: Tor opens its control port within 10 s, or it has failed
 readonly STOP_POLLS=200    # of about 20 ms: Tor has about 4 s to end
 readonly FILTER_NAME=veldmark-control
+readonly OWN_PLACE=/usr/libexec/veldmark   # for the package's programs that only the helper runs
+readonly PACKAGED_HELPER=/usr/share/veldmark/veldmark-helper.sh
 
 # Runs as root in the new namespaces: RESOLVERS TARGET DATA LOG COMMAND... COMMAND gives up root. Tor's account may write its data, its log
 # and three places in memory that are visible to no other process. All other files are read-only, so it leaves no program for a later
@@ -121,7 +123,7 @@ find_recorded() {
 OWN_PROGRAM=''
 find_own() {
   local path
-  for path in "${SELF%/*}/$1" "/usr/libexec/veldmark/$1"; do
+  for path in "${SELF%/*}/$1" "$OWN_PLACE/$1"; do
     OWN_PROGRAM=$(real_path "$path") || continue
     [[ ! -f $OWN_PROGRAM || ! -x $OWN_PROGRAM ]] || ! root_owned "$OWN_PROGRAM" || ! on_own_mount "$OWN_PROGRAM" || return 0
   done
@@ -129,16 +131,18 @@ find_own() {
 }
 
 # find_filter: sets FILTER to the program that stands before Tor's control port, with its operands, where Tor's account can run it. The
-# mounts that Tor sees hide some places or let nothing run there (INSIDE). Without it Tor has the port itself: in a build folder, or where
-# it is not installed. An installed filter that cannot be used ends the connect, so that no failed look at it takes it away.
+# mounts that Tor sees hide some places or let nothing run there (INSIDE). Without it Tor has the port itself: in a build folder, where no
+# package is installed. An installed filter that cannot be used, or that its package lacks, ends the connect, so that no failed look at it
+# takes it away.
 FILTER=()
 find_filter() {
   local path
   FILTER=() CONTROL_SOCKET=''
   if ! find_own "$FILTER_NAME" || ! open_to_all "$OWN_PROGRAM"; then
-    for path in "${SELF%/*}/$FILTER_NAME" "/usr/libexec/veldmark/$FILTER_NAME"; do
+    for path in "${SELF%/*}/$FILTER_NAME" "$OWN_PLACE/$FILTER_NAME"; do
       [[ $SELF != /usr/* || ! -e $path ]] || die "The filter before Tor's control port cannot be used."
     done
+    [[ ! -e $PACKAGED_HELPER ]] || die "The filter before Tor's control port cannot be used."
     return 0
   fi
   case $OWN_PROGRAM in /home/* | /run/* | /media/* | /mnt/* | /tmp/* | /var/tmp/* | /dev/*) return 0 ;; esac

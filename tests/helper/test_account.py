@@ -158,6 +158,25 @@ class Account(HostileTest):
         finally:
             self.machine.shell("mount -t cgroup2 private /sys/fs/cgroup")
 
+    def test_where_the_kernel_does_not_find_groups_it_is_the_account_alone(self):
+        """As before Linux 5.13: it refuses such a rule, which the helper tries first (nft -c)."""
+        self.machine.connect()
+        self.assertIn("cgroupv2", self.machine.run("nft", "list", "ruleset").stdout)
+        self.machine.help("disconnect")
+        self.machine.shell(
+            "cp --remove-destination /usr/sbin/nft /mnt/real; printf '%s\\n' '#!/bin/sh' '[ \"$1\" != -c ] || exit 1' 'exec /mnt/real \"$@\"' >/mnt/older;"
+            "chmod +x /mnt/older; mount --bind /mnt/older /usr/sbin/nft"
+        )
+        try:
+            self.machine.connect()
+            rules = self.machine.run("nft", "list", "ruleset").stdout
+            self.assertNotIn("cgroupv2", rules)
+            self.assertIn("policy drop", rules)
+            self.assertIn("https", self.wire.arrivals(self.tor_uid))
+            self.machine.help("disconnect")
+        finally:
+            self.machine.shell("umount -l /usr/sbin/nft")
+
     def test_tor_reaches_the_local_network_for_a_bridge_there_alone(self):
         lan = {"lan-tcp", "lan-dns-tcp", "lan-dns-tls"}
         for url, reached in (None, set()), ("https://203.0.113.7/", set()), ("https://192.168.77.30/", lan):

@@ -13,6 +13,10 @@ PLACE = "/usr/local/libexec/veldmark"
 FILTER = f"{PLACE}/veldmark-control"
 SOCKET = "/var/lib/veldmark/run/tor/data/control"
 NOTE = "/run/veldmark.watch"
+# Where the package has them.
+PACKAGED_HELPER = "/usr/share/veldmark/veldmark-helper.sh"
+PACKAGED_FILTER = "/usr/libexec/veldmark/veldmark-control"
+UNUSABLE = "The filter before Tor's control port cannot be used."
 WORD = 'AUTHENTICATE "the word"'
 
 # Says each line at the given place (a port or a socket) and prints the last line of each answer, or "closed".
@@ -184,20 +188,70 @@ class Session(HelperTest):
         self.assertEqual(len(self.filters()), 1)
         self.assertEqual(self.say(WORD, self.REFUSED[0])[1][:4], "510 ")
 
+    @staticmethod
+    def spoilt(path):
+        return (
+            (f"chown {USER_UID} {path}", f"chown 0 {path}"),
+            (f"chmod 0775 {path}; chgrp {USER_UID} {path}", f"chmod 0755 {path}; chgrp 0 {path}"),
+            (f"chmod 0750 {path}", f"chmod 0755 {path}"),
+        )
+
+    def assert_refused(self, helper, spoil, restore):
+        self.machine.shell(spoil)
+        try:
+            before = self.machine.snapshot()
+            self.assertOneLine(self.connect(helper=helper, check=False), UNUSABLE)
+            self.assertEqual(self.machine.snapshot(), before)
+        finally:
+            self.machine.shell(restore)
+
+    def assert_filtered(self, helper, program):
+        self.connect(helper=helper)
+        [pid] = self.filters()
+        self.assertEqual(self.machine.shell(f"readlink /proc/{pid}/exe").strip(), program)
+        self.assertEqual(self.say(WORD, self.REFUSED[0])[1][:4], "510 ")
+        self.machine.help("disconnect")
+
     def test_an_installed_filter_that_cannot_be_used_ends_the_connect(self):
-        for spoil, restore in (
-            (f"chown {USER_UID} {FILTER}", f"chown 0 {FILTER}"),
-            (f"chmod 0775 {FILTER}; chgrp {USER_UID} {FILTER}", f"chmod 0755 {FILTER}; chgrp 0 {FILTER}"),
-            (f"chmod 0750 {FILTER}", f"chmod 0755 {FILTER}"),
-        ):
-            self.machine.shell(spoil)
+        for spoil, restore in self.spoilt(FILTER):
+            self.assert_refused(INSTALLED, spoil, restore)
+
+    def test_the_packages_filter_is_not_beside_its_helper(self):
+        """Where the package lacks it, or it cannot be used, there is no session without a filter."""
+        self.machine.shell(
+            "for place in share libexec; do mkdir -p /mnt/$place/upper /mnt/$place/work; mount -t overlay -o"
+            " lowerdir=/usr/$place,upperdir=/mnt/$place/upper,workdir=/mnt/$place/work private /usr/$place; done;"
+            f'install -D -m 0755 "$1" {PACKAGED_HELPER}; install -D -m 0755 {FILTER} {PACKAGED_FILTER}; mv {FILTER} {FILTER}.away',
+            self.machine.helper,
+        )
+        try:
+            missing = (f"mv {PACKAGED_FILTER} {PACKAGED_FILTER}.away", f"mv {PACKAGED_FILTER}.away {PACKAGED_FILTER}")
+            for helper, ways in (PACKAGED_HELPER, (missing, *self.spoilt(PACKAGED_FILTER))), (INSTALLED, (missing,)):
+                self.assert_filtered(helper, PACKAGED_FILTER)
+                for spoil, restore in ways:
+                    self.assert_refused(helper, spoil, restore)
+            # A good one beside the helper serves as well.
+            self.machine.shell(f"mv {FILTER}.away {FILTER}; {self.spoilt(PACKAGED_FILTER)[0][0]}")
+            self.assert_filtered(INSTALLED, FILTER)
+        finally:
+            self.machine.help("disconnect")
+            self.machine.shell(f"test -e {FILTER} || mv {FILTER}.away {FILTER}; umount -l /usr/share /usr/libexec")
+
+    def test_where_tors_account_can_run_nothing_tor_has_the_port(self):
+        """As with the helper of a build folder of root's. The same files in another place are used."""
+        for place in "/home/built", "/run/built", "/opt/built":
+            self.machine.shell(f"mkdir {place}; cp {INSTALLED} {FILTER} {place}")
             try:
-                done = self.connect(check=False)
-                self.assertNotEqual(done.returncode, 0, spoil)
-                self.assertOneLine(done, "The filter before Tor's control port cannot be used.")
-                self.assertEqual(self.machine.snapshot(), self.before)
+                if place == "/opt/built":
+                    self.assert_filtered(f"{place}/veldmark-helper.sh", f"{place}/veldmark-control")
+                    continue
+                self.connect(helper=f"{place}/veldmark-helper.sh")
+                self.assertEqual(self.filters(), [], place)
+                self.assertEqual(self.say(WORD, self.USED[-1]), ["250 OK"] * 2, place)
+                self.machine.help("disconnect")
             finally:
-                self.machine.shell(restore)
+                self.machine.help("disconnect")
+                self.machine.shell(f"rm -r {place}")
 
     def test_another_process_of_tors_account_gets_no_password_by_taking_the_place_of_tors_socket(self):
         """As a bridge program that has been taken over could try. At Tor's own socket, it would get the words."""

@@ -35,6 +35,7 @@ TROUBLES = {f"a disk with {spare} kB left": (fill(spare), f"rm {STATE}/filler", 
         f"umount {STATE}/journal",
         TOR,
     ),
+    "a read-only /etc": ("mount -o remount,bind,ro /etc", "mount -o remount,bind,rw /etc", TOR),
     "no nft": (NOT_EXECUTABLE.format("/usr/sbin/nft"), "umount /usr/sbin/nft", TOR),
     "an nft that fails": (
         "printf '#!/bin/sh\\necho broken >&2; exit 1\\n' >/mnt/nft; chmod +x /mnt/nft; mount --bind /mnt/nft /usr/sbin/nft",
@@ -71,6 +72,7 @@ TROUBLES = {f"a disk with {spare} kB left": (fill(spare), f"rm {STATE}/filler", 
         OTHER_TOR,
     ),
 }
+HARMLESS = {"a read-only /etc"}  # Tor's account is there
 SOME_ROOM = {f"a disk with {spare} kB left" for spare in SPARE[2:]}
 
 
@@ -121,6 +123,20 @@ class Trouble(HelperTest):
         self.machine.help("disconnect")
         self.assertEqual(self.machine.snapshot(), self.before)
 
+    def test_tors_account_that_cannot_be_made_is_named(self):
+        """As in the very first session of a computer whose /etc is read-only."""
+        begin, end, _ = TROUBLES["a read-only /etc"]
+        files = "/etc/passwd /etc/group /etc/shadow /etc/gshadow"
+        self.machine.shell(f"mkdir /run/kept; cp -p {files} /run/kept; sed -i /^_veldmark:/d {files}; {begin}")
+        try:
+            for verb in "connect", "connect in proxy mode":
+                done = self.machine.help(*self.words(verb, TOR), check=False)
+                self.assertOneLine(done, "The account _veldmark cannot be created.")
+                self.assertFalse(self.drops())
+        finally:
+            self.machine.shell(f"{end}; cp -p /run/kept/* /etc; rm -r /run/kept")
+        self.assertEqual(self.machine.snapshot(), self.before)
+
     def test_folders_that_cannot_be_looked_at_are_not_taken_for_safe(self):
         begin, end, _ = TROUBLES["a stat that fails"]
         self.machine.connect()
@@ -168,6 +184,8 @@ class Trouble(HelperTest):
         again = self.machine.help("disconnect", check=False)
         self.assertEqual((again.returncode, again.stderr), (0, ""))
         self.assertEqual(self.machine.snapshot(), self.before)
+        if name in HARMLESS:
+            self.assertEqual((done.returncode, done.stderr), (0, ""))
         return done
 
     def all_troubles(self, verb, session):

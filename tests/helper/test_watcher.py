@@ -185,6 +185,24 @@ class Watcher(HelperTest):
             for process in many:
                 process.communicate()
 
+    def test_a_disk_that_is_full_keeps_no_rules_away(self):
+        """It fills up during the session. The helper's folder gets a file system of its own for it."""
+        folder = "/var/lib/veldmark"
+        self.machine.help("disconnect")
+        self.machine.shell(f"mount -t tmpfs -o size=4m,mode=755 disk {folder}")
+        try:
+            self.machine.connect()
+            self.machine.await_watcher()
+            self.machine.shell(f"! cat /dev/zero >{folder}/filler; ! echo more >{folder}/more")
+            for number, change in enumerate((CHANGES["flushed"], CHANGES["opened by a rule"]), 1):
+                self.seconds_until_locked(change)
+                self.wait_note(f"restored {number}")
+            self.wait_look()
+            self.assertEqual(self.note(), "restored 2")
+        finally:
+            self.machine.help("disconnect")
+            self.machine.shell(f"umount -l {folder}")
+
     def test_the_change_is_told(self):
         self.assertEqual(self.note(), "standing 0")
         self.seconds_until_locked("nft flush ruleset")
@@ -200,14 +218,14 @@ class Watcher(HelperTest):
         for _ in range(50):
             ages.append(time.time() - os.stat(self.note_path).st_mtime)
             time.sleep(0.1)
-        self.assertLess(sorted(ages)[37], 1.5)  # of every four, one may be older on a busy computer
+        self.assertLess(sorted(ages)[37], 1.0)  # of every four, one may be older on a busy computer
         self.machine.end_watcher()
         before = os.stat(self.note_path).st_mtime_ns
         time.sleep(2 * 3 + 1)
         self.assertEqual(os.stat(self.note_path).st_mtime_ns, before)
 
     def is_young(self):
-        return time.time() - os.stat(self.note_path).st_mtime < 1.5  # the program takes this for a sign of life
+        return time.time() - os.stat(self.note_path).st_mtime < 1.5  # the program believes 1.0; half a second for a busy computer
 
     def becomes(self, young):
         deadline = time.monotonic() + 10

@@ -1,7 +1,6 @@
 """The helper also reads its options from standard input, where no other account sees them."""
 
-import os
-import time
+import subprocess
 
 import namespace
 from namespace import HASH, TOR, HelperTest
@@ -21,6 +20,16 @@ WORDS = [
     "192.0.2.1:443 " + "0123456789" * 4,
 ]
 
+# Prints how many processes have the text of its input on their command lines or in their environments.
+SEARCH = r"""
+import os, sys
+text, found = sys.stdin.buffer.read(), 0
+for pid in filter(str.isdigit, os.listdir('/proc')):
+    try: found += any(text in open(f'/proc/{pid}/{kind}', 'rb').read() for kind in ('cmdline', 'environ'))
+    except OSError: pass
+print(found)
+"""
+
 
 def lines(words, end="end\n"):
     return "".join(word + "\n" for word in words) + end
@@ -36,40 +45,35 @@ class Words(HelperTest):
         for line in f"HashedControlPassword {HASH}", "ExitNodes {de}", "Bridge 192.0.2.1:443 " + "0123456789" * 4:
             self.assertIn(f"\n{line}\n", torrc)
 
+    def processes_with(self, text):
+        """How many processes have it on their command lines or in their environments."""
+        return int(self.machine.run("/usr/bin/python3", "-c", SEARCH, stdin=text).stdout)
+
+    def begin(self, runs, *words, stdin=""):
+        """Begins a connect, and waits until it waits for its lock: it has taken its words by then."""
+        run = self.machine.start(
+            *("/bin/bash", self.machine.helper, "connect", *words),
+            **{"stdin": subprocess.PIPE, "stderr": subprocess.DEVNULL, "text": True},
+        )
+        runs.append(run)
+        run.stdin.write(stdin)
+        run.stdin.flush()
+        self.machine.shell(f"until [ $(pgrep -cxf 'flock -w 20 9') = {len(runs)} ]; do sleep 0.01; done", timeout=20)
+
     def test_nobody_sees_them(self):
         """The helper waits for its lock meanwhile. The same words on a command line show that the search works."""
-        holder = self.machine.start("flock", "/run/veldmark.lock", "sleep", "1000")
-        import subprocess
-
-        runs = [
-            self.machine.start(
-                "/bin/bash", self.machine.helper, "connect", *more, stdin=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True
-            )
-            for more in ((), ("-",))
-        ]
+        holder = self.machine.hold("/run/veldmark.lock")
+        runs = []
         try:
-            runs[1].stdin.write(lines(WORDS))
-            runs[1].stdin.flush()
-            find = "for f in /proc/[0-9]*/cmdline; do tr '\\0' ' ' <$f 2>/dev/null; echo; done | grep -c 'helper.sh connect - *$' || true"
-            deadline = time.monotonic() + 20
-            while int(self.machine.shell(find, uid=4243)) < 1:
-                self.assertLess(time.monotonic(), deadline)
-            seen = self.machine.start(
-                "/bin/bash", self.machine.helper, "connect", *WORDS, stdin=subprocess.DEVNULL, stderr=subprocess.DEVNULL
-            )
-            runs.append(seen)
-            count = f"grep -lasF {HASH} /proc/[0-9]*/cmdline /proc/[0-9]*/environ | grep -vc self || true"
-            while int(self.machine.shell(count)) < 2:  # grep itself, and that run
-                self.assertLess(time.monotonic(), deadline)
-            seen.kill()
-            seen.wait()
+            self.begin(runs, "-", stdin=lines(WORDS))
+            self.assertEqual(self.processes_with(HASH), 0)
+            self.begin(runs, *WORDS)
+            self.assertGreater(self.processes_with(HASH), 0)
         finally:
+            self.machine.shell("pkill -KILL -f 'helper[.]sh connect' || true")
+            holder.communicate("go on\n")
             for run in runs:
-                run.kill()
                 run.communicate()
-            holder.kill()
-            holder.wait()
-            self.machine.shell("pkill -x sleep; pkill -f 'helper[.]sh connect' || true")
 
     def test_words_that_were_cut_short_are_none(self):
         before = self.machine.snapshot()

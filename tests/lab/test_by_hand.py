@@ -41,6 +41,7 @@ class ByHand(unittest.TestCase):
         helper = (PROGRAMS / "veldmark-helper.sh").read_bytes()
         cls.lab.host.write("/usr/share/veldmark/veldmark-helper.sh", helper, 0o755)
         cls.product.install_identifier()
+        cls.product.install_filter()
 
     def left_behind(self) -> dict[str, str]:
         """Makes a strict session and kills its program; returns the state before it."""

@@ -5,6 +5,7 @@
 
 import os
 import signal
+import subprocess
 import sys
 import time
 import unittest
@@ -32,6 +33,22 @@ for uid in tor, 65534:
     c.settimeout(30); print(c.makefile().readline().strip(), flush=True); c.close()
 """
 
+# Takes Tor's place at the control port as soon as it is free, and prints the first line that each client says.
+FALSE_TOR = """import socket, time
+s = socket.socket(); s.setsockopt(socket.SOL_SOCKET, socket.SO_REUSEADDR, 1)
+print("waits", flush=True)
+while True:
+    try: s.bind(("127.0.0.1", 9051)); break
+    except OSError: time.sleep(0.001)
+s.listen(); print("listens", flush=True)
+while True:
+    c = s.accept()[0]; c.settimeout(5)
+    try: print(c.makefile().readline().strip(), flush=True)
+    except OSError: pass
+"""
+INSTALLED = "/usr/local/libexec/veldmark/veldmark-helper.sh"
+OWN_HASH = "16:" + "0123456789ABCDEF" * 3 + "0123456789"
+
 
 class BothModes(LabCase):
     def test_strict_mode_goes_out_through_tor_alone(self):
@@ -47,6 +64,7 @@ class BothModes(LabCase):
             self.assertEqual(state["leakStatus"], "blocked")
             self.assertEqual(state["dnsStatus"], "throughTor")
             self.assertEqual(self.lab.host.read(MARKER), "strict\n")
+            self.lab.host.run(["pgrep", "-u", "_veldmark", "-x", "veldmark-contro"], check=True)  # the filter, as with a package
             self.assertIsNone(self.direct("-4"))
             self.assertIsNone(self.direct("-6"))
             answer = self.through_tor()
@@ -259,6 +277,46 @@ class AnOrdinaryUser(LabCase):
             log = self.product.run_verb("log", check=True).stdout  # the session's user may read Tor's log
             self.assertIn("Bootstrapped 100%", log)
             self.assertEqual(session.interrupt(), 0, session.output)
+        self.assert_restored()
+
+    def test_a_hostile_program_does_not_have_an_open_network_called_protected(self):
+        """It is the user's, in password-free mode. It may not lessen the session. It may end it, and takes Tor's place at once."""
+        self.as_root.run_helper("install-privileged", "--user", self.lab.host.user, check=True)
+        self.addCleanup(self.as_root.run_helper, "uninstall-privileged", check=True)
+        self.before = self.lab.host.snapshot()
+
+        def by_rule(*words):
+            return self.lab.host.run(["sudo", "-n", INSTALLED, *words], user=self.lab.host.user)
+
+        with self.product.session() as session:
+            session.wait(lambda s: is_probed(s) and s["title"] == "Protected")
+            refused = by_rule("connect", "--tor", "/usr/bin/tor", "--hash", OWN_HASH, "--strict", "0", "--lan", "0")
+            self.assertEqual(
+                (refused.returncode, refused.stderr),
+                (3, "ERROR: An administrator password is needed to change the running strict session.\n"),
+            )
+            self.assertIsNone(self.direct("-4"))
+            self.assertEqual(self.product.status()["title"], "Protected")
+            with self.lab.host.popen(
+                ["/usr/bin/python3", "-c", FALSE_TOR], user=self.lab.host.user, stdout=subprocess.PIPE, text=True
+            ) as false_tor:
+                try:
+                    self.assertEqual(false_tor.stdout.readline(), "waits\n")
+                    ended = by_rule("disconnect")
+                    moment = time.monotonic()
+                    self.assertEqual((ended.returncode, ended.stderr), (0, ""))
+                    self.assertEqual(false_tor.stdout.readline(), "listens\n")
+                    state = session.wait(lambda s: s["title"] != "Protected", 3.5)
+                    print(f"{state['title']} after {time.monotonic() - moment:.1f} s", flush=True)
+                    self.assertEqual(self.direct("-4")["IP"], at.HOST_ADDRESS)  # the network is open
+                    state = session.wait(lambda s: s["killSwitch"] == "open", 10)
+                    self.assertEqual((state["title"], state["level"]), ("Kill Switch Failed", "danger"))
+                    state = session.wait(lambda s: s["phase"] != "connected", 30)
+                    self.assertEqual((state["title"], state["activeMode"]), ("Not Protected", None))
+                finally:
+                    false_tor.kill()
+                self.assertEqual(set(false_tor.stdout.read().split()), set())  # nobody has told it the password
+            session.interrupt()
         self.assert_restored()
 
     def test_the_password_is_nobody_elses_to_get(self):

@@ -47,6 +47,7 @@ class Prompt(unittest.TestCase):
             if (PROGRAMS / name).exists():
                 host.write(f"/usr/bin/{name}", (PROGRAMS / name).read_bytes(), 0o755)
         host.write(HELPER, (PROGRAMS / "veldmark-helper.sh").read_bytes(), 0o755)
+        Product(cls.lab, PROGRAMS).install_filter()
         host.write(f"/usr/share/polkit-1/actions/{POLICY.name}", POLICY.read_bytes())
         host.start_polkit(RULES)
         cls.product = Product(cls.lab, Path("/usr/bin"), user=host.user)

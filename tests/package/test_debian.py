@@ -101,6 +101,10 @@ class Case(unittest.TestCase):
     def tor_runs(self) -> bool:
         return self.lab.host.run(["pgrep", "-x", "tor"]).returncode == 0
 
+    def assert_filtered(self):
+        """The package's filter stands before Tor's control port."""
+        self.lab.host.run(["pgrep", "-x", "veldmark-contro"], check=True)
+
     def assert_network_is_whole(self):
         self.assertEqual(self.rules(), "")
         self.assertEqual(self.debian.shell("cat /etc/resolv.conf"), self.resolver)
@@ -148,6 +152,8 @@ class Installed(Case):
             self.assertTrue(self.debian.path(f"/usr/share/man/man1/{page}.1.gz").exists())
         helper = self.debian.shell(f"stat -c '%a %u %g' {HELPER}")
         self.assertEqual(helper, "755 0 0\n")
+        own = self.debian.shell("stat -c '%a %u %g' /usr/libexec/veldmark/veldmark-control /usr/libexec/veldmark/veldmark-identify")
+        self.assertEqual(own, "755 0 0\n" * 2)
         # The installation changes neither the network nor accounts; starting at login is a setting.
         self.assertNotIn("_veldmark", self.debian.shell("cat /etc/passwd"))
         self.assertEqual(self.debian.shell("find / -xdev -path '*autostart*veldmark*'"), "")
@@ -183,6 +189,7 @@ class Installed(Case):
         with self.connected(user="alice") as session:
             state = session.wait(lambda s: s["exitIP"])
             self.assertEqual((state["torVerified"], state["leakStatus"]), (True, "blocked"))
+            self.assert_filtered()
             self.assertEqual(session.interrupt(), 0, session.output)
         self.assert_network_is_whole()
         self.assertEqual(self.debian.shell("find /etc -type f ! -name '*-' ! -name '.pwd.lock' | sort"), files)
@@ -346,6 +353,9 @@ class Removed(Case):
     def test_a_session_begun_while_the_package_goes_is_restored(self):
         hashed = self.debian.run(["tor", "--quiet", "--hash-password", "x"], check=True).stdout.strip()
         self.debian.run([HELPER, "connect", "--tor", "/usr/bin/tor", "--hash", hashed, "--strict", "1", "--lan", "0"], check=True)
+        self.assert_filtered()
+        ask = 'exec 3<>/dev/tcp/127.0.0.1/9051; printf "%s\\r\\n" "AUTHENTICATE \\"x\\"" "SETCONF HTTPSProxy=192.0.2.8:8" QUIT >&3; cat <&3'
+        self.assertRegex(self.debian.run(["/usr/bin/bash", "-c", ask], check=True).stdout, r"\A250 OK\s+510 .*\s+250 ")
         scripts = "/var/lib/dpkg/info/veldmark"
         self.debian.run([f"{scripts}.prerm", "remove"], check=True)
         self.assert_network_is_whole()

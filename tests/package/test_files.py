@@ -245,6 +245,13 @@ class Metadata(InAHome):
         self.assertEqual([release.get("version") for release in tree.parse(METAINFO).iter("release")][0], version)
         self.assertIn(f"veldmark ({version})", (PACKAGING / "debian" / "changelog").read_text().splitlines()[0])
 
+    def test_the_helpers_own_programs_go_where_it_looks_for_them(self):
+        place = re.search(r"(?m)^readonly OWN_PLACE=/usr/(\S+)", (PROGRAMS / "veldmark-helper.sh").read_text()).group(1)
+        script = METAINFO.with_name("cmake_install.cmake").read_text()
+        goes = re.findall(r'DESTINATION "\$\{CMAKE_INSTALL_PREFIX\}/([^"]+)" TYPE EXECUTABLE FILES "[^"]*/([^/"]+)"', script)
+        for name in "veldmark-identify", "veldmark-control":
+            self.assertIn((place, name), goes)
+
     def test_the_policy_has_an_action_for_each_verb_of_the_helper_and_keeps_no_approval(self):
         helper = (PROGRAMS / "veldmark-helper.sh").read_text()
         cases = helper.split("\nmain() {\n")[-1].split("  case $VERB in\n")[1].split("  esac\n")[0]

@@ -1,5 +1,6 @@
 #include "support/Workbench.h"
 
+#include "controlfilter/CommandFilter.h"
 #include "support/NameLookups.h"
 
 #include <QCoreApplication>
@@ -51,6 +52,20 @@ QStringList unquoted(QString line)
             word += line[i];
     }
     return words << word;
+}
+
+// Behind the filter before Tor's control port, Tor would get none of those that it refuses.
+void failForFilteredCommands(const QStringList &commands)
+{
+#ifndef Q_OS_MACOS
+    for (const QString &command : commands) {
+        if (CommandFilter::judge(command.toStdString()) != CommandFilter::Verdict::passes)
+            QTest::qFail(qPrintable(QStringLiteral("The filter refuses: ") + command), __FILE__,
+                         __LINE__);
+    }
+#else
+    Q_UNUSED(commands)
+#endif
 }
 
 QCoro::Task<std::optional<ConnectTime>> noAnswer()
@@ -129,6 +144,7 @@ Workbench::~Workbench()
     clock.advance(24h);
     socketClock.advance(24h);
     settle();
+    failForFilteredCommands(tor.commands());
 }
 
 void Workbench::restart()

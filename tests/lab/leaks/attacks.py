@@ -14,7 +14,8 @@ TOR_PORTS = {9050, 9051}
 DNS_PORT = 293
 GROUP = "/sys/fs/cgroup/desktop"  # every user may kill the processes in it
 OWN_TOR = "/opt/own/tor"
-HASH = "16:" + "0123456789ABCDEF" * 3 + "0123456789"  # as in case.py, which this program cannot import
+MEDIUM = "/opt/medium"
+HASH = "16:0123456789ABCDEF60CA93B6650FDA506D171E63461568B343DE96B286"  # as in case.py, which this program cannot import
 PROXY = ["--strict", "0", "--lan", "0"]
 
 
@@ -71,6 +72,16 @@ def place():
     return False
 
 
+def configuration():
+    """Has Tor use a proxy of its own, with the control password."""
+    try:
+        with socket.create_connection(("127.0.0.1", 9051), 2) as control:
+            control.sendall(b'AUTHENTICATE "the word"\r\nSETCONF HTTPSProxy=192.0.2.8:8\r\nQUIT\r\n')
+            return control.makefile().read().startswith("250 OK\n250 OK\n")
+    except OSError:
+        return False
+
+
 def is_watched():
     for pid in filter(str.isdigit, os.listdir("/proc")):
         try:
@@ -113,6 +124,7 @@ ATTACKS = {
     "tunnel": (tunnel, "a bridge program's port as a tunnel"),
     "beside": (beside_tor, "a second socket at Tor's port for lookups"),
     "place": (place, "listening in Tor's place while it is away"),
+    "configuration": (configuration, "with the control password, a proxy for Tor"),
     "kill": (kill, "an end of the control group that it was begun in"),
     "proxy": (lambda: connect(*PROXY), "by the rule: proxy mode"),
     "lan": (lambda: connect("--strict", "1", "--lan", "1"), "by the rule: the local network"),
@@ -121,6 +133,7 @@ ATTACKS = {
         "by the rule: an interpreter as a bridge program",
     ),
     "program": (lambda: connect(*PROXY, tor=OWN_TOR), "by the rule: a Tor of one's own"),
+    "medium": (lambda: connect(*PROXY, tor=f"{MEDIUM}/tor"), "by the rule: a Tor of root's on a medium"),
     "approval": (lambda: approve(), "by the rule: an approval of it"),
     "launch": (
         lambda: by_rule("launch", "--uid", str(os.getuid()), "--app", "/bin/true"),

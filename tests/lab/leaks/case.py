@@ -16,7 +16,7 @@ from veldlab.product import Product
 
 PROGRAMS = Path(os.environ.get("VELDMARK_PROGRAMS", PROJECT / "build" / "bin"))
 SENDER = str(Path(__file__).resolve().with_name("sender.py"))
-HASH = "16:" + "0123456789ABCDEF" * 3 + "0123456789"
+HASH = "16:0123456789ABCDEF60CA93B6650FDA506D171E63461568B343DE96B286"  # of "the word"
 GROUPS = {2: "/sys/fs/cgroup/veldmark/tor", 3: "/sys/fs/cgroup/veldmark-bypass"}  # the identities that are in a control group
 EVERYBODY = range(len(matrix.IDENTITIES))
 
@@ -30,6 +30,7 @@ class LeakCase(unittest.TestCase):
         cls.lab.up()
         cls.addClassCleanup(cls.lab.down)
         cls.product = Product(cls.lab, PROGRAMS)
+        cls.product.install_filter()
         cls.host = cls.lab.host
         cls.matrix = Matrix()
         cls.addClassCleanup(lambda: print(f"\npackets seen when nothing blocks / in strict mode\n{cls.matrix}", flush=True))

@@ -18,7 +18,8 @@ INDICES = (6, 7)  # the index of their probes
 INSTALLED = "/usr/local/libexec/veldmark/veldmark-helper.sh"
 ELSEWHERE = "/opt/own/veldmark-helper.sh"  # here sudo's rule counts as an administrator's approval
 RULE = "/etc/sudoers.d/veldmark"
-BY_RULE = ("proxy", "lan", "interpreter", "program", "approval", "launch")
+FILTER = "/usr/libexec/veldmark/veldmark-control"
+BY_RULE = ("proxy", "lan", "interpreter", "program", "medium", "approval", "launch")
 AWAY = "pkill -KILL -u _veldmark; while pgrep -u _veldmark; do sleep 0.01; done"
 # bridges, password-free, local network: each pair of settings occurs
 SESSIONS = ((True, False, 0), (False, True, 0), (False, False, 1), (True, True, 1))
@@ -52,6 +53,9 @@ class HostileRows:
             f"chown _veldmark /opt/own/left; chmod 4755 /opt/own/left; cp {INSTALLED} {ELSEWHERE}; cp {PROGRAMS}/veldmark-launch /opt/own"
         )
         stack.callback(self.sh, f"rm -rf /opt/own /opt/interpreter /usr/local/libexec/veldmark {RULE} /run/hostile")
+        # A folder of root's, until it is a medium.
+        self.sh(f"install -D /usr/bin/tor {attacks.MEDIUM}/tor")
+        stack.callback(self.sh, f"! mountpoint -q {attacks.MEDIUM} || umount -l {attacks.MEDIUM}; rm -r {attacks.MEDIUM}")
         self.sh(f"mkdir {attacks.GROUP}; chmod 666 {attacks.GROUP}/cgroup.kill")
         stack.callback(self.sh, f"rmdir {attacks.GROUP}")
         maps = "; ".join(f"ip daddr 192.168.77.2 tcp dport 80{i} dnat to {probes.public(i)}:22" for i in INDICES)
@@ -97,13 +101,13 @@ class HostileRows:
     def bridge_words(self):
         return ["--bridge", self.lab.tor.bridge_line("obfs4"), "--pt-lyrebird", "/usr/bin/obfs4proxy"]
 
-    def begin(self, bridges, lan):
+    def begin(self, bridges, lan, helper=PROGRAMS / "veldmark-helper.sh"):
         more = self.bridge_words() if bridges else []
         self.sh(
             f'echo 0 >{attacks.GROUP}/cgroup.procs; PKEXEC_UID=$0 exec "$@"',
             str(self.host.uid),
             "/bin/bash",
-            str(PROGRAMS / "veldmark-helper.sh"),
+            str(helper),
             "connect",
             "--tor",
             "/usr/bin/tor",
@@ -128,14 +132,22 @@ class HostileRows:
         self.begin(False, 0)
         self.attack(rows, "control", "launch", helper=ELSEWHERE)
         self.disconnect()
+        # The filter, which the helper does not find here, and for the other account the rules.
+        self.sh(f"mv {FILTER} {FILTER}.away")
+        self.begin(False, 0, ELSEWHERE)
+        self.sh(f"mv {FILTER}.away {FILTER}; pkill -STOP -f watcher[.]sh; nft delete table inet veldmark")
+        self.attack(rows, "control", "configuration")
+        self.sh("pkill -CONT -f watcher[.]sh")
+        self.disconnect()
         # The running session prevents the local network and proxy mode. An interpreter is refused by its name, and a user's own
         # program by its missing approval.
         self.allow(INSTALLED)
         self.attack(rows, "control", "lan", after=self.disconnect)
         self.sh("mv /opt/interpreter/program /opt/interpreter/lyrebird; ln -s lyrebird /opt/interpreter/program")
-        self.attack(rows, "control", "proxy", "interpreter", "program")
+        self.attack(rows, "control", "proxy", "interpreter", "program", "medium")
         self.sh("rm /opt/interpreter/program; mv /opt/interpreter/lyrebird /opt/interpreter/program")
         self.disconnect()
+        self.sh(f"mount -t tmpfs -o nosuid,nodev medium {attacks.MEDIUM}; cp /usr/bin/tor {attacks.MEDIUM}")
         self.sh("rm -r /var/lib/veldmark/programs/*")
         self.allow(None)
         self.begin(True, 0)
@@ -158,11 +170,11 @@ class HostileRows:
 
     def attacked_session(self, rows, bridges, free, lan):
         self.allow(INSTALLED if free else None)
-        self.attack(rows, "session", "interpreter", "program", "approval")  # these are refused without a session, too
+        self.attack(rows, "session", "interpreter", "program", "medium", "approval")  # these are refused without a session, too
         self.begin(bridges, lan)
         try:
             state = self.truth()
-            self.attack(rows, "session", "beside", *BY_RULE, *(["tunnel"] if bridges else []))
+            self.attack(rows, "session", "beside", "configuration", *BY_RULE, *(["tunnel"] if bridges else []))
             self.packets(rows, "session")
             self.attack(rows, "session", "kill")
             self.assertEqual(self.truth(), state)

@@ -49,6 +49,7 @@ class LabCase(unittest.TestCase):
             else:
                 cls.addClassCleanup(cls.lab.down)
         cls.product = Product(cls.lab, PROGRAMS)
+        cls.product.install_filter()
 
     @staticmethod
     def _end_shared():

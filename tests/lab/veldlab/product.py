@@ -63,8 +63,15 @@ class Product:
     def install_identifier(self) -> None:
         """Puts veldmark-identify where a package has it. The helper runs none from a folder that others than root can change, such as a
         checkout below /tmp."""
-        program = Path(self.helper).with_name("veldmark-identify").read_bytes()
-        self.lab.host.write("/usr/libexec/veldmark/veldmark-identify", program, mode=0o755)
+        self._install("veldmark-identify")
+
+    def install_filter(self) -> None:
+        """The same for veldmark-control."""
+        self._install("veldmark-control")
+
+    def _install(self, name: str) -> None:
+        program = Path(self.helper).with_name(name).read_bytes()
+        self.lab.host.write(f"/usr/libexec/veldmark/{name}", program, mode=0o755)
 
     def run_verb(self, *verb: str, **options) -> subprocess.CompletedProcess:
         """One call of veldmarkctl, with its output as text."""
