@@ -8,14 +8,25 @@ write_file() {
   local new=$1.new status=0
   [[ ! -e $new && ! -L $new ]] || rm -f -- "$new" || return 1
   set -o noclobber
+  [[ $2 != 0644 ]] || umask 022
   { printf '%s' "$4" >"$new"; } || status=1
+  umask 077
   set +o noclobber
   if ((status == 0)); then
-    { [[ $3 == root ]] || chown -- "$3" "$new"; } && { [[ $2 == 0600 ]] || chmod -- "$2" "$new"; } &&
+    { [[ $3 == root ]] || chown -- "$3" "$new"; } && { [[ $2 == 0600 || $2 == 0644 ]] || chmod -- "$2" "$new"; } &&
       put_in_place "$new" "$1" && return 0
   fi
   rm -f -- "$new"
   return 1
+}
+
+# remove FILE...: removes what is there, and starts no program where nothing is.
+remove() {
+  local file there=()
+  for file in "$@"; do
+    [[ ! -e $file && ! -L $file ]] || there[${#there[@]}]=$file
+  done
+  ((${#there[@]} == 0)) || rm -f -- "${there[@]}"
 }
 
 # One file per change, named NN-KIND in the order of the changes; undoing runs in reverse. Lines of "KEY VALUE",

@@ -46,7 +46,7 @@ stop_bypass() {
   printf '1\n' >"$BYPASS_FOLDER/cgroup.freeze" || return 0
   for ((poll = 0; poll < MOVE_ROUNDS; poll++)); do
     [[ $(<"$BYPASS_FOLDER/cgroup.events") != *"frozen 1"* ]] || return 0
-    sleep 0.02
+    pause 0.02
   done
 }
 
@@ -70,7 +70,7 @@ undo_bypass() {
       printf '%s\n' "${pids[i]}" >"${places[i]}/cgroup.procs" || printf '%s\n' "${pids[i]}" >"$TREE/cgroup.procs" || true
     done
     rmdir -- "$BYPASS_FOLDER" && return 0
-    sleep 0.02
+    pause 0.02
   done
   let_bypass_run
   UNDONE="The control group of the applications without Tor could not be removed."
@@ -115,7 +115,7 @@ run_launcher() {
   groups=$(id -G -- "$CALLER_NAME") && [[ $groups =~ ^[0-9\ ]+$ ]] || return 1
   let_bypass_run
   printf '0\n' >"$BYPASS_FOLDER/cgroup.procs" || return 1
-  exec 8>&- 9>&-
+  exec 6>&- 8>&- 9>&-
   exec timeout -k 1 "$LAUNCHER_SECONDS" env -i --default-signal PATH="$PATH" LC_ALL=C \
     unshare --mount --propagation slave /bin/bash -p -c "$UNSHARED" unshared "$TOR_RESOLVER" "$RESOLVER_TARGET" \
     setpriv --regid "$CALLER_GID" --groups "${groups// /,}" \

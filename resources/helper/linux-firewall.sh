@@ -330,6 +330,16 @@ kill_switch_stands() {
 check_firewall() {
   local output
   output=$(nft list tables 2>&1) || die "The system's firewall cannot be used ($(first_line "$output"))."
+  TABLES=$'\n'$output$'\n'
+}
+
+# may_stand TABLE ENTRY: whether one of the helper's other tables may be there. Its entry is written before it is loaded; without an entry
+# the kernel is asked, once for a run. Only a table that may be there is worth a program that deletes it.
+TABLES=''   # the kernel's tables when this run asked, each on a line
+may_stand() {
+  [[ -n $JOURNAL_TRUSTED ]] && ! journal_has "$2" || return 0
+  [[ -n $TABLES ]] || TABLES=$'\n'$(nft list tables)$'\n' || return 0
+  [[ $TABLES == *$'\n'"table inet $1"$'\n'* ]]
 }
 
 # first_line TEXT: the first line of a program's output, for a message of the helper.
@@ -375,10 +385,10 @@ note_listing() { read_listing "$TABLE" && keep_listing; }
 keep_listing() { write_file "$LISTED" 0600 root "$LISTING"$'\n'; }
 
 # nft_without_groups WORD...: lists without names of control groups. To find a name, nft searches all groups, and any user may make so many
-# that this takes minutes. In a mount namespace without groups nft prints their numbers.
+# that this takes minutes. In a mount namespace without groups nft prints their numbers. It becomes nft, so it is called in a subshell.
 # shellcheck disable=SC2016,SC2089
 readonly WITHOUT_GROUPS='mount -t tmpfs none /sys/fs/cgroup && exec nft "$@"'
-nft_without_groups() { unshare --mount --propagation private sh -c "$WITHOUT_GROUPS" nft "$@"; }
+nft_without_groups() { exec unshare --mount --propagation private sh -c "$WITHOUT_GROUPS" nft "$@"; }
 
 # read_listing TABLE: sets LISTING to the kernel's listing, without counters, without elements that a set has added meanwhile, and without
 # blanks, which differ between versions of nft.

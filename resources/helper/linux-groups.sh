@@ -13,6 +13,7 @@ TREE=''       # where the groups are mounted; empty on a system without cgroup v
 TOR_PATH=''   # Tor's group below $CGROUPS; empty when the rules cannot name it: then they match the account alone
 HOME_GROUP='' # the folder of the group in which the caller started this run
 HOME_UID=''   # the caller
+TREES_NAMESPACE=''   # the number of this run's namespace of groups, once it is known
 UNGROUPED=''  # 1 when this run is still in the caller's group, although there are groups
 
 # find_tree: sets TREE. The tree's own root must be mounted, so that the helper's groups are of the first level.
@@ -69,13 +70,22 @@ group_of() {
 
 # leave_caller: called before the lock is taken, so that only root can stop this run while it holds the lock. Another run that ends at the
 # same time may remove the group between two of these steps. It also resets what the caller may have set: processors, shares of processor
-# and disk, timer slack, and the priority when memory runs out.
+# and disk, timer slack, and the priority when memory runs out. No program is started to set what is so already.
 leave_caller() {
-  local round
+  local round line key value='' possible=''
   printf '0\n' >/proc/self/oom_score_adj || true
   printf '50000\n' >/proc/self/timerslack_ns || true   # nanoseconds, the kernel's default
-  { chrt --other --pid 0 "$$" && renice -n 0 -p "$$" && ionice --class none --pid "$$"; } >/dev/null || true
-  taskset --cpu-list --pid "$(</sys/devices/system/cpu/possible)" "$$" >/dev/null || true
+  IFS= read -r line </proc/self/stat
+  # shellcheck disable=SC2086
+  set -- ${line##*) }
+  [[ ${39} == 0 ]] || chrt --other --pid 0 "$$" >/dev/null || true
+  [[ ${17} == 0 ]] || renice -n 0 -p "$$" >/dev/null || true
+  ionice --class none --pid "$$" >/dev/null || true
+  IFS= read -r possible </sys/devices/system/cpu/possible || true
+  while read -r key value; do
+    [[ $key != Cpus_allowed_list: ]] || break
+  done </proc/self/status
+  [[ $value == "$possible" ]] || taskset --cpu-list --pid "$possible" "$$" >/dev/null || true
   find_tree || return 0
   HOME_GROUP=$(own_group) HOME_UID=$CALLER_UID
   [[ -w $TREE ]] || return 0
@@ -103,7 +113,7 @@ renew_group() {
       printf '%s\n' "$pid" >"$TREE/$RUN_GROUP/cgroup.procs" || true
     done <"$TREE/$TOR_GROUP/cgroup.procs"
     ! rmdir -- "$TREE/$TOR_GROUP" || break
-    ((round < 5)) || sleep 0.02
+    ((round < 5)) || pause 0.02
   done
   { [[ ! -d $TREE/$TOR_GROUP ]] && make_group "$TOR_GROUP"; } || die "The control group for Tor cannot be made."
 }
@@ -121,7 +131,7 @@ end_run() {
     ! rmdir -- "$TREE/$RUN_GROUP" || return 0
     read_children "$$"
     [[ -n $CHILDREN ]] || return 0
-    sleep 0.02
+    pause 0.02
   done
 } 2>/dev/null
 
@@ -129,7 +139,8 @@ end_run() {
 # below the root of another one, no kernel before 6.12 counts the levels correctly.
 rules_can_name() {
   local major minor rest
-  if [[ $(stat -L -c %i -- /proc/self/ns/cgroup) != 4026531835 ]]; then
+  TREES_NAMESPACE=${TREES_NAMESPACE:-$(stat -L -c %i -- /proc/self/ns/cgroup)}
+  if [[ $TREES_NAMESPACE != 4026531835 ]]; then
     # Not `uname -r`, which a caller can have report another version (UNAME26).
     IFS=.- read -r major minor rest </proc/sys/kernel/osrelease
     [[ $major =~ ^[0-9]+$ && $minor =~ ^[0-9]+$ ]] && ((major > 6 || major == 6 && minor >= 12)) || return 1

@@ -117,11 +117,12 @@ identifier_runs() { journal_read "$IDENTIFIER_ENTRY" && find_recorded; }
 
 undo_identifier() {
   end_recorded || true
-  rm -f -- "$IDENTITIES_STATE" "$IDENTIFY_SOCKET"
+  remove "$IDENTITIES_STATE" "$IDENTIFY_SOCKET"
 }
 
 undo_identities() {
   local output
+  may_stand "$IDENTITIES" "$IDENTITIES_ENTRY" || return 0
   output=$(nft delete table inet "$IDENTITIES" 2>&1) && return 0
   [[ $output == *"No such file or directory"* ]] && return 0
   UNDONE="The table of the applications' identities could not be removed ($(first_line "$output"))."

@@ -32,8 +32,10 @@ as_session() {
 # be_session_user UID: makes the UID of a journal entry the user that as_session runs as.
 be_session_user() {
   is_uid "$1" && [[ $1 != 0 ]] || return 1
-  CALLER_UID=$1 CALLER_NAME=''
-  read_accounts
+  if [[ $CALLER_UID != "$1" || -z $CALLER_NAME ]]; then
+    CALLER_UID=$1 CALLER_NAME=''
+    read_accounts
+  fi
   [[ -n $CALLER_NAME ]]
 }
 
@@ -46,8 +48,10 @@ put_proxy() {
       undo_entry "$entry" || true
     fi
   done
-  CALLER_UID=$user CALLER_NAME=''
-  read_accounts
+  if [[ $CALLER_UID != "$user" || -z $CALLER_NAME ]]; then
+    CALLER_UID=$user CALLER_NAME=''
+    read_accounts
+  fi
   [[ $CALLER_UID != 0 ]] || return 0
   put_gnome && put_kde || [[ $OPT_STRICT == 1 ]] || die "The desktop's proxy settings cannot be changed."
 }

@@ -61,6 +61,13 @@ print_settings() {
   done <<<"$1"
 }
 
+# read_text FILE: sets TEXT to its first 65,536 bytes, without NUL bytes.
+TEXT=''
+read_text() {
+  TEXT=''
+  IFS= read -r -N 65536 TEXT <"$1" || true
+}
+
 # read_resolver: sets RESOLVER_TARGET and FORMER_RESOLVER. When the only resolver is on this computer itself (it would ask through Tor), it
 # is replaced by the servers that it uses.
 read_resolver() {
@@ -76,12 +83,14 @@ read_resolver() {
     FORMER_RESOLVER=$(unshare --mount --propagation private /bin/bash -p -c \
       'umount -l -- "$1" && head -c 65536 -- "$1"' umount "$file" | tr -d '\0') || true
   elif [[ -f $file ]]; then
-    FORMER_RESOLVER=$(head -c 65536 -- "$file" | tr -d '\0')
+    read_text "$file"
+    FORMER_RESOLVER=$TEXT
   fi
   for file in /run/systemd/resolve/resolv.conf /run/NetworkManager/no-stub-resolv.conf; do
     servers=$(list_servers 4 "$FORMER_RESOLVER")$(list_servers 6 "$FORMER_RESOLVER")
     [[ -z $servers && -f $file ]] || break
-    FORMER_RESOLVER=$(head -c 65536 -- "$file" | tr -d '\0')
+    read_text "$file"
+    FORMER_RESOLVER=$TEXT
   done
   FORMER_RESOLVER=$(print_settings "$FORMER_RESOLVER")
 }

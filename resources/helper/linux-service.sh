@@ -32,7 +32,7 @@ port_sockets() {
     esac
     printf '%s %s %s\n' "$port" "$uid" "$socket"
   done < <(grep -hE ": (0100007F|7F000001|00000000):(($socks|$control) [0-9A-F]+:[0-9A-F]+ 0A|$names [0-9A-F]+:[0-9A-F]+ 07) " \
-    /proc/net/tcp /proc/net/udp || true)
+    /proc/net/tcp /proc/net/udp)
 }
 
 # takes_ipv6_alone PORT: whether every socket that listens there at all addresses of the other family takes no connection to 127.0.0.1. ss
@@ -56,7 +56,7 @@ wide_sockets() {
       [[ $alone != *" $port=1 "* ]] || continue
     fi
     printf '%s %s %s\n' "$port" "$uid" "$socket"
-  done < <(grep -hE ": (0{32}|0{16}FFFF00000100007F|0{20}FFFF7F000001):($socks|$control) [0-9A-F]+:[0-9A-F]+ 0A " /proc/net/tcp6 || true)
+  done < <(grep -hE ": (0{32}|0{16}FFFF00000100007F|0{20}FFFF7F000001):($socks|$control) [0-9A-F]+:[0-9A-F]+ 0A " /proc/net/tcp6)
 }
 
 # has_socket PID SOCKET: whether the process has the socket open.
@@ -98,13 +98,15 @@ name_holder() {
 # check_ports: sets TAKEN to the services that hold a port of Tor's. Fails, before anything is changed, when another process holds one.
 TAKEN=''
 check_ports() {
-  local port uid socket unit
+  local port uid socket unit sockets
   TAKEN=''
+  sockets=$(port_sockets)
+  [[ -n $sockets ]] || return 0
   while read -r port uid socket; do
     unit=$(service_with "$socket")
     [[ -n $unit ]] || die "The port $port, which Tor needs, is held by $(name_holder "$socket" "$uid"). End that program, then connect again."
     [[ " $TAKEN " == *" $unit "* ]] || TAKEN="${TAKEN:+$TAKEN }$unit"
-  done < <(port_sockets | sort -n)
+  done < <(sort -n <<<"$sockets")
 }
 
 # put_service: keeps what an earlier connect has noted since the computer's start.

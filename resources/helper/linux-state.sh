@@ -144,7 +144,7 @@ as_caller() {
   timeout -k 1 "$seconds" /bin/sh -c 'exec 7>&- 9>&-; [ -z "$0" ] || printf "0\n" >"$0/cgroup.procs"; exec "$@"' "$GROUP" \
     env -i --default-signal PATH="$PATH" LC_ALL=C HOME="$CALLER_HOME" \
     setpriv --reuid "$CALLER_UID" --regid "$CALLER_GID" --init-groups --no-new-privs --bounding-set=-all --inh-caps=-all \
-    --ambient-caps=-all "$@" 8>&-
+    --ambient-caps=-all "$@" 6>&- 8>&-
 }
 
 # as_confined SECONDS UID GID HOME NAMESPACES COMMAND...: likewise for an account of no user's. The command writes to standard output only.
@@ -157,28 +157,40 @@ as_confined() {
     unshare $namespaces --pid --fork --kill-child /bin/sh -c '"$@"; exit "$?"' first \
     env -i --default-signal PATH="$PATH" LC_ALL=C HOME="$home" \
     setpriv --reuid "$uid" --regid "$gid" --clear-groups --no-new-privs --bounding-set=-all --inh-caps=-all \
-    --ambient-caps=-all "$@" 8>&-
+    --ambient-caps=-all "$@" 6>&- 8>&-
 }
 
 # as_tor SECONDS COMMAND...: for Tor's check of its configuration, before Tor runs in namespaces of its own. It has the network: an
 # administrator may have named a proxy by a host name, which Tor looks up while it checks.
 as_tor() { as_confined "$1" "$TOR_UID" "$TOR_GID" "$DATA" '' "${@:2}"; }
 
-# take_output SECONDS BYTES: passes on at most BYTES of standard input, and does not wait longer than SECONDS for its end.
-take_output() { timeout -k 1 "$1" head -c "$2"; }
+# take_output SECONDS BYTES: passes on at most BYTES of standard input, and does not wait longer than SECONDS for its end. It is a pipeline's
+# part, so it becomes the program.
+take_output() { exec timeout -k 1 "$1" head -c "$2"; }
 
 # ---- Primitives of the shared parts ----
 
-# put_in_place NEW TARGET: NEW replaces TARGET, in the same folder. It is on disk when this returns 0.
-put_in_place() { sync -- "$1" && mv -fT -- "$1" "$2" && sync -- "${2%/*}"; }
+# put_in_place NEW TARGET: NEW replaces TARGET, in the same folder. It is on disk when this returns 0, except in /run, which is in memory.
+put_in_place() {
+  case $2 in
+  /run/*) mv -fT -- "$1" "$2" ;;
+  *) sync -- "$1" && mv -fT -- "$1" "$2" && sync -- "${2%/*}" ;;
+  esac
+}
 
-# print_modes PATH...: prints "MODE UID KIND", one line for each; fails when one is missing. Links are not followed.
-print_modes() { stat -c '%a %u %F' -- "$@"; }
+# print_modes PATH...: prints "MODE UID KIND", one line for each; fails when one is missing. Links are not followed. It becomes the program,
+# so it is called in a subshell.
+print_modes() { exec stat -c '%a %u %F' -- "$@"; }
 
 # real_path PATH: prints the path without links; fails when it does not exist. A file system of the caller's may never answer (FUSE with
-# allow_other). What then waits, perhaps unkillably, has neither the locks, nor what this run reads or writes to.
+# allow_other). What then waits, perhaps unkillably, has neither the locks, nor what this run reads or writes to. The system's own folders
+# answer; a file there that is no link is itself the path.
 # shellcheck disable=SC2016
 real_path() {
+  case ${1%/*}:${1##*/} in
+  /usr/bin:[!.]* | /usr/libexec/veldmark:[!.]*)
+    [[ -L /usr || -L ${1%/*} || -L $1 || ! -e $1 ]] || { printf '%s\n' "$1" && return 0; } ;;
+  esac
   timeout -k 1 5 /bin/sh -c 'exec 7>&- 8>&- 9>&-; exec readlink -e -- "$1"' readlink "$1" </dev/null | take_output 7 8192
 }
 

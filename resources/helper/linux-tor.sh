@@ -49,6 +49,14 @@ ulimit -f 102400
 exec "$@"
 '
 
+# pause SECONDS: waits on a pipe to which nobody writes, instead of for a program that would have to start each time. No user's program
+# gets the pipe, descriptor 6: it could write to it.
+PAUSES=''
+pause() {
+  [[ -n $PAUSES ]] || { exec 6<> <(:) && PAUSES=1; }
+  read -r -t "$1" -u 6 _ || true
+}
+
 # start_time PID: sets START_TIME to the process's start in clock ticks since boot; status 1 when it has ended.
 START_TIME=''
 start_time() {
@@ -191,16 +199,17 @@ put_tor() {
   mv -fT -- "$TORRC.checked" "$TORRC" || die "The file $TORRC cannot be written."
   ready_logs || die "Tor's log files cannot be made."
   # A former Tor's account may have left anything there.
-  rm -rf -- "$DATA/control"
+  [[ ! -e $DATA/control && ! -L $DATA/control ]] || rm -rf -- "$DATA/control"
   launch_tor </dev/null >>"$START_OUT" 2>>"$LAUNCHER_OUT" &
   launcher=$!
   for ((poll = 0; poll < START_POLLS; poll++)); do
+    # The kernel searches through many places for its list of sockets, so it is not asked before Tor has its own socket.
     # Tor opens all its ports before it fails because of one of them.
-    if tor_listens && [[ $(head -qc 65536 -- "$START_OUT" "$NOTICES" | tr -d '\0') != *"Could not bind to"* ]]; then
+    if [[ -z $CONTROL_SOCKET || -S $CONTROL_SOCKET ]] && tor_listens && [[ $(head -qc 65536 -- "$START_OUT" "$NOTICES" | tr -d '\0') != *"Could not bind to"* ]]; then
       return
     fi
     start_time "$launcher" || die "Tor did not start: $(tor_failure)"
-    sleep 0.02
+    pause 0.02
   done
   die "Tor did not open its control port in time."
 }
@@ -240,7 +249,7 @@ undo_tor() {
         kill -TERM "$child" || true
       done
     fi
-    sleep 0.02
+    pause 0.02
   done
   read_children "$pid"
   for child in $CHILDREN "$pid"; do
@@ -250,7 +259,7 @@ undo_tor() {
   for child in $CHILDREN; do
     for ((poll = 0; poll < 50; poll++)); do
       [[ -d /proc/$child ]] || break
-      sleep 0.02
+      pause 0.02
     done
   done
   ! recorded_lives || {
@@ -264,6 +273,6 @@ recorded_lives() {
   local poll
   for ((poll = 0; poll < STOP_POLLS; poll++)); do
     find_recorded || return 1
-    sleep 0.02
+    pause 0.02
   done
 }

@@ -231,7 +231,7 @@ await_standstill() {
   for ((poll = 0; poll < 50; poll++)); do
     { IFS= read -r line <"/proc/$1/stat"; } 2>/dev/null || return 0
     [[ ${line##*) } != [TZX]* ]] || return 0
-    sleep 0.01
+    pause 0.01
   done
 }
 
@@ -259,11 +259,11 @@ end_recorded() {
 
 # undo_watcher: a watcher that is just changing rules holds the rules' lock, so the firewall is opened after that.
 undo_watcher() {
-  rm -f -- "$WATCHER"
+  remove "$WATCHER"
   end_recorded
   # Remove the copy of the rules that it may have been comparing.
-  nft -f - <<<"delete table inet $TABLE-copy" >/dev/null 2>&1 || true
-  rm -f -- "$KILL_SWITCH_NOTE"   # the watcher writes no new one
+  ! may_stand "$TABLE-copy" "$WATCHER_ENTRY" || nft -f - <<<"delete table inet $TABLE-copy" >/dev/null 2>&1 || true
+  remove "$KILL_SWITCH_NOTE"   # the watcher writes no new one
 }
 
 # watcher_runs: whether the process in the journal is alive.

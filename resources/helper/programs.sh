@@ -12,14 +12,16 @@ readonly NEW_PROGRAM=$PROGRAMS/new
 
 # every_part PATH PATTERN: whether "MODE UID KIND" matches PATTERN for PATH and every folder above it.
 every_part() {
-  local path=$1 line paths=(/)
+  local path=$1 line paths=(/) lines=0
   while [[ -n $path ]]; do
     paths[${#paths[@]}]=$path
     path=${path%/*}
   done
   while IFS= read -r line; do
     [[ $line =~ $2 ]] || return 1
-  done < <(print_modes "${paths[@]}" || printf 'missing\n')
+    lines=$((lines + 1))
+  done < <(print_modes "${paths[@]}")
+  ((lines == ${#paths[@]}))
 }
 
 # root_owned PATH: only root can change PATH, free of links, and every folder above it.

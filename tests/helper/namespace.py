@@ -270,14 +270,15 @@ class Machine:
         """Installs a stand-in where ethtool is missing."""
         if not self.shell("command -v ethtool || true"):
             self.shell(
-                "mkdir -p /mnt/sbin/upper /mnt/sbin/work; mount -t overlay -o lowerdir=/usr/sbin,upperdir=/mnt/sbin/upper,workdir=/mnt/sbin/work private /usr/sbin;"
-                'install -m 0755 "$1" /usr/sbin/ethtool',
-                os.path.join(HERE, "ethtool.py"),
+                "mkdir -p /mnt/sbin/upper /mnt/sbin/work; mount -t overlay -o lowerdir=/usr/sbin,upperdir=/mnt/sbin/upper,workdir=/mnt/sbin/work private /usr/sbin"
             )
+            program, source = f"/proc/{self.pid}/root/usr/sbin/ethtool", os.path.join(HERE, "ethtool.c")
+            subprocess.run(["cc", "-O1", "-static", "-Wall", "-Wextra", "-Werror", "-o", program, source], check=True)
 
     def tor_pids(self):
         """The processes of Tor's account but the filter before Tor's control port, which is there where the helper's folder is root's."""
-        return self.shell("comm -23 <(pgrep -u _veldmark | sort) <(pgrep -x veldmark-contro | sort)").split()
+        lines = self.run("ps", "-o", "pid=,comm=", "-u", "_veldmark", check=False).stdout.splitlines()
+        return sorted(pid for pid, name, *_ in map(str.split, lines) if name != "veldmark-contro")
 
     def await_watcher(self):
         """Waits until the watcher listens. The helper starts it without waiting."""
@@ -341,23 +342,38 @@ class Machine:
         return sorted(lines)
 
     def snapshot(self):
-        """The state that a session may change, as text: rules, resolver, mounts, processes, ports and the user's files."""
-        return (
-            "# processes\n"
-            + "".join(self.processes())
-            + self.shell(
-                r"""
-            echo "# rules";     nft list ruleset
-            echo "# resolver";  stat -L -c '%F %a %u %g %s' /etc/resolv.conf; cat /etc/resolv.conf; readlink /etc/resolv.conf
-            echo "# mounts";    cut -d' ' -f 4- /proc/self/mountinfo | sort
-            echo "# loopback";  command -v ethtool >/dev/null && ethtool -k lo | grep '^tx-udp-segmentation' || true
-            echo "# groups";    find /sys/fs/cgroup -type d | sort
-            echo "# ports";     ss -Hltun | awk '{print $1, $5}' | sort
-            echo "# etc";       find /etc /usr/local -newer /run/user -type f ! -path /etc/resolv.conf -exec md5sum {} + 2>/dev/null | sort -k2
-            echo "# home";      find /home -printf '%p %y %m %U %l\n' | sort; find /home -type f -exec md5sum {} + | sort -k2
-            echo "# session";   find /var/lib/veldmark/state /var/lib/veldmark/journal -mindepth 1 2>/dev/null | sort || true
+        """The state that a session may change, as text: rules, resolver, mounts, processes, ports and the user's files. A kill test
+        takes one for each point. So what can be read or sorted here starts no program in the machine."""
+        with open(f"/proc/{self.pid}/mountinfo", encoding="utf-8", errors="surrogateescape") as file:
+            mounts = [line.split(" ", 3)[3] for line in file]
+        groups = [folder[len(self.group) :] + "\n" for folder, _, _ in os.walk(self.group)]
+        said = self.shell(
+            r"""
+            part() { printf '\36%s\n' "$1"; }
+            part rules;     nft list ruleset
+            part resolver;  stat -L -c '%F %a %u %g %s' /etc/resolv.conf; cat /etc/resolv.conf; [ ! -L /etc/resolv.conf ] || readlink /etc/resolv.conf
+            part loopback;  ! command -v ethtool >/dev/null || ethtool -k lo
+            part ports;     ss -Hltun
+            part etc;       find /etc /usr/local -newer /run/user -type f ! -path /etc/resolv.conf -exec md5sum {} + 2>/dev/null
+            part home;      find /home -printf '%p %y %m %U %l\n' -type f -exec md5sum {} +
+            part session;   find /var/lib/veldmark/state /var/lib/veldmark/journal -mindepth 1 2>/dev/null || true
         """
-            )
+        )
+        parts = dict(part.split("\n", 1) for part in said.split("\36")[1:])
+        lines = {name: text.splitlines(True) for name, text in parts.items()}
+        lines["loopback"] = [line for line in lines["loopback"] if line.startswith("tx-udp-segmentation")]
+        lines["ports"] = [" ".join([*line.split()[:1], *line.split()[4:5]]) + "\n" for line in lines["ports"]]
+        lines.update(mounts=mounts, groups=groups)
+        return "".join(
+            [
+                "# processes\n",
+                *self.processes(),
+                *("# rules\n", parts["rules"], "# resolver\n", parts["resolver"]),
+                *(
+                    f"# {name}\n" + "".join(sorted(lines[name]))
+                    for name in ("mounts", "loopback", "groups", "ports", "etc", "home", "session")
+                ),
+            ]
         )
 
 

@@ -1,6 +1,6 @@
 """kill -9 of the helper right after each of its changes. A disconnect afterwards puts everything back, and a strict session never
-lets traffic out in between. Probes are sent all the time, and the other end of the machine's only link sees them whenever nothing
-blocks them. Each test prints the number of points that it has tried.
+lets traffic out in between. Probes are sent as long as none may get out, and the other end of the machine's only link sees them
+whenever nothing blocks them. Each test prints the number of points that it has tried.
 
     test_kill.py Strict | StrictAgain | Proxy | RandomMoments
 """

@@ -18,6 +18,7 @@ class Clang:
         self.root, self.build = pathlib.Path(root), pathlib.Path(build)
         self.entries = json.loads((self.build / "compile_commands.json").read_text(encoding="utf-8"))
         self.words = ["-std=c++20", "-fPIC", *options, *self.places()]
+        self.without_qt = {entry["file"] for entry in self.entries if "QT_CORE_LIB" not in entry["command"]}
         common = next(self.build.rglob("veldmark_precompiled_tests.dir/cmake_pch.hxx"), None)
         lines = common.read_text(encoding="utf-8").splitlines() if common else []
         header = pathlib.Path(folder, "common.h")
@@ -54,8 +55,9 @@ class Clang:
         return self.run([CLANG, "-fsyntax-only", *self.words, *before, str(path)]).stderr[:4000]
 
     def tidy(self, path, common=True):
-        """What clang-tidy finds, with the rules of .clang-tidy."""
-        before = self.common if common else []
+        """What clang-tidy finds, with the rules of .clang-tidy. It looks at each header again, so a source of a program without Qt does
+        not get the common headers."""
+        before = self.common if common and str(path) not in self.without_qt else []
         rules = f"--config-file={self.root / '.clang-tidy'}"
         done = self.run([TIDY, "--quiet", rules, str(path), "--", *self.words, *before])
         return done.stdout[:4000] or (f"status {done.returncode}: {done.stderr[-4000:]}" if done.returncode else "")
