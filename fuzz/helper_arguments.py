@@ -24,7 +24,8 @@ need_programs() { :; }
 find_launcher() { :; }
 take_lock() {
   printf 'OK\0%s\0' "$OPT_TOR" "$OPT_HASH" "$OPT_STRICT" "$OPT_LAN" "$OPT_SEPARATE" "$OPT_EXIT" "$OPT_LYREBIRD" "$OPT_SNOWFLAKE" \
-    "$OPT_WEBTUNNEL" "$OPT_BUNDLE" "$OPT_USER" "$OPT_LAUNCH" "$OPT_UID" "$OPT_APP" "$OPT_PROGRAM" "$OPT_AS" "$OPT_SHA256" ${OPT_BRIDGES[@]+"${OPT_BRIDGES[@]}"}
+    "$OPT_WEBTUNNEL" "$OPT_BUNDLE" "$OPT_USER" "$OPT_LAUNCH" "$OPT_UID" "$OPT_APP" "$OPT_PROGRAM" "$OPT_AS" "$OPT_SHA256" ${OPT_BRIDGES[@]+"${OPT_BRIDGES[@]}"} \
+    ${OPT_RESERVES[@]+"${OPT_RESERVES[@]/#/reserve }"}
   if [[ -n $OPT_TOR ]]; then printf 'TORRC\0%s\0' "$(print_torrc 1)"; fi
   exit 42
 }
@@ -62,8 +63,8 @@ SINGLE = [
     "--sha256",
 ]
 ALLOWED = {
-    "connect": SINGLE[:10] + ["--bridge"],
-    "replace": SINGLE[:10] + ["--bridge"],
+    "connect": SINGLE[:10] + ["--bridge", "--reserve"],
+    "replace": SINGLE[:10] + ["--bridge", "--reserve"],
     "approve": ["--program", "--as", "--sha256"],
     "launch": ["--uid", "--app"],
     "install-privileged": ["--user", "--launch"],
@@ -136,6 +137,8 @@ GOOD = [
         b"1",
         b"--lan",
         b"0",
+        b"--reserve",
+        b"192.0.2.4:443",
         b"--bridge",
         b"snowflake 192.0.2.3:1 url=https://a/",
         b"--pt-snowflake",
@@ -260,19 +263,21 @@ def is_program(path):
 
 
 def understood(words):
-    """The expected reading of `words`: options by name and the bridges, or None where the helper must refuse."""
+    """The expected reading of `words`: options by name, the bridges and those in reserve, or None where the helper must refuse."""
     if not words or words[0].decode("latin-1") not in ALLOWED:
         return None
     verb, rest = words[0].decode("latin-1"), words[1:]
     if len(rest) % 2:
         return None
-    options, bridges = {}, []
+    options, bridges, reserves = {}, [], []
     for name, value in zip(rest[::2], rest[1::2]):
         name = name.decode("latin-1")
         if name not in ALLOWED[verb] or not value or len(value) > 4096 or has_controls(value):
             return None
         if name == "--bridge":
             bridges.append(value)
+        elif name == "--reserve":
+            reserves.append(value)
         elif name in options:
             return None
         else:
@@ -284,7 +289,7 @@ def understood(words):
         "launch": fits_launch,
         "install-privileged": fits_install,
     }.get(verb, lambda *_: True)
-    return (options, bridges) if fits(options, bridges) else None
+    return (options, bridges, reserves) if fits(options, bridges + reserves) else None
 
 
 def fits_connect(options, bridges):
@@ -366,7 +371,7 @@ def mutated(words, chance):
             cut = chance.randrange(len(words[at]) + 1)
             words[at] = words[at][:cut] + chance.choice(HOSTILE) + words[at][cut:]
         else:
-            words[at:at] = [chance.choice(SINGLE + ["--bridge"]).encode(), chance.choice(HOSTILE)]
+            words[at:at] = [chance.choice(SINGLE + ["--bridge", "--reserve"]).encode(), chance.choice(HOSTILE)]
     return words
 
 
@@ -408,9 +413,9 @@ def problem(words, fields):
     if status == b"42":
         if wanted is None:
             return "accepted what must be refused"
-        options, bridges = wanted
+        options, bridges, reserves = wanted
         values = [field for field, mark in zip(fields[1::2], fields[::2]) if mark == b"OK"]
-        if values != [options.get(name, b"") for name in SINGLE] + bridges:
+        if values != [options.get(name, b"") for name in SINGLE] + bridges + [b"reserve " + line for line in reserves]:
             return f"understood something else: {values}"
         if fields[len(values) * 2] == b"TORRC":
             for line in fields[len(values) * 2 + 1].split(b"\n"):

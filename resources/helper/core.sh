@@ -2,8 +2,8 @@
 # Veldmark's root helper: starts and stops Tor, and sets the network up for Tor and restores it.
 #
 #   veldmark-helper.sh connect --tor PATH --hash HASH --strict 0|1 --lan 0|1 [--separate 0|1] [--exit CC]
-#                      [--bridge LINE]... [--pt-lyrebird PATH] [--pt-snowflake PATH] [--pt-webtunnel PATH]
-#                      [--bundle ARCHIVE]
+#                      [--bridge LINE]... [--reserve LINE]... [--pt-lyrebird PATH] [--pt-snowflake PATH]
+#                      [--pt-webtunnel PATH] [--bundle ARCHIVE]
 #   veldmark-helper.sh replace …       connect that weakens the protection of a strict session
 #   veldmark-helper.sh approve --program PATH --as tor|lyrebird|snowflake-client|webtunnel-client --sha256 DIGEST
 #   veldmark-helper.sh disconnect [--process PID]

@@ -14,7 +14,7 @@ NAMES_TEXT=''   # "ADDRESS NAME" lines
 # print_names: the host names in the bridge lines, each once: of url=, front=, fronts=, ampcache= and ice=.
 print_names() {
   local bridge word key value part seen=' '
-  for bridge in ${OPT_BRIDGES[@]+"${OPT_BRIDGES[@]}"}; do
+  for bridge in ${OPT_BRIDGES[@]+"${OPT_BRIDGES[@]}"} ${OPT_RESERVES[@]+"${OPT_RESERVES[@]}"}; do
     for word in $bridge; do
       key=${word%%=*} value=${word#*=}
       case $key in

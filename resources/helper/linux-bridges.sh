@@ -3,25 +3,26 @@
 
 readonly TOR_DEFAULTS=/etc/tor/torrc-defaults   # the administrator's file, which Tor reads before the helper's
 
-# bridges_are_near: whether one of the bridges is on the local network, by its address or by the address in its URL.
+# bridges_are_near: whether one of the bridges, or of those in reserve, is on the local network, by its address or by the address in its URL.
 bridges_are_near() {
   local bridge
-  for bridge in ${OPT_BRIDGES[@]+"${OPT_BRIDGES[@]}"}; do
+  for bridge in ${OPT_BRIDGES[@]+"${OPT_BRIDGES[@]}"} ${OPT_RESERVES[@]+"${OPT_RESERVES[@]}"}; do
     [[ ! $bridge =~ (^|[^0-9.])(10|192\.168|172\.(1[6-9]|2[0-9]|3[01])|169\.254)\.[0-9.]+ ]] || return 0
     [[ ! $bridge =~ \[[Ff]([Ee][89AaBb]|[CcDd])[0-9A-Fa-f]*: ]] || return 0
   done
   return 1
 }
 
-# list_bridges: sets BRIDGES4 and BRIDGES6 to "ADDRESS . PORT, …" of the bridges, if Tor sends only to them. That is so when every bridge is
-# plain or has a transport that goes to the address in the line, when the rules can hold each address, and when the administrator's defaults
-# add neither a bridge nor a proxy. Otherwise both are empty.
+# list_bridges: sets BRIDGES4 and BRIDGES6 to "ADDRESS . PORT, …" of the bridges and of those in reserve, if Tor sends only to them. That is so
+# when the session begins with bridges, every bridge is plain or has a transport that goes to the address in the line, the rules can hold each
+# address, and the administrator's defaults add neither a bridge nor a proxy. Otherwise both are empty.
 BRIDGES4='' BRIDGES6=''
 list_bridges() {
   local bridge address port four='' six=''
   BRIDGES4='' BRIDGES6=''
+  ((${#OPT_BRIDGES[@]})) || return 0
   [[ ! -s $TOR_DEFAULTS ]] || ! grep -qiE 'bridge|proxy|%include' "$TOR_DEFAULTS" || return 0
-  for bridge in ${OPT_BRIDGES[@]+"${OPT_BRIDGES[@]}"}; do
+  for bridge in "${OPT_BRIDGES[@]}" ${OPT_RESERVES[@]+"${OPT_RESERVES[@]}"}; do
     case $bridge in
     [a-z]*) [[ $bridge =~ ^(obfs4|obfs3|scramblesuit)\  ]] || return 0
       bridge=${bridge#* } ;;

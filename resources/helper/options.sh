@@ -3,7 +3,7 @@
 # Every value is checked against one strict pattern before any change.
 
 OPT_TOR='' OPT_HASH='' OPT_STRICT='' OPT_LAN='' OPT_EXIT='' OPT_SEPARATE=''
-OPT_BRIDGES=()
+OPT_BRIDGES=() OPT_RESERVES=()   # bridges in use; bridges that the program may change to during the session
 OPT_LYREBIRD='' OPT_SNOWFLAKE='' OPT_WEBTUNNEL='' OPT_BUNDLE=''
 OPT_USER='' OPT_LAUNCH=''
 OPT_UID='' OPT_APP='' OPT_PROCESS=''
@@ -72,9 +72,9 @@ parse_options() {
     --program) take OPT_PROGRAM "$option" "$value" ;;
     --as) take OPT_AS "$option" "$value" ;;
     --sha256) take OPT_SHA256 "$option" "$value" ;;
-    --bridge)
-      ((${#OPT_BRIDGES[@]} < MAX_BRIDGES)) || die "More than $MAX_BRIDGES bridges were given."
-      OPT_BRIDGES[${#OPT_BRIDGES[@]}]=$value
+    --bridge | --reserve)
+      ((${#OPT_BRIDGES[@]} + ${#OPT_RESERVES[@]} < MAX_BRIDGES)) || die "More than $MAX_BRIDGES bridges were given."
+      if [[ $option == --bridge ]]; then OPT_BRIDGES[${#OPT_BRIDGES[@]}]=$value; else OPT_RESERVES[${#OPT_RESERVES[@]}]=$value; fi
       ;;
     esac
   done
@@ -97,7 +97,7 @@ check_bridge() {
 
 parse_connect() {
   local bridge
-  parse_options " --tor --hash --strict --lan --separate --exit --bridge --pt-lyrebird --pt-snowflake --pt-webtunnel --bundle " "$@"
+  parse_options " --tor --hash --strict --lan --separate --exit --bridge --reserve --pt-lyrebird --pt-snowflake --pt-webtunnel --bundle " "$@"
   [[ -n $OPT_TOR ]] || die "The option --tor is missing."
   [[ -n $OPT_HASH ]] || die "The option --hash is missing."
   [[ -n $OPT_STRICT ]] || die "The option --strict is missing."
@@ -107,7 +107,7 @@ parse_connect() {
   [[ $OPT_LAN == [01] ]] || die "The value of --lan must be 0 or 1."
   [[ -z $OPT_SEPARATE || $OPT_SEPARATE == [01] ]] || die "The value of --separate must be 0 or 1."
   [[ -z $OPT_EXIT || $OPT_EXIT =~ ^[a-z]{2}$ ]] || die "The exit country is not a two-letter code."
-  for bridge in ${OPT_BRIDGES[@]+"${OPT_BRIDGES[@]}"}; do
+  for bridge in ${OPT_BRIDGES[@]+"${OPT_BRIDGES[@]}"} ${OPT_RESERVES[@]+"${OPT_RESERVES[@]}"}; do
     check_bridge "$bridge"
   done
   check_program --tor "$OPT_TOR"
@@ -118,12 +118,12 @@ parse_connect() {
   choose_transports
 }
 
-# The transports of the bridge lines, by the program that serves each: lists joined by commas.
+# The transports of the bridge lines, also of those in reserve, by the program that serves each: lists joined by commas.
 USED_LYREBIRD='' USED_SNOWFLAKE='' USED_WEBTUNNEL=''
 
 choose_transports() {
   local bridge transport seen=" "
-  for bridge in ${OPT_BRIDGES[@]+"${OPT_BRIDGES[@]}"}; do
+  for bridge in ${OPT_BRIDGES[@]+"${OPT_BRIDGES[@]}"} ${OPT_RESERVES[@]+"${OPT_RESERVES[@]}"}; do
     transport=${bridge%% *}
     [[ $transport =~ ^[a-z][a-z0-9_]*$ && $seen != *" $transport "* ]] || continue
     seen="$seen$transport "
@@ -144,7 +144,7 @@ choose_transports() {
   [[ -z $USED_SNOWFLAKE || -n $OPT_SNOWFLAKE ]] || die "These bridges need snowflake-client, which was not given."
 }
 
-# transports_need_names: whether a used transport looks up host names before Tor has a circuit.
+# transports_need_names: whether a used transport, or one in reserve, looks up host names before Tor has a circuit.
 transports_need_names() {
   [[ ",$USED_LYREBIRD," == *,meek_lite,* || ",$USED_LYREBIRD," == *,webtunnel,* ||
     -n $USED_SNOWFLAKE || -n $USED_WEBTUNNEL ]]

@@ -64,13 +64,15 @@ put_marker() {
 
 # ---- The options of a strict session -----------------------------------------------------------------------
 # The password-free rule allows a disconnect of a strict session. It does not allow a connect that weakens the
-# running session: no proxy mode, no open local network, no other password, exit, bridges or programs.
+# running session: no proxy mode, no open local network, no other password, exit, bridges (in use or
+# in reserve) or programs.
 
 # print_asked LAN: the checked options, programs with the paths that will run.
 print_asked() {
   printf '%s\n' "lan $1" "hash $OPT_HASH" "exit $OPT_EXIT" "tor $OPT_TOR" "separate ${OPT_SEPARATE:-0}"
   printf '%s\n' "lyrebird $USED_LYREBIRD $OPT_LYREBIRD" "snowflake $USED_SNOWFLAKE $OPT_SNOWFLAKE" \
-    "webtunnel $USED_WEBTUNNEL $OPT_WEBTUNNEL" ${OPT_BRIDGES[@]+"${OPT_BRIDGES[@]/#/bridge }"}
+    "webtunnel $USED_WEBTUNNEL $OPT_WEBTUNNEL" ${OPT_BRIDGES[@]+"${OPT_BRIDGES[@]/#/bridge }"} \
+    ${OPT_RESERVES[@]+"${OPT_RESERVES[@]/#/reserve }"}
 }
 
 note_asked() { write_file "$ASKED" 0600 root "$(print_asked "$OPT_LAN")"$'\n' || die "The file $ASKED cannot be written."; }

@@ -6,7 +6,8 @@ readonly TORRC=$RUN/torrc          # root:_veldmark 0640; Tor reads /etc/tor/tor
 readonly NOTICES=$RUN/notices.log  # Tor's log
 CONTROL_SOCKET=''   # Tor's control port where a program of ours takes its place at CONTROL_PORT; empty where none does
 
-# print_torrc IPV6_LOOPBACK: from the checked options.
+# print_torrc IPV6_LOOPBACK: from the checked options. Bridges in reserve are not in it, since Tor would start their transports; their transports
+# are. Whether Tor uses bridges is then Tor's default or the administrator's.
 print_torrc() {
   local bridge
   print_text <<END

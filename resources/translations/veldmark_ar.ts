@@ -104,6 +104,18 @@
         <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
         <translation>ينزّل حزمة Tor Expert Bundle الرسمية من مشروع Tor، وفيها برامج الجسور والجسور المدمجة</translation>
     </message>
+    <message>
+        <source>When Tor is blocked</source>
+        <translation>عندما يكون Tor محجوبًا</translation>
+    </message>
+    <message>
+        <source>Disconnect to change</source>
+        <translation>افصل الاتصال للتغيير</translation>
+    </message>
+    <message>
+        <source>Bridges that are there can be tried one after the other, without another password</source>
+        <translation>يمكن تجربة الجسور الموجودة واحدًا بعد الآخر دون كلمة مرور أخرى</translation>
+    </message>
 </context>
 <context>
     <name>BridgesSheet</name>
@@ -416,6 +428,10 @@
     <message>
         <source>Restore Network</source>
         <translation>استعادة الشبكة</translation>
+    </message>
+    <message>
+        <source>Try Bridges</source>
+        <translation>جرّب الجسور</translation>
     </message>
 </context>
 <context>
@@ -1473,6 +1489,18 @@
     <message>
         <source>It sets up the network with nftables, resolvectl and gsettings, asks for the administrator with polkit or sudo, takes ssh through Tor with a netcat, and checks downloads with GnuPG where that is installed.</source>
         <translation>يُعدّ الشبكة باستخدام nftables وresolvectl وgsettings، ويطلب صلاحيات مدير النظام عبر polkit أو sudo، ويمرّر ssh عبر Tor باستخدام netcat، ويتحقق من التنزيلات باستخدام GnuPG حيث يكون مثبتًا.</translation>
+    </message>
+    <message>
+        <source>Ask</source>
+        <translation>اسأل</translation>
+    </message>
+    <message>
+        <source>Try bridges</source>
+        <translation>جرّب الجسور</translation>
+    </message>
+    <message>
+        <source>Do nothing</source>
+        <translation>لا تفعل شيئًا</translation>
     </message>
 </context>
 <context>
@@ -3939,6 +3967,78 @@ a web page. FILE &quot;-&quot; is standard input</source>
     <message>
         <source>%1 on %2</source>
         <translation>⁨%1⁩ على ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>مباشر</translation>
+    </message>
+    <message>
+        <source>Your bridges</source>
+        <translation>جسورك</translation>
+    </message>
+    <message>
+        <source>(%1 s)</source>
+        <translation>(%1 ث)</translation>
+    </message>
+    <message>
+        <source>Tried</source>
+        <translation>جُرِّب</translation>
+    </message>
+    <message>
+        <source>Offer</source>
+        <translation>عرض</translation>
+    </message>
+    <message>
+        <source>Try them with: %1</source>
+        <translation>جرّبها بالأمر: ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is none of ask, always and never.</source>
+        <translation>القيمة «⁨%1⁩» ليست ask ولا always ولا never.</translation>
+    </message>
+    <message>
+        <source>Refused, or out of reach.</source>
+        <translation>رُفض أو تعذّر الوصول.</translation>
+    </message>
+    <message>
+        <source>There was an answer, but Tor got no further.</source>
+        <translation>جاء رد، لكن Tor لم يتقدّم.</translation>
+    </message>
+    <message>
+        <source>No answer.</source>
+        <translation>لا رد.</translation>
+    </message>
+    <message>
+        <source>Tor has connected.</source>
+        <translation>اتصل Tor.</translation>
+    </message>
+    <message>
+        <source>Tor gets nowhere in this network. Tried: %1.</source>
+        <translation>لا يتقدّم Tor في هذه الشبكة. جُرِّب: ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>Tor gets nowhere in this network. Veldmark can try bridges: %1.</source>
+        <translation>لا يتقدّم Tor في هذه الشبكة. يستطيع Veldmark تجربة الجسور: ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>Being tried…</source>
+        <translation>تجري التجربة…</translation>
+    </message>
+    <message>
+        <source>Tor did not accept these bridges.</source>
+        <translation>لم يقبل Tor هذه الجسور.</translation>
+    </message>
+    <message>
+        <source>No bridges are offered now.</source>
+        <translation>لا جسور معروضة الآن.</translation>
+    </message>
+    <message>
+        <source>whether bridges are tried when Tor gets nowhere</source>
+        <translation>هل تُجرَّب الجسور عندما لا يتقدّم Tor</translation>
+    </message>
+    <message>
+        <source>try the bridges that are offered when Tor gets nowhere, see &quot;status&quot;</source>
+        <translation>تجربة الجسور المعروضة عندما لا يتقدّم Tor، انظر «status»</translation>
     </message>
 </context>
 <context>

@@ -104,6 +104,18 @@
         <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
         <translation>Lädt das offizielle Tor Expert Bundle vom Tor-Projekt, mit Brückenprogrammen und eingebauten Brücken</translation>
     </message>
+    <message>
+        <source>When Tor is blocked</source>
+        <translation>Wenn Tor gesperrt ist</translation>
+    </message>
+    <message>
+        <source>Disconnect to change</source>
+        <translation>Zum Ändern trennen</translation>
+    </message>
+    <message>
+        <source>Bridges that are there can be tried one after the other, without another password</source>
+        <translation>Vorhandene Brücken können nacheinander versucht werden, ohne weiteres Passwort</translation>
+    </message>
 </context>
 <context>
     <name>BridgesSheet</name>
@@ -416,6 +428,10 @@
     <message>
         <source>Restore Network</source>
         <translation>Netzwerk wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Try Bridges</source>
+        <translation>Brücken versuchen</translation>
     </message>
 </context>
 <context>
@@ -1453,6 +1469,18 @@
     <message>
         <source>It sets up the network with nftables, resolvectl and gsettings, asks for the administrator with polkit or sudo, takes ssh through Tor with a netcat, and checks downloads with GnuPG where that is installed.</source>
         <translation>Es richtet das Netz mit nftables, resolvectl und gsettings ein, fragt mit polkit oder sudo nach dem Administrator, führt ssh mit einem netcat durch Tor und prüft Downloads mit GnuPG, wo das installiert ist.</translation>
+    </message>
+    <message>
+        <source>Ask</source>
+        <translation>Fragen</translation>
+    </message>
+    <message>
+        <source>Try bridges</source>
+        <translation>Brücken versuchen</translation>
+    </message>
+    <message>
+        <source>Do nothing</source>
+        <translation>Nichts tun</translation>
     </message>
 </context>
 <context>
@@ -3916,6 +3944,78 @@ einer ganzen E-Mail oder einer Webseite. FILE „-“ ist die Standardeingabe</t
     <message>
         <source>%1 on %2</source>
         <translation>%1 über %2</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>Direkt</translation>
+    </message>
+    <message>
+        <source>Your bridges</source>
+        <translation>Ihre Brücken</translation>
+    </message>
+    <message>
+        <source>(%1 s)</source>
+        <translation>(%1 s)</translation>
+    </message>
+    <message>
+        <source>Tried</source>
+        <translation>Versucht</translation>
+    </message>
+    <message>
+        <source>Offer</source>
+        <translation>Angebot</translation>
+    </message>
+    <message>
+        <source>Try them with: %1</source>
+        <translation>Versuchen Sie sie mit: %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is none of ask, always and never.</source>
+        <translation>„%1“ ist weder ask noch always noch never.</translation>
+    </message>
+    <message>
+        <source>Refused, or out of reach.</source>
+        <translation>Abgelehnt oder nicht erreichbar.</translation>
+    </message>
+    <message>
+        <source>There was an answer, but Tor got no further.</source>
+        <translation>Es kam eine Antwort, aber Tor kam nicht weiter.</translation>
+    </message>
+    <message>
+        <source>No answer.</source>
+        <translation>Keine Antwort.</translation>
+    </message>
+    <message>
+        <source>Tor has connected.</source>
+        <translation>Tor ist verbunden.</translation>
+    </message>
+    <message>
+        <source>Tor gets nowhere in this network. Tried: %1.</source>
+        <translation>Tor kommt in diesem Netz nicht durch. Versucht: %1.</translation>
+    </message>
+    <message>
+        <source>Tor gets nowhere in this network. Veldmark can try bridges: %1.</source>
+        <translation>Tor kommt in diesem Netz nicht durch. Veldmark kann Brücken versuchen: %1.</translation>
+    </message>
+    <message>
+        <source>Being tried…</source>
+        <translation>Wird versucht…</translation>
+    </message>
+    <message>
+        <source>Tor did not accept these bridges.</source>
+        <translation>Tor hat diese Brücken nicht angenommen.</translation>
+    </message>
+    <message>
+        <source>No bridges are offered now.</source>
+        <translation>Es werden gerade keine Brücken angeboten.</translation>
+    </message>
+    <message>
+        <source>whether bridges are tried when Tor gets nowhere</source>
+        <translation>ob Brücken versucht werden, wenn Tor nicht durchkommt</translation>
+    </message>
+    <message>
+        <source>try the bridges that are offered when Tor gets nowhere, see &quot;status&quot;</source>
+        <translation>die Brücken versuchen, die angeboten werden, wenn Tor nicht durchkommt, siehe „status“</translation>
     </message>
 </context>
 <context>

@@ -104,6 +104,18 @@
         <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
         <translation>Descargar del Proyecto Tor el Tor Expert Bundle oficial, con programas de puente y puentes integrados</translation>
     </message>
+    <message>
+        <source>When Tor is blocked</source>
+        <translation>Cuando Tor está bloqueado</translation>
+    </message>
+    <message>
+        <source>Disconnect to change</source>
+        <translation>Desconéctese para cambiar</translation>
+    </message>
+    <message>
+        <source>Bridges that are there can be tried one after the other, without another password</source>
+        <translation>Los puentes disponibles pueden probarse uno tras otro, sin otra contraseña</translation>
+    </message>
 </context>
 <context>
     <name>BridgesSheet</name>
@@ -416,6 +428,10 @@
     <message>
         <source>Restore Network</source>
         <translation>Restaurar la red</translation>
+    </message>
+    <message>
+        <source>Try Bridges</source>
+        <translation>Probar puentes</translation>
     </message>
 </context>
 <context>
@@ -1453,6 +1469,18 @@
     <message>
         <source>It sets up the network with nftables, resolvectl and gsettings, asks for the administrator with polkit or sudo, takes ssh through Tor with a netcat, and checks downloads with GnuPG where that is installed.</source>
         <translation>Veldmark configura la red con nftables, resolvectl y gsettings, solicita el acceso de administrador con polkit o sudo, lleva ssh por Tor con un netcat y comprueba las descargas con GnuPG si está instalado.</translation>
+    </message>
+    <message>
+        <source>Ask</source>
+        <translation>Preguntar</translation>
+    </message>
+    <message>
+        <source>Try bridges</source>
+        <translation>Probar puentes</translation>
+    </message>
+    <message>
+        <source>Do nothing</source>
+        <translation>No hacer nada</translation>
     </message>
 </context>
 <context>
@@ -3916,6 +3944,78 @@ entero o una página web. FILE «-» es la entrada estándar</translation>
     <message>
         <source>%1 on %2</source>
         <translation>%1 en %2</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>Directo</translation>
+    </message>
+    <message>
+        <source>Your bridges</source>
+        <translation>Sus puentes</translation>
+    </message>
+    <message>
+        <source>(%1 s)</source>
+        <translation>(%1 s)</translation>
+    </message>
+    <message>
+        <source>Tried</source>
+        <translation>Probado</translation>
+    </message>
+    <message>
+        <source>Offer</source>
+        <translation>Oferta</translation>
+    </message>
+    <message>
+        <source>Try them with: %1</source>
+        <translation>Pruébelos con: %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is none of ask, always and never.</source>
+        <translation>«%1» no es ask, always ni never.</translation>
+    </message>
+    <message>
+        <source>Refused, or out of reach.</source>
+        <translation>Rechazado o fuera de alcance.</translation>
+    </message>
+    <message>
+        <source>There was an answer, but Tor got no further.</source>
+        <translation>Hubo una respuesta, pero Tor no avanzó más.</translation>
+    </message>
+    <message>
+        <source>No answer.</source>
+        <translation>Sin respuesta.</translation>
+    </message>
+    <message>
+        <source>Tor has connected.</source>
+        <translation>Tor se ha conectado.</translation>
+    </message>
+    <message>
+        <source>Tor gets nowhere in this network. Tried: %1.</source>
+        <translation>Tor no avanza en esta red. Probado: %1.</translation>
+    </message>
+    <message>
+        <source>Tor gets nowhere in this network. Veldmark can try bridges: %1.</source>
+        <translation>Tor no avanza en esta red. Veldmark puede probar puentes: %1.</translation>
+    </message>
+    <message>
+        <source>Being tried…</source>
+        <translation>Probando…</translation>
+    </message>
+    <message>
+        <source>Tor did not accept these bridges.</source>
+        <translation>Tor no aceptó estos puentes.</translation>
+    </message>
+    <message>
+        <source>No bridges are offered now.</source>
+        <translation>Ahora no se ofrece ningún puente.</translation>
+    </message>
+    <message>
+        <source>whether bridges are tried when Tor gets nowhere</source>
+        <translation>si se prueban puentes cuando Tor no avanza</translation>
+    </message>
+    <message>
+        <source>try the bridges that are offered when Tor gets nowhere, see &quot;status&quot;</source>
+        <translation>probar los puentes que se ofrecen cuando Tor no avanza, véase «status»</translation>
     </message>
 </context>
 <context>

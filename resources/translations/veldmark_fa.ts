@@ -104,6 +104,18 @@
         <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
         <translation>بستهٔ رسمی Tor Expert Bundle را برای برنامه‌های پل و پل‌های داخلی از پروژهٔ Tor بارگیری می‌کند</translation>
     </message>
+    <message>
+        <source>When Tor is blocked</source>
+        <translation>وقتی Tor مسدود است</translation>
+    </message>
+    <message>
+        <source>Disconnect to change</source>
+        <translation>برای تغییر، اتصال را قطع کنید</translation>
+    </message>
+    <message>
+        <source>Bridges that are there can be tried one after the other, without another password</source>
+        <translation>پل‌های موجود را می‌توان یکی پس از دیگری و بدون گذرواژهٔ دیگر امتحان کرد</translation>
+    </message>
 </context>
 <context>
     <name>BridgesSheet</name>
@@ -416,6 +428,10 @@
     <message>
         <source>Restore Network</source>
         <translation>بازگرداندن شبکه</translation>
+    </message>
+    <message>
+        <source>Try Bridges</source>
+        <translation>امتحان پل‌ها</translation>
     </message>
 </context>
 <context>
@@ -1448,6 +1464,18 @@
     <message>
         <source>It sets up the network with nftables, resolvectl and gsettings, asks for the administrator with polkit or sudo, takes ssh through Tor with a netcat, and checks downloads with GnuPG where that is installed.</source>
         <translation>شبکه را با nftables، resolvectl و gsettings تنظیم می‌کند، اجازهٔ مدیر را با polkit یا sudo می‌گیرد، ssh را با یک netcat از Tor می‌گذراند و اگر GnuPG نصب باشد، بارگیری‌ها را با آن بررسی می‌کند.</translation>
+    </message>
+    <message>
+        <source>Ask</source>
+        <translation>پرسیدن</translation>
+    </message>
+    <message>
+        <source>Try bridges</source>
+        <translation>امتحان پل‌ها</translation>
+    </message>
+    <message>
+        <source>Do nothing</source>
+        <translation>هیچ کاری نکردن</translation>
     </message>
 </context>
 <context>
@@ -3910,6 +3938,78 @@ a web page. FILE &quot;-&quot; is standard input</source>
     <message>
         <source>%1 on %2</source>
         <translation>⁨%1⁩ روی ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>مستقیم</translation>
+    </message>
+    <message>
+        <source>Your bridges</source>
+        <translation>پل‌های شما</translation>
+    </message>
+    <message>
+        <source>(%1 s)</source>
+        <translation>(%1 ثانیه)</translation>
+    </message>
+    <message>
+        <source>Tried</source>
+        <translation>امتحان‌شده</translation>
+    </message>
+    <message>
+        <source>Offer</source>
+        <translation>پیشنهاد</translation>
+    </message>
+    <message>
+        <source>Try them with: %1</source>
+        <translation>با این دستور امتحانشان کنید: ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is none of ask, always and never.</source>
+        <translation>مقدار «⁨%1⁩» نه ask است، نه always و نه never.</translation>
+    </message>
+    <message>
+        <source>Refused, or out of reach.</source>
+        <translation>رد شد یا در دسترس نیست.</translation>
+    </message>
+    <message>
+        <source>There was an answer, but Tor got no further.</source>
+        <translation>پاسخی آمد، ولی Tor جلوتر نرفت.</translation>
+    </message>
+    <message>
+        <source>No answer.</source>
+        <translation>بدون پاسخ.</translation>
+    </message>
+    <message>
+        <source>Tor has connected.</source>
+        <translation>Tor وصل شد.</translation>
+    </message>
+    <message>
+        <source>Tor gets nowhere in this network. Tried: %1.</source>
+        <translation>Tor در این شبکه به جایی نمی‌رسد. امتحان‌شده: ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>Tor gets nowhere in this network. Veldmark can try bridges: %1.</source>
+        <translation>Tor در این شبکه به جایی نمی‌رسد. Veldmark می‌تواند پل‌ها را امتحان کند: ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>Being tried…</source>
+        <translation>در حال امتحان…</translation>
+    </message>
+    <message>
+        <source>Tor did not accept these bridges.</source>
+        <translation>Tor این پل‌ها را نپذیرفت.</translation>
+    </message>
+    <message>
+        <source>No bridges are offered now.</source>
+        <translation>اکنون پلی پیشنهاد نمی‌شود.</translation>
+    </message>
+    <message>
+        <source>whether bridges are tried when Tor gets nowhere</source>
+        <translation>آیا وقتی Tor به جایی نمی‌رسد پل‌ها امتحان شوند</translation>
+    </message>
+    <message>
+        <source>try the bridges that are offered when Tor gets nowhere, see &quot;status&quot;</source>
+        <translation>امتحان پل‌هایی که وقتی Tor به جایی نمی‌رسد پیشنهاد می‌شوند، «status» را ببینید</translation>
     </message>
 </context>
 <context>

@@ -104,6 +104,18 @@
         <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
         <translation>Télécharge le Tor Expert Bundle officiel du Projet Tor, pour les programmes de pont et les ponts intégrés</translation>
     </message>
+    <message>
+        <source>When Tor is blocked</source>
+        <translation>Quand Tor est bloqué</translation>
+    </message>
+    <message>
+        <source>Disconnect to change</source>
+        <translation>Déconnecter pour modifier</translation>
+    </message>
+    <message>
+        <source>Bridges that are there can be tried one after the other, without another password</source>
+        <translation>Les ponts disponibles peuvent être essayés l’un après l’autre, sans nouveau mot de passe</translation>
+    </message>
 </context>
 <context>
     <name>BridgesSheet</name>
@@ -416,6 +428,10 @@
     <message>
         <source>Restore Network</source>
         <translation>Rétablir le réseau</translation>
+    </message>
+    <message>
+        <source>Try Bridges</source>
+        <translation>Essayer les ponts</translation>
     </message>
 </context>
 <context>
@@ -1453,6 +1469,18 @@
     <message>
         <source>It sets up the network with nftables, resolvectl and gsettings, asks for the administrator with polkit or sudo, takes ssh through Tor with a netcat, and checks downloads with GnuPG where that is installed.</source>
         <translation>Il configure le réseau avec nftables, resolvectl et gsettings, demande les droits d’administration avec polkit ou sudo, fait passer ssh par Tor avec un netcat et vérifie les téléchargements avec GnuPG s’il est installé.</translation>
+    </message>
+    <message>
+        <source>Ask</source>
+        <translation>Demander</translation>
+    </message>
+    <message>
+        <source>Try bridges</source>
+        <translation>Essayer les ponts</translation>
+    </message>
+    <message>
+        <source>Do nothing</source>
+        <translation>Ne rien faire</translation>
     </message>
 </context>
 <context>
@@ -3916,6 +3944,78 @@ page web. « - » comme FILE désigne l’entrée standard</translation>
     <message>
         <source>%1 on %2</source>
         <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>Direct</translation>
+    </message>
+    <message>
+        <source>Your bridges</source>
+        <translation>Vos ponts</translation>
+    </message>
+    <message>
+        <source>(%1 s)</source>
+        <translation>(%1 s)</translation>
+    </message>
+    <message>
+        <source>Tried</source>
+        <translation>Essayé</translation>
+    </message>
+    <message>
+        <source>Offer</source>
+        <translation>Offre</translation>
+    </message>
+    <message>
+        <source>Try them with: %1</source>
+        <translation>Essayez-les avec : %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is none of ask, always and never.</source>
+        <translation>« %1 » n’est ni ask, ni always, ni never.</translation>
+    </message>
+    <message>
+        <source>Refused, or out of reach.</source>
+        <translation>Refusé ou hors d’atteinte.</translation>
+    </message>
+    <message>
+        <source>There was an answer, but Tor got no further.</source>
+        <translation>Il y a eu une réponse, mais Tor n’est pas allé plus loin.</translation>
+    </message>
+    <message>
+        <source>No answer.</source>
+        <translation>Pas de réponse.</translation>
+    </message>
+    <message>
+        <source>Tor has connected.</source>
+        <translation>Tor est connecté.</translation>
+    </message>
+    <message>
+        <source>Tor gets nowhere in this network. Tried: %1.</source>
+        <translation>Tor n’arrive à rien sur ce réseau. Essayé : %1.</translation>
+    </message>
+    <message>
+        <source>Tor gets nowhere in this network. Veldmark can try bridges: %1.</source>
+        <translation>Tor n’arrive à rien sur ce réseau. Veldmark peut essayer des ponts : %1.</translation>
+    </message>
+    <message>
+        <source>Being tried…</source>
+        <translation>Essai en cours…</translation>
+    </message>
+    <message>
+        <source>Tor did not accept these bridges.</source>
+        <translation>Tor n’a pas accepté ces ponts.</translation>
+    </message>
+    <message>
+        <source>No bridges are offered now.</source>
+        <translation>Aucun pont n’est proposé pour le moment.</translation>
+    </message>
+    <message>
+        <source>whether bridges are tried when Tor gets nowhere</source>
+        <translation>si des ponts sont essayés quand Tor n’arrive à rien</translation>
+    </message>
+    <message>
+        <source>try the bridges that are offered when Tor gets nowhere, see &quot;status&quot;</source>
+        <translation>essayer les ponts proposés quand Tor n’arrive à rien, voir « status »</translation>
     </message>
 </context>
 <context>

@@ -104,6 +104,18 @@
         <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
         <translation>Baixa o Tor Expert Bundle oficial do Projeto Tor, com programas de ponte e pontes integradas</translation>
     </message>
+    <message>
+        <source>When Tor is blocked</source>
+        <translation>Quando o Tor está bloqueado</translation>
+    </message>
+    <message>
+        <source>Disconnect to change</source>
+        <translation>Desconecte para alterar</translation>
+    </message>
+    <message>
+        <source>Bridges that are there can be tried one after the other, without another password</source>
+        <translation>As pontes disponíveis podem ser testadas uma após a outra, sem outra senha</translation>
+    </message>
 </context>
 <context>
     <name>BridgesSheet</name>
@@ -416,6 +428,10 @@
     <message>
         <source>Restore Network</source>
         <translation>Restaurar rede</translation>
+    </message>
+    <message>
+        <source>Try Bridges</source>
+        <translation>Tentar pontes</translation>
     </message>
 </context>
 <context>
@@ -1453,6 +1469,18 @@
     <message>
         <source>It sets up the network with nftables, resolvectl and gsettings, asks for the administrator with polkit or sudo, takes ssh through Tor with a netcat, and checks downloads with GnuPG where that is installed.</source>
         <translation>Ele configura a rede com nftables, resolvectl e gsettings, pede a autorização do administrador com o polkit ou o sudo, leva o ssh pelo Tor com um netcat e verifica os downloads com o GnuPG, quando instalado.</translation>
+    </message>
+    <message>
+        <source>Ask</source>
+        <translation>Perguntar</translation>
+    </message>
+    <message>
+        <source>Try bridges</source>
+        <translation>Tentar pontes</translation>
+    </message>
+    <message>
+        <source>Do nothing</source>
+        <translation>Não fazer nada</translation>
     </message>
 </context>
 <context>
@@ -3916,6 +3944,78 @@ inteiro ou uma página web. FILE &quot;-&quot; é a entrada padrão</translation
     <message>
         <source>%1 on %2</source>
         <translation>%1 em %2</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>Direto</translation>
+    </message>
+    <message>
+        <source>Your bridges</source>
+        <translation>Suas pontes</translation>
+    </message>
+    <message>
+        <source>(%1 s)</source>
+        <translation>(%1 s)</translation>
+    </message>
+    <message>
+        <source>Tried</source>
+        <translation>Tentado</translation>
+    </message>
+    <message>
+        <source>Offer</source>
+        <translation>Oferta</translation>
+    </message>
+    <message>
+        <source>Try them with: %1</source>
+        <translation>Tente com: %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is none of ask, always and never.</source>
+        <translation>“%1” não é ask, always nem never.</translation>
+    </message>
+    <message>
+        <source>Refused, or out of reach.</source>
+        <translation>Recusado ou fora de alcance.</translation>
+    </message>
+    <message>
+        <source>There was an answer, but Tor got no further.</source>
+        <translation>Houve uma resposta, mas o Tor não avançou.</translation>
+    </message>
+    <message>
+        <source>No answer.</source>
+        <translation>Sem resposta.</translation>
+    </message>
+    <message>
+        <source>Tor has connected.</source>
+        <translation>O Tor conectou.</translation>
+    </message>
+    <message>
+        <source>Tor gets nowhere in this network. Tried: %1.</source>
+        <translation>O Tor não avança nesta rede. Tentado: %1.</translation>
+    </message>
+    <message>
+        <source>Tor gets nowhere in this network. Veldmark can try bridges: %1.</source>
+        <translation>O Tor não avança nesta rede. O Veldmark pode tentar pontes: %1.</translation>
+    </message>
+    <message>
+        <source>Being tried…</source>
+        <translation>Tentando…</translation>
+    </message>
+    <message>
+        <source>Tor did not accept these bridges.</source>
+        <translation>O Tor não aceitou estas pontes.</translation>
+    </message>
+    <message>
+        <source>No bridges are offered now.</source>
+        <translation>Nenhuma ponte é oferecida agora.</translation>
+    </message>
+    <message>
+        <source>whether bridges are tried when Tor gets nowhere</source>
+        <translation>se pontes são tentadas quando o Tor não avança</translation>
+    </message>
+    <message>
+        <source>try the bridges that are offered when Tor gets nowhere, see &quot;status&quot;</source>
+        <translation>tenta as pontes oferecidas quando o Tor não avança, veja “status”</translation>
     </message>
 </context>
 <context>

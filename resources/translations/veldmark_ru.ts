@@ -104,6 +104,18 @@
         <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
         <translation>Загружает с сайта Проекта Tor официальный Tor Expert Bundle: программы для мостов и встроенные мосты</translation>
     </message>
+    <message>
+        <source>When Tor is blocked</source>
+        <translation>Когда Tor заблокирован</translation>
+    </message>
+    <message>
+        <source>Disconnect to change</source>
+        <translation>Чтобы изменить, отключитесь</translation>
+    </message>
+    <message>
+        <source>Bridges that are there can be tried one after the other, without another password</source>
+        <translation>Имеющиеся мосты можно пробовать один за другим, без нового пароля</translation>
+    </message>
 </context>
 <context>
     <name>BridgesSheet</name>
@@ -416,6 +428,10 @@
     <message>
         <source>Restore Network</source>
         <translation>Восстановить сеть</translation>
+    </message>
+    <message>
+        <source>Try Bridges</source>
+        <translation>Попробовать мосты</translation>
     </message>
 </context>
 <context>
@@ -1458,6 +1474,18 @@
     <message>
         <source>It sets up the network with nftables, resolvectl and gsettings, asks for the administrator with polkit or sudo, takes ssh through Tor with a netcat, and checks downloads with GnuPG where that is installed.</source>
         <translation>Для настройки сети используются nftables, resolvectl и gsettings, права администратора запрашиваются через polkit или sudo, ssh направляется через Tor с помощью netcat, а загрузки проверяются с помощью GnuPG, если он установлен.</translation>
+    </message>
+    <message>
+        <source>Ask</source>
+        <translation>Спрашивать</translation>
+    </message>
+    <message>
+        <source>Try bridges</source>
+        <translation>Пробовать мосты</translation>
+    </message>
+    <message>
+        <source>Do nothing</source>
+        <translation>Ничего не делать</translation>
     </message>
 </context>
 <context>
@@ -3922,6 +3950,78 @@ a web page. FILE &quot;-&quot; is standard input</source>
     <message>
         <source>%1 on %2</source>
         <translation>%1 через %2</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>Напрямую</translation>
+    </message>
+    <message>
+        <source>Your bridges</source>
+        <translation>Ваши мосты</translation>
+    </message>
+    <message>
+        <source>(%1 s)</source>
+        <translation>(%1 с)</translation>
+    </message>
+    <message>
+        <source>Tried</source>
+        <translation>Испытано</translation>
+    </message>
+    <message>
+        <source>Offer</source>
+        <translation>Предложение</translation>
+    </message>
+    <message>
+        <source>Try them with: %1</source>
+        <translation>Попробуйте их командой: %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is none of ask, always and never.</source>
+        <translation>«%1» — не ask, не always и не never.</translation>
+    </message>
+    <message>
+        <source>Refused, or out of reach.</source>
+        <translation>Отказано или недоступно.</translation>
+    </message>
+    <message>
+        <source>There was an answer, but Tor got no further.</source>
+        <translation>Ответ был, но дальше Tor не продвинулся.</translation>
+    </message>
+    <message>
+        <source>No answer.</source>
+        <translation>Нет ответа.</translation>
+    </message>
+    <message>
+        <source>Tor has connected.</source>
+        <translation>Tor подключился.</translation>
+    </message>
+    <message>
+        <source>Tor gets nowhere in this network. Tried: %1.</source>
+        <translation>В этой сети Tor не продвигается. Испытано: %1.</translation>
+    </message>
+    <message>
+        <source>Tor gets nowhere in this network. Veldmark can try bridges: %1.</source>
+        <translation>В этой сети Tor не продвигается. Veldmark может попробовать мосты: %1.</translation>
+    </message>
+    <message>
+        <source>Being tried…</source>
+        <translation>Пробуется…</translation>
+    </message>
+    <message>
+        <source>Tor did not accept these bridges.</source>
+        <translation>Tor не принял эти мосты.</translation>
+    </message>
+    <message>
+        <source>No bridges are offered now.</source>
+        <translation>Сейчас мосты не предлагаются.</translation>
+    </message>
+    <message>
+        <source>whether bridges are tried when Tor gets nowhere</source>
+        <translation>пробовать ли мосты, когда Tor не продвигается</translation>
+    </message>
+    <message>
+        <source>try the bridges that are offered when Tor gets nowhere, see &quot;status&quot;</source>
+        <translation>попробовать мосты, предложенные, когда Tor не продвигается, см. «status»</translation>
     </message>
 </context>
 <context>

@@ -104,6 +104,18 @@
         <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
         <translation>Köprü programları ve yerleşik köprüler için Tor Projesi&apos;nin resmî Tor Expert Bundle paketini indirir</translation>
     </message>
+    <message>
+        <source>When Tor is blocked</source>
+        <translation>Tor engellendiğinde</translation>
+    </message>
+    <message>
+        <source>Disconnect to change</source>
+        <translation>Önce bağlantıyı kesin</translation>
+    </message>
+    <message>
+        <source>Bridges that are there can be tried one after the other, without another password</source>
+        <translation>Var olan köprüler, başka bir parola istenmeden birbiri ardına denenebilir</translation>
+    </message>
 </context>
 <context>
     <name>BridgesSheet</name>
@@ -416,6 +428,10 @@
     <message>
         <source>Restore Network</source>
         <translation>Ağı geri yükle</translation>
+    </message>
+    <message>
+        <source>Try Bridges</source>
+        <translation>Köprüleri Dene</translation>
     </message>
 </context>
 <context>
@@ -1448,6 +1464,18 @@
     <message>
         <source>It sets up the network with nftables, resolvectl and gsettings, asks for the administrator with polkit or sudo, takes ssh through Tor with a netcat, and checks downloads with GnuPG where that is installed.</source>
         <translation>Ağı nftables, resolvectl ve gsettings ile ayarlar, yönetici yetkisini polkit ya da sudo ile ister, ssh bağlantılarını bir netcat ile Tor&apos;dan geçirir, GnuPG kuruluysa indirmeleri onunla denetler.</translation>
+    </message>
+    <message>
+        <source>Ask</source>
+        <translation>Sor</translation>
+    </message>
+    <message>
+        <source>Try bridges</source>
+        <translation>Köprüleri dene</translation>
+    </message>
+    <message>
+        <source>Do nothing</source>
+        <translation>Bir şey yapma</translation>
     </message>
 </context>
 <context>
@@ -3910,6 +3938,78 @@ e-posta ya da web sayfası. FILE &quot;-&quot; standart girdidir</translation>
     <message>
         <source>%1 on %2</source>
         <translation>%2 üzerinde %1</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>Doğrudan</translation>
+    </message>
+    <message>
+        <source>Your bridges</source>
+        <translation>Köprüleriniz</translation>
+    </message>
+    <message>
+        <source>(%1 s)</source>
+        <translation>(%1 sn)</translation>
+    </message>
+    <message>
+        <source>Tried</source>
+        <translation>Denendi</translation>
+    </message>
+    <message>
+        <source>Offer</source>
+        <translation>Öneri</translation>
+    </message>
+    <message>
+        <source>Try them with: %1</source>
+        <translation>Şununla deneyin: %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is none of ask, always and never.</source>
+        <translation>“%1” ne ask, ne always, ne de never.</translation>
+    </message>
+    <message>
+        <source>Refused, or out of reach.</source>
+        <translation>Reddedildi ya da ulaşılamıyor.</translation>
+    </message>
+    <message>
+        <source>There was an answer, but Tor got no further.</source>
+        <translation>Bir yanıt geldi, ama Tor ilerleyemedi.</translation>
+    </message>
+    <message>
+        <source>No answer.</source>
+        <translation>Yanıt yok.</translation>
+    </message>
+    <message>
+        <source>Tor has connected.</source>
+        <translation>Tor bağlandı.</translation>
+    </message>
+    <message>
+        <source>Tor gets nowhere in this network. Tried: %1.</source>
+        <translation>Tor bu ağda ilerleyemiyor. Denenenler: %1.</translation>
+    </message>
+    <message>
+        <source>Tor gets nowhere in this network. Veldmark can try bridges: %1.</source>
+        <translation>Tor bu ağda ilerleyemiyor. Veldmark köprüleri deneyebilir: %1.</translation>
+    </message>
+    <message>
+        <source>Being tried…</source>
+        <translation>Deneniyor…</translation>
+    </message>
+    <message>
+        <source>Tor did not accept these bridges.</source>
+        <translation>Tor bu köprüleri kabul etmedi.</translation>
+    </message>
+    <message>
+        <source>No bridges are offered now.</source>
+        <translation>Şu anda önerilen köprü yok.</translation>
+    </message>
+    <message>
+        <source>whether bridges are tried when Tor gets nowhere</source>
+        <translation>Tor ilerleyemediğinde köprülerin denenip denenmeyeceği</translation>
+    </message>
+    <message>
+        <source>try the bridges that are offered when Tor gets nowhere, see &quot;status&quot;</source>
+        <translation>Tor ilerleyemediğinde önerilen köprüleri dener, bkz. “status”</translation>
     </message>
 </context>
 <context>

@@ -104,6 +104,18 @@
         <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
         <translation>Завантажує від Проєкту Tor офіційний Tor Expert Bundle: програми для мостів і вбудовані мости</translation>
     </message>
+    <message>
+        <source>When Tor is blocked</source>
+        <translation>Коли Tor заблоковано</translation>
+    </message>
+    <message>
+        <source>Disconnect to change</source>
+        <translation>Щоб змінити, від’єднайтеся</translation>
+    </message>
+    <message>
+        <source>Bridges that are there can be tried one after the other, without another password</source>
+        <translation>Наявні мости можна пробувати один за одним, без нового пароля</translation>
+    </message>
 </context>
 <context>
     <name>BridgesSheet</name>
@@ -416,6 +428,10 @@
     <message>
         <source>Restore Network</source>
         <translation>Відновити мережу</translation>
+    </message>
+    <message>
+        <source>Try Bridges</source>
+        <translation>Спробувати мости</translation>
     </message>
 </context>
 <context>
@@ -1458,6 +1474,18 @@
     <message>
         <source>It sets up the network with nftables, resolvectl and gsettings, asks for the administrator with polkit or sudo, takes ssh through Tor with a netcat, and checks downloads with GnuPG where that is installed.</source>
         <translation>Мережу вона налаштовує за допомогою nftables, resolvectl і gsettings, дозвіл адміністратора запитує через polkit або sudo, ssh спрямовує через Tor за допомогою netcat, а завантажене перевіряє за допомогою GnuPG, якщо його встановлено.</translation>
+    </message>
+    <message>
+        <source>Ask</source>
+        <translation>Питати</translation>
+    </message>
+    <message>
+        <source>Try bridges</source>
+        <translation>Пробувати мости</translation>
+    </message>
+    <message>
+        <source>Do nothing</source>
+        <translation>Нічого не робити</translation>
     </message>
 </context>
 <context>
@@ -3922,6 +3950,78 @@ a web page. FILE &quot;-&quot; is standard input</source>
     <message>
         <source>%1 on %2</source>
         <translation>%1 через %2</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>Напряму</translation>
+    </message>
+    <message>
+        <source>Your bridges</source>
+        <translation>Ваші мости</translation>
+    </message>
+    <message>
+        <source>(%1 s)</source>
+        <translation>(%1 с)</translation>
+    </message>
+    <message>
+        <source>Tried</source>
+        <translation>Випробувано</translation>
+    </message>
+    <message>
+        <source>Offer</source>
+        <translation>Пропозиція</translation>
+    </message>
+    <message>
+        <source>Try them with: %1</source>
+        <translation>Спробуйте їх командою: %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is none of ask, always and never.</source>
+        <translation>«%1» — не ask, не always і не never.</translation>
+    </message>
+    <message>
+        <source>Refused, or out of reach.</source>
+        <translation>Відмовлено або недоступно.</translation>
+    </message>
+    <message>
+        <source>There was an answer, but Tor got no further.</source>
+        <translation>Відповідь була, але далі Tor не просунувся.</translation>
+    </message>
+    <message>
+        <source>No answer.</source>
+        <translation>Немає відповіді.</translation>
+    </message>
+    <message>
+        <source>Tor has connected.</source>
+        <translation>Tor під’єднався.</translation>
+    </message>
+    <message>
+        <source>Tor gets nowhere in this network. Tried: %1.</source>
+        <translation>У цій мережі Tor не просувається. Випробувано: %1.</translation>
+    </message>
+    <message>
+        <source>Tor gets nowhere in this network. Veldmark can try bridges: %1.</source>
+        <translation>У цій мережі Tor не просувається. Veldmark може спробувати мости: %1.</translation>
+    </message>
+    <message>
+        <source>Being tried…</source>
+        <translation>Пробується…</translation>
+    </message>
+    <message>
+        <source>Tor did not accept these bridges.</source>
+        <translation>Tor не прийняв ці мости.</translation>
+    </message>
+    <message>
+        <source>No bridges are offered now.</source>
+        <translation>Зараз мости не пропонуються.</translation>
+    </message>
+    <message>
+        <source>whether bridges are tried when Tor gets nowhere</source>
+        <translation>чи пробувати мости, коли Tor не просувається</translation>
+    </message>
+    <message>
+        <source>try the bridges that are offered when Tor gets nowhere, see &quot;status&quot;</source>
+        <translation>спробувати мости, запропоновані, коли Tor не просувається, див. «status»</translation>
     </message>
 </context>
 <context>

@@ -104,6 +104,18 @@
         <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
         <translation>从 Tor 项目下载官方的 Tor Expert Bundle，以获取网桥程序和内置网桥</translation>
     </message>
+    <message>
+        <source>When Tor is blocked</source>
+        <translation>当 Tor 被封锁时</translation>
+    </message>
+    <message>
+        <source>Disconnect to change</source>
+        <translation>断开后才能更改</translation>
+    </message>
+    <message>
+        <source>Bridges that are there can be tried one after the other, without another password</source>
+        <translation>可以依次尝试现有的网桥，无需再次输入密码</translation>
+    </message>
 </context>
 <context>
     <name>BridgesSheet</name>
@@ -416,6 +428,10 @@
     <message>
         <source>Restore Network</source>
         <translation>恢复网络</translation>
+    </message>
+    <message>
+        <source>Try Bridges</source>
+        <translation>尝试网桥</translation>
     </message>
 </context>
 <context>
@@ -1448,6 +1464,18 @@
     <message>
         <source>It sets up the network with nftables, resolvectl and gsettings, asks for the administrator with polkit or sudo, takes ssh through Tor with a netcat, and checks downloads with GnuPG where that is installed.</source>
         <translation>它用 nftables、resolvectl 和 gsettings 设置网络，通过 polkit 或 sudo 请求管理员授权，用 netcat 让 ssh 通过 Tor；如果安装了 GnuPG，则用它检查下载内容。</translation>
+    </message>
+    <message>
+        <source>Ask</source>
+        <translation>询问</translation>
+    </message>
+    <message>
+        <source>Try bridges</source>
+        <translation>尝试网桥</translation>
+    </message>
+    <message>
+        <source>Do nothing</source>
+        <translation>什么都不做</translation>
     </message>
 </context>
 <context>
@@ -3909,6 +3937,78 @@ FILE 为“-”时读取标准输入</translation>
     <message>
         <source>%1 on %2</source>
         <translation>%2 上的 %1</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>直接连接</translation>
+    </message>
+    <message>
+        <source>Your bridges</source>
+        <translation>您的网桥</translation>
+    </message>
+    <message>
+        <source>(%1 s)</source>
+        <translation>（%1 秒）</translation>
+    </message>
+    <message>
+        <source>Tried</source>
+        <translation>已尝试</translation>
+    </message>
+    <message>
+        <source>Offer</source>
+        <translation>建议</translation>
+    </message>
+    <message>
+        <source>Try them with: %1</source>
+        <translation>用此命令尝试：%1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is none of ask, always and never.</source>
+        <translation>“%1”不是 ask、always 或 never。</translation>
+    </message>
+    <message>
+        <source>Refused, or out of reach.</source>
+        <translation>被拒绝或无法到达。</translation>
+    </message>
+    <message>
+        <source>There was an answer, but Tor got no further.</source>
+        <translation>有应答，但 Tor 没有进展。</translation>
+    </message>
+    <message>
+        <source>No answer.</source>
+        <translation>没有应答。</translation>
+    </message>
+    <message>
+        <source>Tor has connected.</source>
+        <translation>Tor 已连接。</translation>
+    </message>
+    <message>
+        <source>Tor gets nowhere in this network. Tried: %1.</source>
+        <translation>Tor 在此网络中没有进展。已尝试：%1。</translation>
+    </message>
+    <message>
+        <source>Tor gets nowhere in this network. Veldmark can try bridges: %1.</source>
+        <translation>Tor 在此网络中没有进展。Veldmark 可以尝试网桥：%1。</translation>
+    </message>
+    <message>
+        <source>Being tried…</source>
+        <translation>正在尝试…</translation>
+    </message>
+    <message>
+        <source>Tor did not accept these bridges.</source>
+        <translation>Tor 不接受这些网桥。</translation>
+    </message>
+    <message>
+        <source>No bridges are offered now.</source>
+        <translation>现在没有提供网桥。</translation>
+    </message>
+    <message>
+        <source>whether bridges are tried when Tor gets nowhere</source>
+        <translation>Tor 没有进展时是否尝试网桥</translation>
+    </message>
+    <message>
+        <source>try the bridges that are offered when Tor gets nowhere, see &quot;status&quot;</source>
+        <translation>尝试 Tor 没有进展时提供的网桥，参见“status”</translation>
     </message>
 </context>
 <context>

@@ -47,9 +47,9 @@ void ControllerSession::read()
     m_scheduled = false;
     const TorController &c = m_controller;
     Snapshot next;
-    next.choices = {c.strictMode(),    c.allowLocalNetwork(), c.exitCountry(), c.customTorPath(),
-                    c.bridgeChoice(),  c.customBridges(),     c.bypassApps(),  c.autoConnect(),
-                    c.optimizeSpeed(), c.terminalMode(),      c.separateApps()};
+    next.choices = {c.strictMode(),    c.allowLocalNetwork(), c.exitCountry(),  c.customTorPath(),
+                    c.bridgeChoice(),  c.customBridges(),     c.bypassApps(),   c.autoConnect(),
+                    c.optimizeSpeed(), c.terminalMode(),      c.separateApps(), c.climb()};
     next.phase = c.phase();
     next.activeMode = c.activeMode();
     next.activeBridge = c.activeBridge();
@@ -57,6 +57,8 @@ void ControllerSession::read()
     next.statusDetail = c.statusDetail();
     next.bootstrapProblem = next.phase == ConnectionPhase::connecting ? c.bootstrapProblem()
                                                                       : c.problemBehindError();
+    next.ladder = c.ladder();
+    next.climbOffer = c.climbOffer();
     next.isAnothers = c.otherSession().has_value();
     next.hasTorStopped = c.hasTorStopped();
     next.canCancel = c.canCancel();
@@ -152,12 +154,19 @@ void ControllerSession::store(const Choices &choices)
     keep(c.optimizeSpeed, choices.optimizeSpeed);
     keep(c.terminalMode, choices.terminalMode);
     keep(c.separateApps, choices.separateApps);
+    keep(c.climb, choices.climb);
     schedule();
 }
 
 void ControllerSession::connectToTor()
 {
     m_controller.connect();
+}
+
+// An offer that is gone shows in the next snapshot.
+void ControllerSession::takeOffer()
+{
+    (void)m_controller.takeOffer();
 }
 
 void ControllerSession::disconnectFromTor()

@@ -35,6 +35,7 @@ public:
     }
     void store(const Choices &choices) override;
     void connectToTor() override;
+    void takeOffer() override;
     void disconnectFromTor() override;
     void runChecks() override;
     void checkDNS() override;

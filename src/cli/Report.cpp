@@ -1,6 +1,7 @@
 #include "cli/Report.h"
 
 #include "base/Text.h"
+#include "bridges/Ladder.h"
 
 #include <QDateTime>
 #include <QJsonArray>
@@ -122,6 +123,15 @@ QString hopText(const QJsonObject &hop)
     return details.isEmpty() ? name : QStringLiteral("%1 (%2)").arg(name, details.join(u' '));
 }
 
+// A step of the ladder, whose result is in the user's language.
+Text stepText(const QJsonObject &step)
+{
+    const QJsonValue seconds = step.value(QStringLiteral("seconds"));
+    return Ladder::line({bridgeChoiceFromRawValue(text(step, "rung")).value_or(BridgeChoice::off),
+                         text(step, "result"),
+                         seconds.isDouble() ? std::optional(seconds.toInt()) : std::nullopt});
+}
+
 } // namespace
 
 QString bytes(double count)
@@ -168,6 +178,13 @@ QString status(const QJsonObject &state)
                       isAnothers ? Text::tr("nothing; veldmarkctl restore would end that session")
                                  : Text(QStringLiteral("veldmarkctl restore")));
     }
+    for (const QJsonValue &step : state.value(QStringLiteral("ladder")).toArray())
+        report += row(Text::tr("Tried"), stepText(step.toObject()));
+    if (const QString offer = text(state, "climbOffer"); !offer.isEmpty())
+        report += row(
+            Text::tr("Offer"),
+            Text::joined(
+                {offer, Text::tr("Try them with: %1").arg(QStringLiteral("veldmarkctl climb"))}));
     if (!text(state, "killSwitch").isEmpty())
         report += row(Text::tr("Kill switch"), killSwitchText(state));
     const bool isTried = phase == QLatin1String("connecting") || phase == QLatin1String("stale");

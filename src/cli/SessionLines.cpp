@@ -22,6 +22,8 @@ SessionLines::SessionLines(const TorController &controller)
     const TorController &c = controller;
     follow({&c.bootstrapProgress, &c.statusDetail}, &SessionLines::showProgress);
     follow({&c.bootstrapProblem}, &SessionLines::showProblem);
+    follow({&c.ladder}, &SessionLines::showLadder);
+    follow({&c.climbOffer}, &SessionLines::showOffer);
     follow({&c.phase, &c.isChecking}, &SessionLines::showPhase);
     follow({&c.killSwitch}, &SessionLines::showKillSwitch);
     follow({&c.dnsStatus, &c.leakStatus, &c.torVerified, &c.otherSession, &c.stall,
@@ -46,6 +48,24 @@ void SessionLines::showProblem()
 {
     if (m_controller.phase() == ConnectionPhase::connecting && m_controller.bootstrapProblem())
         say(*m_controller.bootstrapProblem());
+}
+
+// Each step when it begins and when it ends.
+void SessionLines::showLadder()
+{
+    const std::vector<LadderStep> steps = m_controller.ladder();
+    const std::vector<LadderStep> former = std::exchange(m_lastSteps, steps);
+    for (std::size_t at = 0; at < steps.size(); ++at) {
+        if (at >= former.size() || former[at] != steps[at])
+            say(Ladder::line(steps[at]));
+    }
+}
+
+void SessionLines::showOffer()
+{
+    if (m_controller.climbOffer())
+        say(Text::joined({*m_controller.climbOffer(),
+                          Text::tr("Try them with: %1").arg(QStringLiteral("veldmarkctl climb"))}));
 }
 
 void SessionLines::showPhase()

@@ -2,12 +2,14 @@
 
 #include "base/ConnectionPhase.h"
 #include "base/Text.h"
+#include "bridges/Ladder.h"
 #include "checks/KillSwitch.h"
 #include "cli/ProgressLine.h"
 
 #include <QObject>
 
 #include <optional>
+#include <vector>
 
 namespace veldmark {
 
@@ -33,6 +35,8 @@ public:
 private:
     void showProgress();
     void showProblem();
+    void showLadder();
+    void showOffer();
     void showKillSwitch();
     void showVerdict();
     void showError();
@@ -43,6 +47,7 @@ private:
     QString m_lastReport;
     QString m_lastVerdict;
     QString m_lastComplaint;
+    std::vector<LadderStep> m_lastSteps;
     ConnectionPhase m_lastPhase = ConnectionPhase::disconnected;
     std::optional<KillSwitch::State> m_lastKillSwitch;
 };

@@ -85,8 +85,28 @@ bool isPassword(std::string_view text)
     return password.find_first_of("\"\\") == std::string_view::npos;
 }
 
-bool isUsed(std::string_view line)
+constexpr std::string_view climb = "SETCONF UseBridges=1 Bridge=\"";
+
+// The rest of a command after `climb`: LINE" Bridge="LINE" …
+bool areReserved(std::string_view rest, const CommandFilter::Reserve &reserve)
 {
+    for (;;) {
+        const std::size_t end = rest.find('"');
+        if (end == std::string_view::npos
+            || std::find(reserve.begin(), reserve.end(), rest.substr(0, end)) == reserve.end())
+            return false;
+        rest.remove_prefix(end + 1);
+        if (rest.empty())
+            return true;
+        if (!takeStart(rest, " Bridge=\""))
+            return false;
+    }
+}
+
+bool isUsed(std::string_view line, const CommandFilter::Reserve &reserve)
+{
+    if (takeStart(line, climb))
+        return areReserved(line, reserve);
     if (takeStart(line, "AUTHENTICATE "))
         return isPassword(line);
     if (takeStart(line, "GETINFO "))
@@ -99,13 +119,24 @@ bool isUsed(std::string_view line)
 
 } // namespace
 
-CommandFilter::Verdict CommandFilter::judge(std::string_view line)
+CommandFilter::Verdict CommandFilter::judge(std::string_view line, const Reserve &reserve)
 {
     const auto isPrintable = [](char c) { return c >= ' ' && c <= '~'; };
-    if (line.size() > largestLine || line.substr(0, 1) == "+"
+    if (line.size() > limit(line, reserve) || line.substr(0, 1) == "+"
         || !std::all_of(line.begin(), line.end(), isPrintable))
         return Verdict::ends;
-    return isUsed(line) ? Verdict::passes : Verdict::refused;
+    return isUsed(line, reserve) ? Verdict::passes : Verdict::refused;
+}
+
+const CommandFilter::Reserve &CommandFilter::none()
+{
+    static const Reserve empty;
+    return empty;
+}
+
+std::size_t CommandFilter::limit(std::string_view start, const Reserve &reserve)
+{
+    return !reserve.empty() && takeStart(start, climb) ? largestClimb : largestLine;
 }
 
 void CommandFilter::take(std::string_view bytes, std::string &toTor)
@@ -113,17 +144,17 @@ void CommandFilter::take(std::string_view bytes, std::string &toTor)
     while (!m_isOver && !bytes.empty()) {
         const std::size_t end = bytes.find('\n');
         const std::string_view piece = bytes.substr(0, end);
-        // One byte more may be the first half of the line's end.
-        if (m_line.size() + piece.size() > largestLine + 1)
-            return this->end(toTor);
         m_line += piece;
+        // One byte more may be the first half of the line's end.
+        if (m_line.size() > limit(m_line, *m_reserve) + 1)
+            return this->end(toTor);
         if (end == std::string_view::npos)
             return;
         bytes.remove_prefix(end + 1);
         std::string_view line = m_line;
         if (line.substr(line.empty() ? 0 : line.size() - 1) == "\r")
             line.remove_suffix(1);
-        switch (judge(line)) {
+        switch (judge(line, *m_reserve)) {
         case Verdict::passes:
             toTor.append(line).append("\r\n");
             break;

@@ -42,9 +42,10 @@ bool send(const Descriptor &descriptor, std::string &text)
 
 } // namespace
 
-Connection::Connection(Descriptor program, Descriptor tor)
+Connection::Connection(Descriptor program, Descriptor tor, const CommandFilter::Reserve &reserve)
     : m_program(std::move(program)),
-      m_tor(std::move(tor))
+      m_tor(std::move(tor)),
+      m_filter(reserve)
 {
 }
 
@@ -130,7 +131,9 @@ void Connection::writeTor()
     m_programHasEnded = true;
 }
 
-Connections::Connections(const char *address, const char *port, const char *socket)
+Connections::Connections(const char *address, const char *port, const char *socket,
+                         CommandFilter::Reserve reserve)
+    : m_reserve(std::move(reserve))
 {
     sockaddr_in place{};
     place.sin_family = AF_INET;
@@ -215,7 +218,7 @@ void Connections::accept()
         makePlace();
         const int on = 1;
         setsockopt(program.number(), IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
-        m_connections.emplace_back(std::move(program), std::move(tor));
+        m_connections.emplace_back(std::move(program), std::move(tor), m_reserve);
     }
 }
 

@@ -19,7 +19,7 @@ namespace veldmark {
 // that such a program has asked for.
 class Connection {
 public:
-    Connection(Descriptor program, Descriptor tor);
+    Connection(Descriptor program, Descriptor tor, const CommandFilter::Reserve &reserve);
 
     // What poll() has to wait for, of the program and of Tor.
     [[nodiscard]] pollfd programsWait() const;
@@ -51,7 +51,9 @@ private:
 class Connections {
 public:
     // Takes the port, without listening yet. errno says why it is not taken.
-    Connections(const char *address, const char *port, const char *socket);
+    // `reserve`: the bridges that Tor may be told to use.
+    Connections(const char *address, const char *port, const char *socket,
+                CommandFilter::Reserve reserve);
 
     [[nodiscard]] bool hasPort() const { return static_cast<bool>(m_listener); }
     // Tor's process, in this namespace's numbers. Only with a process that has made its socket by
@@ -73,6 +75,7 @@ private:
     void makePlace();
     [[nodiscard]] bool hasPlace() const;
 
+    const CommandFilter::Reserve m_reserve;
     sockaddr_un m_torsPlace{};
     pid_t m_tor = -1;
     Descriptor m_listener;

@@ -1,18 +1,21 @@
-// veldmark-control ADDRESS PORT SOCKET -- TOR WORD...: runs TOR, and takes its place at the control
-// port.
+// veldmark-control ADDRESS PORT SOCKET [RESERVE] -- TOR WORD...: runs TOR, and takes its place at
+// the control port.
 //
 // The root helper starts it in Tor's account, as the first process of Tor's namespaces. TOR opens
 // its control port at SOCKET, which only that account reaches, instead of ADDRESS:PORT. From there
-// only commands that Veldmark uses reach Tor (CommandFilter.h). Tor's answers come back unchanged.
+// only commands that Veldmark uses reach Tor (CommandFilter.h). RESERVE is a file with the bridges
+// that they may name; it is read once. Tor's answers come back unchanged.
 // The port opens when Tor's socket does. SIGTERM and SIGINT are passed on to Tor. It ends with
 // Tor's exit status when Tor ends, and Tor ends with it.
 
 #include "controlfilter/Connections.h"
+#include "controlfilter/ReserveFile.h"
 #include "controlfilter/TorProcess.h"
 
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <utility>
 
 #include <poll.h>
 
@@ -36,14 +39,23 @@ int reportTakenPort(const char *address, const char *port)
 int main(int argc, char **argv)
 {
     using namespace veldmark;
-    if (argc < 6 || std::strcmp(argv[4], "--") != 0) {
+    // Where the words of Tor begin.
+    const int words = argc >= 6 && std::strcmp(argv[4], "--") == 0 ? 5
+        : argc >= 7 && std::strcmp(argv[5], "--") == 0             ? 6
+                                                                   : 0;
+    if (words == 0) {
         std::fprintf(stderr, "veldmark-control is run by Veldmark's root helper.\n");
         return 2;
     }
-    Connections connections(argv[1], argv[2], argv[3]);
+    auto reserve = words == 6 ? readReserve(argv[4]) : std::optional(CommandFilter::Reserve());
+    if (!reserve) {
+        std::printf("[err] The bridges in reserve cannot be read: %s.\n", std::strerror(errno));
+        return 1;
+    }
+    Connections connections(argv[1], argv[2], argv[3], std::move(*reserve));
     if (!connections.hasPort())
         return reportTakenPort(argv[1], argv[2]);
-    TorProcess tor(argv + 5);
+    TorProcess tor(argv + words);
     if (!tor.hasStarted() || !giveUpRights()) {
         std::printf("[err] The filter before the control port cannot start: %s.\n",
                     std::strerror(errno));

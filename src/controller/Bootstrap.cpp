@@ -16,6 +16,7 @@ namespace veldmark {
 
 namespace {
 
+// from the connect, or from the first change to other bridges
 constexpr auto bootstrapLimit = 300s;
 constexpr auto bootstrapPoll = 1s;
 // A transport program is ready within a second. Tor does not start without it, and does not report
@@ -48,12 +49,36 @@ Text warningIn(const QString &report)
         : Text::tr("Tor reports: %1 (%2).").arg(warning, details.join(QStringLiteral(", ")));
 }
 
+// Whether it is of no use to wait for that connection, whatever Tor recommends.
+bool isRefusal(const QString &report)
+{
+    static const QStringList reasons = {QStringLiteral("CONNECTREFUSED"),
+                                        QStringLiteral("CONNECTRESET"), QStringLiteral("NOROUTE"),
+                                        QStringLiteral("PT_MISSING")};
+    return reasons.contains(field(report, u"REASON"));
+}
+
 } // namespace
 
 BootstrapStatus TorController::parseBootstrap(const QString &reply)
 {
     return {std::max(field(reply, u"PROGRESS").toInt(), 0), // 0 when absent or out of range
-            field(reply, u"SUMMARY"), warningIn(reply)};
+            field(reply, u"SUMMARY"), warningIn(reply), isRefusal(reply)};
+}
+
+std::optional<Text> TorController::obstacle() const
+{
+    const auto route = m_services.route();
+    if (!route)
+        return Text::tr("This computer has no network, so Tor can't connect.");
+    if (const QStringList others = OtherFirewalls::denying(m_services.profile); !others.isEmpty())
+        return Text::
+            tr("Another firewall on this computer blocks outgoing traffic, so Tor can't connect: %1.")
+                .arg(others.join(QStringLiteral(", ")));
+    if (strictMode() && route->isVPN)
+        return Text::tr(
+            "A VPN takes Tor's traffic, and strict mode does not let the VPN out. Switch the VPN off, or use proxy mode.");
+    return std::nullopt;
 }
 
 std::optional<Text> TorController::problemBehind(const BootstrapStatus &status,
@@ -63,23 +88,16 @@ std::optional<Text> TorController::problemBehind(const BootstrapStatus &status,
         m_activeBridgeLines.begin(), m_activeBridgeLines.end(),
         [](const QString &line) { return BridgeLines::transport(line).has_value(); });
     if (usesPrograms && status.progress < 100) {
-        // The report does not know why a transport program can't be reached; the log does.
-        if (const auto trouble = transportTrouble(TorLog(m_services.profile).read().lines()))
+        // The report does not know why a transport program can't be reached; the log does. Lines
+        // about bridges that were given up say nothing of the present ones.
+        const auto lines = TorLog(m_services.profile).read().lines();
+        if (const auto trouble = transportTrouble(lines.mid(m_climbing.logLines)))
             return trouble;
     }
     if (status.progress < relayReached && waited >= relayPatience) {
         // Tor itself reports no reason here.
-        const auto route = m_services.route();
-        if (!route)
-            return Text::tr("This computer has no network, so Tor can't connect.");
-        if (const QStringList others = OtherFirewalls::denying(m_services.profile);
-            !others.isEmpty())
-            return Text::
-                tr("Another firewall on this computer blocks outgoing traffic, so Tor can't connect: %1.")
-                    .arg(others.join(QStringLiteral(", ")));
-        if (strictMode() && route->isVPN)
-            return Text::tr(
-                "A VPN takes Tor's traffic, and strict mode does not let the VPN out. Switch the VPN off, or use proxy mode.");
+        if (const auto reason = obstacle())
+            return reason;
     }
     if (!status.warning.isEmpty())
         return status.warning;
@@ -96,24 +114,37 @@ QCoro::Task<Result<void, Text>> TorController::waitForBootstrap(Run attempt)
     const QString password = *m_controlPassword;
     const QStringList keys = {bootstrapKey};
     Clock &clock = m_services.clock;
-    const auto deadline = clock.now() + bootstrapLimit;
+    const auto start = clock.now();
     std::optional<Text> lastError;
-    std::optional<Clock::TimePoint> firstAnswer;
-    while (clock.now() < deadline) {
+    beginLadder();
+    while (clock.now() < m_climbing.began.value_or(start) + bootstrapLimit) {
         const auto reply = co_await m_services.controlPort.getInfo(keys, password);
         if (attempt.isOver())
             co_return Failure(Text()); // the user disconnected; the result is unused
         if (reply) {
-            const BootstrapStatus status = parseBootstrap(reply->value(bootstrapKey));
+            const QString report = reply->value(bootstrapKey);
+            BootstrapStatus status = parseBootstrap(report);
+            if (report == m_climbing.reportBefore) { // it is about bridges that were given up
+                status.warning = Text();
+                status.isRefused = false;
+            }
             bootstrapProgress = std::min(status.progress, 100) / 100.0;
             if (!status.summary.isEmpty())
                 statusDetail = status.summary;
             lastError = std::nullopt;
-            if (!firstAnswer)
-                firstAnswer = clock.now();
-            bootstrapProblem = problemBehind(status, clock.now() - *firstAnswer);
-            if (status.progress >= 100)
+            if (!m_climbing.since)
+                m_climbing.since = clock.now();
+            bootstrapProblem = problemBehind(status, clock.now() - *m_climbing.since);
+            if (status.progress >= 100) {
+                endLadder();
                 co_return {};
+            }
+            auto following = followLadder(attempt, status, report);
+            const auto failure = co_await following;
+            if (attempt.isOver())
+                co_return Failure(Text());
+            if (failure)
+                co_return Failure(*failure);
         } else {
             lastError = reply.error().description();
         }
@@ -121,6 +152,7 @@ QCoro::Task<Result<void, Text>> TorController::waitForBootstrap(Run attempt)
         if (attempt.isOver())
             co_return Failure(Text());
     }
+    failStep();
     co_return Failure(TorError::bootstrapTimeout(lastError).description());
 }
 

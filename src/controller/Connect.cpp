@@ -12,6 +12,8 @@
 
 #include <QPointer>
 
+#include <algorithm>
+
 using namespace std::chrono_literals;
 
 namespace veldmark {
@@ -26,6 +28,21 @@ QString flag(bool on)
 QCoro::Task<std::optional<ConnectTime>> noAnswer()
 {
     co_return std::nullopt;
+}
+
+const QStringList programOptions = {QStringLiteral("--pt-lyrebird"),
+                                    QStringLiteral("--pt-snowflake"),
+                                    QStringLiteral("--pt-webtunnel")};
+
+// `words` without programs that are named before them.
+QStringList newWords(const QStringList &before, QStringList words)
+{
+    for (const QString &option : programOptions) {
+        const qsizetype at = words.indexOf(option);
+        if (at >= 0 && before.contains(option))
+            words.remove(at, 2);
+    }
+    return words;
 }
 
 // The options that let root itself verify transport programs, which an administrator would
@@ -118,9 +135,57 @@ QCoro::Task<Result<void, HelperError>> TorController::approve(Run attempt,
     co_return Result<void, HelperError>{};
 }
 
+TorController::Reserve TorController::reserveOf(std::vector<Rung> rungs,
+                                                const PluggableTransports &found) const
+{
+    Reserve reserve;
+    if (rungs.empty())
+        return reserve;
+    const auto missing = unapproved(Ladder::words(rungs, found));
+    reserve.bundle = SignedBundle::words(m_services.profile, missing);
+    // Bridges in reserve are not worth a question.
+    const auto isAsked = [this, &reserve](const ProgramApproval &program) {
+        return reserve.bundle.isEmpty() || !SignedBundle::brings(m_services.profile, program);
+    };
+    if (std::any_of(missing.begin(), missing.end(), isAsked))
+        std::erase_if(rungs, [this, &isAsked, &found](const Rung &rung) {
+            const auto own = unapproved(Ladder::words({rung}, found));
+            return std::any_of(own.begin(), own.end(), isAsked);
+        });
+    reserve.words = Ladder::words(rungs, found);
+    reserve.rungs = std::move(rungs);
+    if (reserve.rungs.empty())
+        reserve.bundle.clear();
+    return reserve;
+}
+
+QCoro::Task<TorController::Reserve> TorController::planReserve(Run attempt, BridgeRequest request)
+{
+    Reserve reserve;
+    // An outdated helper, installed for password-free mode, does not know the option.
+    if (climb() == Climb::never || m_services.privileged.privilegedHelperOutdated())
+        co_return reserve;
+    PluggableTransports found = transports();
+    if (m_shownSearch == 0) { // the first search is not over
+        const quint64 search = ++m_transportSearch;
+        auto searching = m_services.locateWithoutAsking ? m_services.locateWithoutAsking()
+                                                        : m_services.locateTransports();
+        const PluggableTransports answered = co_await searching;
+        if (attempt.isOver())
+            co_return reserve;
+        showTransports(answered, search);
+        found = answered;
+    }
+    reserve = reserveOf(
+        Ladder::rungs(request.choice, m_pendingBridgeLines, request.customBridges, found), found);
+    co_return reserve;
+}
+
 QCoro::Task<Result<void, HelperError>> TorController::runConnect(Run attempt, QStringList words)
 {
     QStringList bundle = bundleWords(m_services, words);
+    if (bundle.isEmpty())
+        bundle = m_reserve.bundle;
     std::vector<ProgramApproval> programs = unapproved(words);
     if (!bundle.isEmpty()) // root verifies the bundle's programs itself
         std::erase_if(programs, [this](const ProgramApproval &program) {
@@ -132,7 +197,7 @@ QCoro::Task<Result<void, HelperError>> TorController::runConnect(Run attempt, QS
         if (attempt.isOver() || !approved)
             co_return approved;
         statusDetail = Text::tr("Waiting for administrator approval…");
-        const QStringList asked = words + bundle;
+        const QStringList asked = words + newWords(words, m_reserve.words) + bundle;
         const auto helper = co_await m_services.privileged.runHelper(asked);
         if (attempt.isOver())
             co_return Failure(HelperError::cancelled()); // the result is unused
@@ -140,9 +205,17 @@ QCoro::Task<Result<void, HelperError>> TorController::runConnect(Run attempt, QS
             co_return Result<void, HelperError>{};
         if (helper.error().kind() != HelperError::Kind::UnapprovedProgram || isByName)
             co_return Failure(helper.error());
-        // The helper refused an unapproved program. With a bundle, root did not find the program in
-        // it: the administrator approves what is missing. Without one, root has a copy that a newer
-        // bundle has replaced: the administrator approves the programs by name.
+        // The helper refused an unapproved program. Without the bridges in reserve it may be asked
+        // for less.
+        if (!m_reserve.words.isEmpty()) {
+            m_reserve = {};
+            bundle = bundleWords(m_services, words);
+            programs.clear(); // they have been approved
+            continue;
+        }
+        // With a bundle, root did not find the program in it: the administrator approves what is
+        // missing. Without one, root has a copy that a newer bundle has replaced: the administrator
+        // approves the programs by name.
         isByName = bundle.isEmpty();
         bundle.clear();
         programs = isByName ? namedPrograms(words) : unapproved(words);
@@ -225,6 +298,14 @@ QCoro::Task<void> TorController::connect()
     if (!exit.isEmpty())
         arguments << QStringLiteral("--exit") << exit;
     arguments += *bridges;
+    // A session that is resumed keeps its bridges in reserve, too.
+    if (!isBlocked || arguments != m_sessionWords) {
+        auto planning = planReserve(attempt, request);
+        const Reserve reserve = co_await planning;
+        if (attempt.isOver())
+            co_return;
+        m_reserve = reserve;
+    }
     // In password-free mode the helper itself decides whether it needs approval.
     if (isBlocked && arguments != m_sessionWords && !m_services.privileged.passwordlessInstalled())
         arguments[0] = QStringLiteral("replace");

@@ -116,6 +116,31 @@ QJsonValue json(const std::vector<CircuitInfo> &value)
     return array;
 }
 
+QJsonValue json(Climb value)
+{
+    return rawValue(value);
+}
+
+QJsonValue json(const std::vector<LadderStep> &value)
+{
+    QJsonArray steps;
+    for (const LadderStep &step : value)
+        steps.append(
+            QJsonObject{{QStringLiteral("rung"), Ladder::rawName(step.rung)},
+                        {QStringLiteral("result"), json(step.result)},
+                        {QStringLiteral("seconds"),
+                         step.seconds ? QJsonValue(*step.seconds) : QJsonValue(QJsonValue::Null)}});
+    return steps;
+}
+
+QJsonValue textJson(const std::vector<LadderStep> &value)
+{
+    QJsonArray texts;
+    for (const LadderStep &step : value)
+        texts.append(step.result.toJson());
+    return texts.isEmpty() ? QJsonValue(QJsonValue::Null) : texts;
+}
+
 QJsonValue json(const SessionOwner &value)
 {
     return QJsonObject{{QStringLiteral("user"), value.userName()},
@@ -164,6 +189,11 @@ BridgeChoice readSetting(const SettingsStore &store, const QString &key, BridgeC
     return bridgeChoiceFromRawValue(store.string(key)).value_or(fallback);
 }
 
+Climb readSetting(const SettingsStore &store, const QString &key, Climb fallback)
+{
+    return climbFromRawValue(store.string(key)).value_or(fallback);
+}
+
 void writeSetting(SettingsStore &store, const QString &key, bool value)
 {
     store.setBoolean(key, value);
@@ -184,6 +214,11 @@ void writeSetting(SettingsStore &store, const QString &key, BridgeChoice value)
     store.setString(key, rawValue(value));
 }
 
+void writeSetting(SettingsStore &store, const QString &key, Climb value)
+{
+    store.setString(key, rawValue(value));
+}
+
 QVariant stored(bool value)
 {
     return value;
@@ -197,6 +232,11 @@ QVariant stored(const QStringList &value)
     return value;
 }
 QVariant stored(BridgeChoice value)
+{
+    return rawValue(value);
+}
+
+QVariant stored(Climb value)
 {
     return rawValue(value);
 }
@@ -241,6 +281,15 @@ Result<void, Text> parse(const QString &text, BridgeChoice &value)
     return {};
 }
 
+Result<void, Text> parse(const QString &text, Climb &value)
+{
+    const auto climb = climbFromRawValue(text);
+    if (!climb)
+        return Failure(Text::tr("\"%1\" is none of ask, always and never.").arg(inOneLine(text)));
+    value = *climb;
+    return {};
+}
+
 QStringList possibleValues(bool)
 {
     return {QStringLiteral("true"), QStringLiteral("false")};
@@ -261,6 +310,14 @@ QStringList possibleValues(BridgeChoice)
          {BridgeChoice::off, BridgeChoice::obfs4, BridgeChoice::snowflake, BridgeChoice::meek,
           BridgeChoice::custom})
         values << rawValue(choice);
+    return values;
+}
+
+QStringList possibleValues(Climb)
+{
+    QStringList values;
+    for (const Climb climb : allClimbs)
+        values << rawValue(climb);
     return values;
 }
 

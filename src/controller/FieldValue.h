@@ -5,6 +5,7 @@
 #include "base/RoutingMode.h"
 #include "base/Text.h"
 #include "bridges/BridgeChoice.h"
+#include "bridges/Ladder.h"
 #include "checks/TrafficWatch.h"
 
 #include <QJsonValue>
@@ -46,6 +47,9 @@ QJsonValue json(const SessionOwner &value);
 QJsonValue json(TrafficWatch::Stall value);
 QJsonValue json(const PluggableTransports &value);
 QJsonValue json(const std::vector<CircuitInfo> &value);
+QJsonValue json(Climb value);
+// {"rung": "direct", "result": "…", "seconds": 15}; the result in English.
+QJsonValue json(const std::vector<LadderStep> &value);
 
 template <typename T> QJsonValue json(const std::optional<T> &value)
 {
@@ -62,6 +66,7 @@ inline QJsonValue textJson(const Text &value)
     return value.toJson();
 }
 QJsonValue textJson(const QList<Text> &value);
+QJsonValue textJson(const std::vector<LadderStep> &value); // the results
 inline QJsonValue textJson(const std::optional<Text> &value)
 {
     return value ? value->toJson() : QJsonValue(QJsonValue::Null);
@@ -73,16 +78,19 @@ QString readSetting(const SettingsStore &store, const QString &key, const QStrin
 QStringList readSetting(const SettingsStore &store, const QString &key,
                         const QStringList &fallback);
 BridgeChoice readSetting(const SettingsStore &store, const QString &key, BridgeChoice fallback);
+Climb readSetting(const SettingsStore &store, const QString &key, Climb fallback);
 void writeSetting(SettingsStore &store, const QString &key, bool value);
 void writeSetting(SettingsStore &store, const QString &key, const QString &value);
 void writeSetting(SettingsStore &store, const QString &key, const QStringList &value);
 void writeSetting(SettingsStore &store, const QString &key, BridgeChoice value);
+void writeSetting(SettingsStore &store, const QString &key, Climb value);
 
 // The value as the store holds it.
 QVariant stored(bool value);
 QVariant stored(const QString &value);
 QVariant stored(const QStringList &value);
 QVariant stored(BridgeChoice value);
+QVariant stored(Climb value);
 
 // Parses the user's words: "true"/"false" (also on/off, yes/no, 1/0) for switches, a JSON array of
 // strings for lists, the raw value for choices. The error is a sentence and leaves `value`
@@ -91,12 +99,14 @@ Result<void, Text> parse(const QString &text, bool &value);
 Result<void, Text> parse(const QString &text, QString &value);
 Result<void, Text> parse(const QString &text, QStringList &value);
 Result<void, Text> parse(const QString &text, BridgeChoice &value);
+Result<void, Text> parse(const QString &text, Climb &value);
 
 // All words that parse() accepts, one for each value; empty when there are too many.
 QStringList possibleValues(bool);
 QStringList possibleValues(const QString &);
 QStringList possibleValues(const QStringList &);
 QStringList possibleValues(BridgeChoice);
+QStringList possibleValues(Climb);
 
 // The user's words, for a message of one line.
 QString inOneLine(const QString &text);

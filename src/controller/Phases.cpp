@@ -65,7 +65,8 @@ void TorController::enter(ConnectionPhase next)
     if (m_phaseChanges.size() >= mostPhaseChanges)
         m_phaseChanges.erase(m_phaseChanges.begin());
     m_phaseChanges.push_back({next, QDateTime::currentDateTimeUtc()});
-    phase = next; // an observer may destroy this object
+    climbOffer = std::nullopt; // or it would be offered in the next attempt
+    phase = next;              // an observer may destroy this object
     endWaits(waiters);
 }
 
@@ -82,6 +83,8 @@ void TorController::enterConnecting()
     forgetCircuits();
     bootstrapProgress = 0.0;
     bootstrapProblem = std::nullopt;
+    ladder = {};
+    m_climbing = {};
     resetSessionInfo();
     statusDetail = Text::tr("Preparing Tor…");
     enter(ConnectionPhase::connecting);
@@ -208,6 +211,7 @@ void TorController::endSession()
     resetSessionInfo();
     bootstrapProgress = 0.0;
     bootstrapProblem = std::nullopt;
+    ladder = {};
     statusDetail = Text::tr("Your traffic is not going through Tor");
     enter(ConnectionPhase::disconnected);
 }
@@ -286,6 +290,7 @@ void TorController::showSessionOf(const std::optional<SessionOwner> &other)
     activeBridge = std::nullopt;
     bootstrapProgress = 0.0;
     bootstrapProblem = std::nullopt;
+    ladder = {};
     forgetCircuits();
     resetSessionInfo();
     activeMode = markedMode();

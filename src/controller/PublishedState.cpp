@@ -25,6 +25,22 @@ std::optional<Result<void, SettingError>> trySetting(TorController &controller, 
     return SettingRules::change(controller, *setting, value);
 }
 
+// The texts of a list, or the results of its steps.
+QJsonArray translated(QJsonArray list, const QJsonArray &texts)
+{
+    for (qsizetype at = 0; at < list.size() && at < texts.size(); ++at) {
+        const QString text = Text::fromJson(texts[at]).translated();
+        if (!list[at].isObject()) {
+            list[at] = text;
+            continue;
+        }
+        QJsonObject step = list[at].toObject();
+        step.insert(QStringLiteral("result"), text);
+        list[at] = step;
+    }
+    return list;
+}
+
 } // namespace
 
 QJsonObject publishedState(const TorController &controller)
@@ -76,10 +92,7 @@ QJsonObject inUsersLanguage(QJsonObject state, const QJsonObject &texts)
         if (english.isString()) {
             state.insert(text.key(), Text::fromJson(text.value()).translated());
         } else if (english.isArray()) {
-            QJsonArray translated;
-            for (const QJsonValue &one : text.value().toArray())
-                translated.append(Text::fromJson(one).translated());
-            state.insert(text.key(), translated);
+            state.insert(text.key(), translated(english.toArray(), text.value().toArray()));
         }
     }
     return state;
@@ -102,7 +115,8 @@ Result<void, SettingError> setSetting(TorController &controller, const QString &
     for (const auto &tried :
          {trySetting<bool>(controller, field, text), trySetting<QString>(controller, field, text),
           trySetting<QStringList>(controller, field, text),
-          trySetting<BridgeChoice>(controller, field, text)}) {
+          trySetting<BridgeChoice>(controller, field, text),
+          trySetting<Climb>(controller, field, text)}) {
         if (tried)
             return *tried;
     }

@@ -61,6 +61,11 @@ Result<void, SettingError> change(TorController &controller, Setting<BridgeChoic
     return store(controller, setting, value);
 }
 
+Result<void, SettingError> change(TorController &controller, Setting<Climb> &setting, Climb value)
+{
+    return store(controller, setting, value);
+}
+
 Result<void, SettingError> change(TorController &controller, Setting<QString> &setting,
                                   const QString &value)
 {

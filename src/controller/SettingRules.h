@@ -20,6 +20,7 @@ Result<void, SettingError> change(TorController &controller, Setting<QString> &s
                                   const QString &value);
 Result<void, SettingError> change(TorController &controller, Setting<BridgeChoice> &setting,
                                   BridgeChoice value);
+Result<void, SettingError> change(TorController &controller, Setting<Climb> &setting, Climb value);
 Result<void, SettingError> change(TorController &controller, Setting<QStringList> &setting,
                                   const QStringList &value);
 

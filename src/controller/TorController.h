@@ -2,6 +2,7 @@
 
 #include "bridges/BridgeChoice.h"
 #include "bridges/BridgePlan.h"
+#include "bridges/Ladder.h"
 #include "bridges/PluggableTransports.h"
 #include "bridges/TransportDownloader.h"
 #include "checks/DNSStatus.h"
@@ -55,6 +56,8 @@ struct BootstrapStatus {
     int progress = 0; // per cent
     QString summary;  // Tor's own words; empty when the report has none
     Text warning;     // why Tor is stuck, a sentence; empty without a warning
+    // The last connection was refused, or its address cannot be reached.
+    bool isRefused = false;
 };
 
 // The one object that holds the program's knowledge: the user's settings, the session with Tor, and
@@ -122,6 +125,8 @@ public:
                                        Text::tr("which bridges"), BridgeChoice::off};
     Setting<QString> customBridges{this, "customBridges", Scope::connection,
                                    Text::tr("your own bridge lines, as typed"), QString()};
+    Setting<Climb> climb{this, "climb", Scope::connection,
+                         Text::tr("whether bridges are tried when Tor gets nowhere"), Climb::ask};
     Setting<QStringList> bypassApps{
         this, "bypassApps", Scope::always,
         Text::tr("paths of applications that may be opened without Tor")};
@@ -146,6 +151,11 @@ public:
     // Why the bootstrap is stuck, a sentence from Tor's report and log. It clears on progress and
     // survives a failure until the next attempt or the restore.
     Published<std::optional<Text>> bootstrapProblem{this, "bootstrapProblem"};
+    // What was tried, in order, once something else than the user's choice was; empty otherwise. It
+    // stays until the next attempt or the restore.
+    Published<std::vector<LadderStep>> ladder{this, "ladder"};
+    // Why bridges are offered; takeOffer() accepts. Absent when nothing is offered.
+    Published<std::optional<Text>> climbOffer{this, "climbOffer"};
     // The owner of the session that a stale phase shows, while that other process runs.
     Published<std::optional<SessionOwner>> otherSession{this, "otherSession"};
     // disconnect() may end the connect attempt.
@@ -210,6 +220,8 @@ public:
     // --- Operations: session. ---
     // From `disconnected` or `stale` to `connected`; in any other phase does nothing.
     QCoro::Task<void> connect();
+    // Has a connect try the bridges that `climbOffer` offers. The error is a sentence.
+    Result<void, Text> takeOffer();
     // Restores the network. Accepted when connected, stale, or connecting with `canCancel`. When
     // the helper fails, a session that was up stays up as long as the marker exists. The error is a
     // sentence; empty when the user dismissed the prompt, when the call was not accepted, or when a
@@ -369,14 +381,25 @@ private:
     Text leftOverDetail() const;
     Text replacedText() const; // needs `otherSession`
 
+    // Bridges that Tor may change to without another run of the helper, and what the helper is told
+    // of them.
+    struct Reserve {
+        std::vector<Rung> rungs;
+        QStringList words;
+        QStringList bundle; // the options that let root verify their programs
+    };
     // Connect.cpp
+    // What can be kept in reserve without an approval of its own.
+    QCoro::Task<Reserve> planReserve(Run attempt, BridgeRequest request);
+    Reserve reserveOf(std::vector<Rung> rungs, const PluggableTransports &found) const;
     // Asks the administrator to approve each of these programs.
     QCoro::Task<Result<void, HelperError>> approve(Run attempt,
                                                    std::vector<ProgramApproval> programs);
     std::vector<ProgramApproval> unapproved(const QStringList &words) const;
     std::vector<ProgramApproval> namedPrograms(const QStringList &words) const;
     // Runs the helper's connect with the approvals that root needs for the programs in these words.
-    // The result is unused once the attempt is old.
+    // The bridges of m_reserve come along, if root takes them without more. The result is unused
+    // once the attempt is old.
     QCoro::Task<Result<void, HelperError>> runConnect(Run attempt, QStringList words);
     QCoro::Task<Result<QStringList, Text>> bridgeArguments(Run attempt, BridgeRequest request);
     // Runs after a connect: the checks, then the optimisation of a slow path when the user wants
@@ -384,9 +407,21 @@ private:
     QCoro::Task<void> settleIn(Run attempt);
     // Bootstrap.cpp
     QCoro::Task<Result<void, Text>> waitForBootstrap(Run attempt);
-    // `waited`: time since Tor's first answer.
+    // What on this computer keeps Tor from every relay and bridge.
+    std::optional<Text> obstacle() const;
+    // `waited`: time since Tor's first answer, or since it was told to use other bridges.
     std::optional<Text> problemBehind(const BootstrapStatus &status,
                                       std::chrono::nanoseconds waited) const;
+    // Ladder.cpp
+    void beginLadder();
+    // Looks whether the present rung is given up, and goes on to the next. The sentence of the
+    // failure when nothing is left to try.
+    QCoro::Task<std::optional<Text>> followLadder(Run attempt, BootstrapStatus status,
+                                                  QString report);
+    void endStep(const Text &result);
+    void endLadder(); // Tor has connected
+    void failStep();  // the time is over, although Tor got on
+    Text nothingHelps() const;
     // Monitoring.cpp
     void startMonitoring();
     void stopMonitoring();
@@ -445,10 +480,21 @@ private:
     quint64 m_attempt = 0;     // the running connect or disconnect; older ones end silently
     quint64 m_monitor = 0;     // the running monitor loop
     quint64 m_terminalRun = 0; // the run that last applied terminal mode
-    std::optional<QString> m_controlPassword;       // of the running session; only in memory
-    QString m_controlHash;                          // the hash that Tor got of it
-    std::optional<SessionMark> m_sessionMark;       // of the session that is shown
-    QStringList m_sessionWords;                     // of the helper's last successful connect
+    std::optional<QString> m_controlPassword; // of the running session; only in memory
+    QString m_controlHash;                    // the hash that Tor got of it
+    std::optional<SessionMark> m_sessionMark; // of the session that is shown
+    QStringList m_sessionWords; // of the helper's last successful connect, without the reserve
+    Reserve m_reserve;          // that it was told of
+    // How the connection being set up climbs.
+    struct Climbing {
+        std::vector<Rung> left;                      // to try
+        bool mayClimb = false;                       // without asking
+        RungWatch watch{std::chrono::seconds(0), 0}; // of the present rung
+        std::optional<Clock::TimePoint> since;       // its begin; absent before Tor's first answer
+        QString reportBefore;                        // Tor's last one before it
+        qsizetype logLines = 0;                      // of Tor's log before it
+        std::optional<Clock::TimePoint> began;       // the first change to other bridges
+    } m_climbing;
     bool m_isDownloading = false;                   // transports
     bool m_downloadsDirectly = false;               // not through Tor
     bool m_downloadInterrupted = false;             // by a connect

@@ -111,6 +111,14 @@ QCoro::Task<Outcome> connect(Call call)
     co_return {};
 }
 
+QCoro::Task<Outcome> climb(Call call)
+{
+    const auto taken = call.controller->takeOffer();
+    if (!taken)
+        co_return refusal(taken.error());
+    co_return {};
+}
+
 QCoro::Task<Outcome> disconnect(Call call)
 {
     const auto controller = call.controller;

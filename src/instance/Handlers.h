@@ -14,6 +14,7 @@ QCoro::Task<Outcome> watch(Call call); // until the client disconnects
 QCoro::Task<Outcome> raise(Call call);
 QCoro::Task<Outcome> set(Call call);
 QCoro::Task<Outcome> connect(Call call);
+QCoro::Task<Outcome> climb(Call call);
 QCoro::Task<Outcome> disconnect(Call call);
 QCoro::Task<Outcome> check(Call call);
 QCoro::Task<Outcome> fixDNS(Call call);

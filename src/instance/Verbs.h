@@ -35,6 +35,7 @@ struct Verb {
         run,
         status,
         connect,
+        climb,
         disconnect,
         restore,
         check,

@@ -234,6 +234,23 @@ QString PanelModel::waitingFor() const
         : tr("Still waiting for Tor to start, or for your approval.");
 }
 
+QStringList PanelModel::steps() const
+{
+    const Snapshot &now = m_session.now();
+    QStringList lines;
+    if (now.phase == ConnectionPhase::connecting || now.phase == ConnectionPhase::stale) {
+        for (const LadderStep &step : now.ladder)
+            lines << Ladder::line(step).translated();
+    }
+    return lines;
+}
+
+QString PanelModel::offer() const
+{
+    const Snapshot &now = m_session.now();
+    return now.phase == ConnectionPhase::connecting ? shown(now.climbOffer) : QString();
+}
+
 QString PanelModel::exitAddress() const
 {
     const Snapshot &now = m_session.now();

@@ -30,6 +30,8 @@ class PanelModel : public QObject {
     Q_PROPERTY(QString footnote READ footnote NOTIFY changed)
     Q_PROPERTY(bool canRestore READ canRestore NOTIFY changed)
     Q_PROPERTY(QString waitingFor READ waitingFor NOTIFY changed)
+    Q_PROPERTY(QStringList steps READ steps NOTIFY changed)
+    Q_PROPERTY(QString offer READ offer NOTIFY changed)
     Q_PROPERTY(bool connected READ connected NOTIFY changed)
 
     Q_PROPERTY(QString exitAddress READ exitAddress NOTIFY changed)
@@ -81,6 +83,8 @@ public:
     QString footnote() const;
     bool canRestore() const;
     QString waitingFor() const; // empty unless there was no progress for ten seconds
+    QStringList steps() const;  // what was tried, until Tor has connected
+    QString offer() const;      // to try bridges; empty without one
     bool connected() const;
 
     QString exitAddress() const;
@@ -113,6 +117,7 @@ public:
     bool installHintIsCommand() const;
 
     Q_INVOKABLE void pressPower();
+    Q_INVOKABLE void takeOffer() { m_session.takeOffer(); }
     Q_INVOKABLE void restore() { m_session.disconnectFromTor(); }
     Q_INVOKABLE void newIdentity() { m_session.newIdentity(); }
     Q_INVOKABLE void leakTest() { m_session.runChecks(); }

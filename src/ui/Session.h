@@ -31,6 +31,7 @@ public:
 
     virtual void store(const Choices &choices) = 0;
     virtual void connectToTor() = 0;
+    virtual void takeOffer() = 0;         // to try bridges
     virtual void disconnectFromTor() = 0; // also ends an attempt, and restores a left-over network
     virtual void runChecks() = 0;
     virtual void checkDNS() = 0; // with a live test

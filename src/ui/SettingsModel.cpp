@@ -6,6 +6,8 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 
+#include <algorithm>
+
 namespace veldmark {
 
 SettingsModel::SettingsModel(Session &session, QObject *parent)
@@ -26,6 +28,24 @@ void SettingsModel::setSeparateApps(bool on)
 {
     Choices next = now().choices;
     next.separateApps = on;
+    m_session.store(next);
+}
+
+QStringList SettingsModel::climbNames() const
+{
+    return {tr("Ask"), tr("Try bridges"), tr("Do nothing")}; // in the order of allClimbs
+}
+
+int SettingsModel::climbIndex() const
+{
+    const auto at = std::find(allClimbs.begin(), allClimbs.end(), now().choices.climb);
+    return static_cast<int>(at - allClimbs.begin());
+}
+
+void SettingsModel::setClimbIndex(int index)
+{
+    Choices next = now().choices;
+    next.climb = allClimbs.at(static_cast<std::size_t>(index));
     m_session.store(next);
 }
 

@@ -37,6 +37,8 @@ class SettingsModel : public QObject {
     Q_PROPERTY(bool canDownload READ canDownload NOTIFY changed)
     Q_PROPERTY(QString downloadText READ downloadText NOTIFY changed)
     Q_PROPERTY(QString bundleTrust READ bundleTrust NOTIFY changed)
+    Q_PROPERTY(QStringList climbNames READ climbNames CONSTANT)
+    Q_PROPERTY(int climbIndex READ climbIndex WRITE setClimbIndex NOTIFY changed)
     Q_PROPERTY(bool terminalMode READ terminalMode WRITE setTerminalMode NOTIFY changed)
     Q_PROPERTY(bool terminalInstalled READ terminalInstalled NOTIFY changed)
     Q_PROPERTY(QString terminalStatus READ terminalStatus NOTIFY changed)
@@ -84,6 +86,9 @@ public:
     QString bundleStatus() const;
     bool canDownload() const { return now().canDownloadTransports; }
     QString downloadText() const;
+    QStringList climbNames() const;
+    int climbIndex() const;
+    void setClimbIndex(int index);
     QString bundleTrust() const; // how a download is verified with the present programs
 
     bool terminalMode() const { return now().choices.terminalMode; }

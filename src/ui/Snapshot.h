@@ -4,6 +4,7 @@
 #include "base/RoutingMode.h"
 #include "base/Text.h"
 #include "bridges/BridgeChoice.h"
+#include "bridges/Ladder.h"
 #include "bridges/PluggableTransports.h"
 #include "checks/DNSStatus.h"
 #include "checks/KillSwitch.h"
@@ -36,6 +37,7 @@ struct Choices {
     bool optimizeSpeed = false;
     bool terminalMode = false;
     bool separateApps = true;
+    Climb climb = Climb::ask;
 
     friend bool operator==(const Choices &, const Choices &) = default;
 };
@@ -50,6 +52,8 @@ struct Snapshot {
     double bootstrapProgress = 0; // 0…1
     Text statusDetail = Text::tr("Your traffic is not going through Tor");
     std::optional<Text> bootstrapProblem; // why the bootstrap is stuck
+    std::vector<LadderStep> ladder;       // what was tried beside the user's choice
+    std::optional<Text> climbOffer;       // why bridges are offered
     bool isAnothers = false;              // the session belongs to another process
     bool hasTorStopped = false;           // the session of a stale phase has lost its Tor
     bool canCancel = false;

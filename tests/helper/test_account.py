@@ -179,9 +179,15 @@ class Account(HostileTest):
 
     def test_tor_reaches_the_local_network_for_a_bridge_there_alone(self):
         lan = {"lan-tcp", "lan-dns-tcp", "lan-dns-tls"}
-        for url, reached in (None, set()), ("https://203.0.113.7/", set()), ("https://192.168.77.30/", lan):
+        for option, url, reached in (
+            ("", None, set()),
+            ("--bridge", "https://203.0.113.7/", set()),
+            ("--bridge", "https://192.168.77.30/", lan),
+            ("--reserve", "https://203.0.113.7/", set()),
+            ("--reserve", "https://192.168.77.30/", lan),
+        ):
             self.machine.connect(
-                more=["--bridge", f"webtunnel 192.0.2.3:80 url={url}", "--pt-lyrebird", "/usr/bin/obfs4proxy"] if url else []
+                more=[option, f"webtunnel 192.0.2.3:80 url={url}", "--pt-lyrebird", "/usr/bin/obfs4proxy"] if url else []
             )
             self.assertEqual(self.wire.arrivals(self.tor_uid, TOR_GROUP) & lan, reached, url)
 
@@ -192,6 +198,15 @@ class Account(HostileTest):
         more = [word for bridge in bridges for word in ("--bridge", bridge)] + ["--pt-lyrebird", "/usr/bin/obfs4proxy"]
         self.machine.connect(more=more)
         self.assertEqual(self.wire.arrivals(self.tor_uid, TOR_GROUP), {"https", "tcp6", "lan-tcp"})
+        # Bridges in reserve are let through as well, and no others.
+        front = "webtunnel 192.0.2.3:80 url=https://a.example/"
+        self.machine.connect(more=[*more[:-4], *more[-2:], "--reserve", f"{probes.LAN}:1006"])
+        self.assertEqual(self.wire.arrivals(self.tor_uid, TOR_GROUP), {"https", "tcp6", "lan-tcp"})
+        self.machine.connect(more=[*more, "--reserve", front])
+        self.assertLessEqual({"tcp", "https", "dns-tls"}, self.wire.arrivals(self.tor_uid, TOR_GROUP))
+        # Without a bridge in use Tor needs every address.
+        self.machine.connect(more=["--reserve", f"obfs4 {probes.PUBLIC}:443 cert=a iat-mode=0", *more[-2:]])
+        self.assertLessEqual({"tcp", "https", "dns-tls"}, self.wire.arrivals(self.tor_uid, TOR_GROUP))
         # With a transport that uses a front, or with an administrator's proxy, the address of the bridge is not known beforehand.
         self.machine.connect(more=[*more, "--bridge", "webtunnel 192.0.2.3:80 url=https://a.example/"])
         self.assertLessEqual({"tcp", "https", "dns-tls"}, self.wire.arrivals(self.tor_uid, TOR_GROUP))

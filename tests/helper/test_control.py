@@ -100,8 +100,8 @@ class Session(HelperTest):
         self.machine.help("disconnect")
         self.assertEqual(self.machine.snapshot(), self.before)
 
-    def connect(self, strict="1", helper=INSTALLED, **options):
-        words = ("connect", "--tor", TOR, "--hash", self.hash, "--strict", strict, "--lan", "0")
+    def connect(self, strict="1", helper=INSTALLED, more=(), **options):
+        words = ("connect", "--tor", TOR, "--hash", self.hash, "--strict", strict, "--lan", "0", *more)
         return self.machine.run(
             "/bin/bash", helper, *words, env={"PATH": os.environ["PATH"], "PKEXEC_UID": str(USER_UID)}, **options
         )
@@ -173,6 +173,73 @@ class Session(HelperTest):
         for line in self.REFUSED[:5]:
             self.assertEqual(self.say_to_tor(line), ["250 OK"], line)
         self.assertNotEqual(self.config(), config)
+
+    RESERVE = ("192.0.2.9:443", "obfs4 192.0.2.8:443 cert=a iat-mode=0")
+    IN_RESERVE = ("--reserve", RESERVE[0], "--reserve", RESERVE[1], "--pt-lyrebird", "/usr/bin/obfs4proxy")
+
+    def test_tor_can_be_told_to_use_the_bridges_in_reserve_and_no_others(self):
+        self.connect(more=self.IN_RESERVE)
+        config = self.config()
+        self.assertNotIn("Bridge", config)
+        climb = "SETCONF UseBridges=1"
+        for line in (
+            *self.REFUSED,
+            "SETCONF UseBridges=0",
+            climb,
+            climb + ' Bridge="192.0.2.9:444"',
+            climb + ' Bridge="192.0.2.9:443" HTTPSProxy=192.0.2.8:8',
+            climb + ' Bridge="192.0.2.9:443" ClientTransportPlugin="obfs4 exec /usr/bin/touch /tmp/x"',
+        ):
+            self.assertEqual(self.say(WORD, line)[1], '510 Unrecognized command "FILTERED"', line)
+        self.assertEqual(self.config(), config)
+        for lines in self.RESERVE[:1], self.RESERVE, self.RESERVE[1:]:
+            self.assertEqual(self.say(WORD, climb + "".join(f' Bridge="{line}"' for line in lines)), ["250 OK"] * 2)
+            config = self.config().splitlines()
+            self.assertEqual([line for line in config if "Bridge" in line], [*(f"Bridge {line}" for line in lines), "UseBridges 1"])
+        # The lines are for Tor's account alone, and are gone with the next session.
+        place = "/var/lib/veldmark/run/reserve"
+        self.assertEqual(self.machine.shell(f"stat -c '%U %G %a' {place}"), "root _veldmark 640\n")
+        for uid in USER_UID, OTHER_UID:
+            self.assertNotEqual(self.machine.run("cat", place, uid=uid, check=False).returncode, 0)
+        self.machine.help("disconnect")
+        self.connect()
+        self.machine.shell(f"! test -e {place}")
+        self.assertEqual(self.say(WORD, climb + f' Bridge="{self.RESERVE[0]}"')[1][:4], "510 ")
+
+    def test_a_session_with_bridges_never_goes_without(self):
+        self.connect(more=("--bridge", "192.0.2.7:443", *self.IN_RESERVE))
+        climb = "SETCONF UseBridges="
+        self.assertEqual(self.say(WORD, climb + "0")[1][:4], "510 ")
+        self.assertEqual(self.say(WORD, climb + '1 Bridge="192.0.2.9:443"'), ["250 OK"] * 2)
+        self.assertEqual(self.say(WORD, climb + "0")[1][:4], "510 ")
+        self.assertIn("\nUseBridges 1\n", self.config())
+
+    def test_programs_of_bridges_in_reserve_start_with_their_bridges(self):
+        """Tor has a network, which leads nowhere here, since it starts no program without one."""
+        self.machine.shell("sed -i 's/^DisableNetwork 1$/DisableNetwork 0/' /etc/tor/torrc-defaults")
+        try:
+            self.connect(more=self.IN_RESERVE)
+            self.machine.shell("until ss -Hltn | grep -q :9050; do sleep 0.02; done", timeout=20)
+            self.assertEqual(self.machine.shell("pgrep -u _veldmark -x obfs4proxy || true"), "")
+            self.assertEqual(self.say(WORD, f'SETCONF UseBridges=1 Bridge="{self.RESERVE[1]}"'), ["250 OK"] * 2)
+            self.machine.shell("until pgrep -u _veldmark -x obfs4proxy; do sleep 0.02; done", timeout=20)
+            # With the change to a bridge that needs none it ends.
+            self.assertEqual(self.say(WORD, f'SETCONF UseBridges=1 Bridge="{self.RESERVE[0]}"'), ["250 OK"] * 2)
+            self.machine.shell("while pgrep -u _veldmark -x obfs4proxy; do sleep 0.02; done", timeout=20)
+        finally:
+            self.machine.help("disconnect")
+            self.machine.shell("sed -i 's/^DisableNetwork 0$/DisableNetwork 1/' /etc/tor/torrc-defaults")
+        self.before = self.machine.snapshot()
+
+    def test_a_program_of_a_bridge_in_reserve_needs_the_same_approval(self):
+        self.machine.shell("install -m 0755 -o alice /usr/bin/obfs4proxy /home/alice/lyrebird")
+        try:
+            done = self.connect(more=(*self.IN_RESERVE[:-1], "/home/alice/lyrebird"), check=False)
+            says = "ERROR: An administrator password is needed to approve /home/alice/lyrebird.\n"
+            self.assertEqual((done.returncode, done.stderr, self.filters()), (4, says, []))
+            self.connect(more=self.IN_RESERVE)
+        finally:
+            self.machine.shell("rm /home/alice/lyrebird")
 
     def test_without_the_filter_the_same_is_taken(self):
         """As in a build folder of a user's, whose copy does not run: Tor has the port itself."""
@@ -575,6 +642,17 @@ class Program(HelperTest):
             done = self.machine.run(FILTER, *words, "--", "/bin/touch", "/run/started", check=False)
             self.assertEqual((done.returncode, done.stdout.split(": ")[-1]), (1, "Invalid argument.\n"))
         self.machine.shell("! test -e /run/started")
+
+    def test_without_the_bridges_in_reserve_it_starts_nothing(self):
+        self.machine.shell("printf 'a\\nb\"\\n' >/run/reserve; chmod 0644 /run/reserve")
+        for place, reason in ("/no/such", "No such file or directory"), ("/run/reserve", "Invalid argument"):
+            words = (FILTER, "127.0.0.1", "19051", "/x", place, "--", "/bin/touch", "/run/started")
+            done = self.machine.run(*words, check=False)
+            self.assertEqual((done.returncode, done.stdout), (1, f"[err] The bridges in reserve cannot be read: {reason}.\n"))
+        self.machine.shell("! test -e /run/started")
+        self.machine.shell("printf 'a\\n' >/run/reserve")
+        self.machine.run(FILTER, "127.0.0.1", "19051", "/x", "/run/reserve", "--", "/bin/touch", "/run/started")
+        self.machine.shell("rm /run/started")
 
 
 if __name__ == "__main__":

@@ -23,6 +23,7 @@ LESS = {
     "who shares circuits": words(more=["--separate", "1"]),
     "a bridge": words(more=["--bridge", "192.0.2.1:443"]),
     "a bridge with a program": words(more=BRIDGES),
+    "a bridge in reserve": words(more=["--reserve", "192.0.2.1:443"]),
 }
 
 
@@ -73,6 +74,8 @@ class Lessening(HelperTest):
             BRIDGES[:4] + ["--pt-lyrebird", "/usr/bin/obfs4proxy", "--bridge", "192.0.2.9:1"],
             [],
             BRIDGES[:1] + ["192.0.2.1:443 " + "0123456789" * 4] + BRIDGES[2:],
+            BRIDGES + ["--reserve", "192.0.2.9:443"],
+            ["--reserve" if word == "--bridge" else word for word in BRIDGES],
         ]
         for more in others:
             with self.subTest(more):

@@ -245,7 +245,11 @@ class Arguments(InAFolder):
         self.assertIn("The value of --bridge is too long.", self.parse("--bridge", longest + "a").stderr)
         hundred = ["--bridge", "192.0.2.1:443"] * 100
         self.assertEqual(self.parse(*hundred, print_after="((${#OPT_BRIDGES[@]} == 100))").returncode, 0)
-        self.assertIn("More than 100 bridges", self.parse(*hundred, "--bridge", "192.0.2.1:443").stderr)
+        for option in "--bridge", "--reserve":
+            self.assertIn("More than 100 bridges", self.parse(*hundred, option, "192.0.2.1:443").stderr)
+        reserves = ["--reserve", "192.0.2.1:443"] * 100
+        self.assertEqual(self.parse(*reserves, print_after="((${#OPT_RESERVES[@]} == 100))").returncode, 0)
+        self.assertIn("More than 100 bridges", self.parse(*reserves, "--bridge", "192.0.2.1:443").stderr)
 
     def test_transports_need_their_programs(self):
         for line, says in (
@@ -256,8 +260,9 @@ class Arguments(InAFolder):
             ("webtunnel 192.0.2.1:1", "lyrebird"),
             ("snowflake 192.0.2.1:1", "snowflake-client"),
         ):
-            done = self.parse("--bridge", line)
-            self.assertEqual((done.returncode, done.stderr), (1, f"ERROR: These bridges need {says}, which was not given.\n"))
+            for option in "--bridge", "--reserve":
+                done = self.parse(option, line)
+                self.assertEqual((done.returncode, done.stderr), (1, f"ERROR: These bridges need {says}, which was not given.\n"))
 
     def test_which_program_serves_which_transport_and_needs_names(self):
         programs = ["--pt-lyrebird", "/usr/bin/true", "--pt-snowflake", "/usr/bin/true"]
@@ -273,8 +278,11 @@ class Arguments(InAFolder):
             (["webtunnel 192.0.2.1:1"], web, "||webtunnel|1"),
             (["snowflake 192.0.2.1:1"], [], "|snowflake||1"),
         ):
-            done = self.parse(*programs, *more, *(word for line in lines for word in ("--bridge", line)), print_after=tell)
-            self.assertEqual(done.stdout, wanted + "\n", lines)
+            for option in "--bridge", "--reserve":
+                done = self.parse(*programs, *more, *(word for line in lines for word in (option, line)), print_after=tell)
+                self.assertEqual(done.stdout, wanted + "\n", lines)
+        done = self.parse(*programs, "--bridge", "obfs4 192.0.2.1:1", "--reserve", "snowflake 192.0.2.1:1", print_after=tell)
+        self.assertEqual(done.stdout, "obfs4|snowflake||1\n")
 
 
 class Environment(InAFolder):

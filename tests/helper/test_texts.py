@@ -32,6 +32,20 @@ DNSPort 127.0.0.1:293
     def test_plain(self):
         self.assertEqual(call(f"OPT_HASH={HASH}; print_torrc 0"), self.HEAD + "ClientOnly 1\nAvoidDiskWrites 1\nNoExec 1\n")
 
+    def test_bridges_in_reserve_are_not_in_it_and_their_programs_are(self):
+        self.assertEqual(
+            call(
+                f"OPT_HASH={HASH} OPT_LYREBIRD=/usr/bin/lyrebird; OPT_RESERVES=('192.0.2.1:1' 'obfs4 192.0.2.2:2 cert=a');"
+                "choose_transports; print_torrc 0"
+            ),
+            self.HEAD + "ClientOnly 1\nAvoidDiskWrites 1\nClientTransportPlugin obfs4 exec /usr/bin/lyrebird\n",
+        )
+        # Bridges without a program need none, in reserve as well.
+        self.assertEqual(
+            call(f"OPT_HASH={HASH}; OPT_RESERVES=('192.0.2.1:1'); choose_transports; print_torrc 0"),
+            self.HEAD + "ClientOnly 1\nAvoidDiskWrites 1\nNoExec 1\n",
+        )
+
     def test_behind_the_filter(self):
         head = self.HEAD.replace(
             "ControlPort 127.0.0.1:9051\n", "ControlPort 0\nControlSocket /var/lib/veldmark/run/tor/data/control\n"

@@ -550,7 +550,7 @@ class Session(MacTest):
         )
         bridge = "meek_lite 192.0.2.20:80 0123456789012345678901234567890123456789 url=https://b.example/x front=front.example"
         before = self.machine.read("/private/etc/hosts")
-        self.machine.connect(more=["--bridge", bridge, "--pt-lyrebird", "/usr/bin/obfs4proxy"])
+        self.machine.connect(more=["--reserve", bridge, "--pt-lyrebird", "/usr/bin/obfs4proxy"])
         self.assertEqual(
             self.machine.read("/private/etc/hosts"),
             before + "\n# >>> veldmark >>>\n192.0.2.81 b.example\n192.0.2.80 front.example\n192.0.2.83 front.example\n"

@@ -474,7 +474,7 @@ class OneInstanceAndBadInput(LabCase):
     def test_status_prints_every_published_field(self):
         state = self.product.status()
         for field in (
-            "strictMode allowLocalNetwork separateApps exitCountry customTorPath bridgeChoice customBridges bypassApps autoConnect "
+            "strictMode allowLocalNetwork separateApps exitCountry customTorPath bridgeChoice customBridges climb ladder climbOffer bypassApps autoConnect "
             "optimizeSpeed latencyMs optimizeStatus isOptimizing transports activeBridge terminalMode phase activeMode "
             "bootstrapProgress statusDetail exitIP torVerified leakStatus bytesRead bytesWritten isChecking canCancel "
             "errorMessage dnsStatus passwordlessInstalled startupError circuits circuitError transportDownload "

@@ -137,7 +137,7 @@ class Completion(InAHome):
                 result = self.ctl("set", setting, value)
                 self.assertEqual((setting, value, result.returncode), (setting, value, 0), result.stderr)
                 offered += 1
-        self.assertEqual(offered, 6 * 2 + 5)
+        self.assertEqual(offered, 6 * 2 + 5 + 3)
 
     def test_bash_knows_the_options_of_the_application(self):
         shown = run(PROGRAMS / "veldmark", "--help", env=self.environment).stdout

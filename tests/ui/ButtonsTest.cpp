@@ -38,7 +38,7 @@ QList<QQuickItem *> controls(QQuickWindow *window)
 QString choicesOf(const Choices &c)
 {
     return QStringLiteral(
-               "strict %1, local %2, country %3, tor %4, bridges %5, lines %6, apps %7, auto %8, speed %9, terminal %10, separate %11")
+               "strict %1, local %2, country %3, tor %4, bridges %5, lines %6, apps %7, auto %8, speed %9, terminal %10, separate %11, climb %12")
         .arg(c.strictMode)
         .arg(c.allowLocalNetwork)
         .arg(c.exitCountry, c.customTorPath, rawValue(c.bridgeChoice))
@@ -47,7 +47,8 @@ QString choicesOf(const Choices &c)
         .arg(c.autoConnect)
         .arg(c.optimizeSpeed)
         .arg(c.terminalMode)
-        .arg(c.separateApps);
+        .arg(c.separateApps)
+        .arg(rawValue(c.climb));
 }
 
 // The state that a button may change, one line per part.

@@ -164,6 +164,19 @@ std::vector<Scene> panel()
     s.bootstrapProblem = Text::tr("Tor reports: %1.").arg(QStringLiteral("Connection refused"));
     add("connecting-strict-waiting", s);
     s.bootstrapProblem.reset();
+    s.bootstrapProgress = 0.05;
+    s.statusDetail = QStringLiteral("Connecting to a relay");
+    s.climbOffer = Text::tr("Tor gets nowhere in this network. Veldmark can try bridges: %1.")
+                       .arg(QStringLiteral("obfs4, Snowflake"));
+    add("connecting-strict-offer", s);
+    s.climbOffer.reset();
+    s.activeBridge = BridgeChoice::obfs4;
+    s.ladder = {{BridgeChoice::off, Text::tr("Refused, or out of reach."), 5},
+                {BridgeChoice::custom, Text::tr("No answer."), 15},
+                {BridgeChoice::obfs4, Text::tr("Being tried…"), {}}};
+    add("connecting-strict-ladder", s);
+    s.ladder.clear();
+    s.activeBridge.reset();
     s.activeMode = RoutingMode::proxy;
     s.choices.strictMode = false;
     s.bootstrapProgress = 1;
@@ -283,6 +296,14 @@ std::vector<Scene> panel()
     add("stale-proxy-tor-died", s);
     s.activeMode = RoutingMode::strict;
     s.choices.strictMode = true;
+    s.ladder = {
+        {BridgeChoice::off, Text::tr("No answer."), 15},
+        {BridgeChoice::obfs4, Text::tr("There was an answer, but Tor got no further."), 34}};
+    s.errorMessage = Text::tr("Tor gets nowhere in this network. Tried: %1.")
+                         .arg(QStringLiteral("Direct, obfs4"));
+    s.statusDetail = Text::tr("Tor didn't finish connecting");
+    add("stale-strict-ladder", s);
+    s.ladder.clear();
     s.errorMessage.reset();
     s.statusDetail = Text::tr("Your network is still set up for Tor from an earlier session");
     add("stale-strict", s);

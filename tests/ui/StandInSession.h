@@ -60,6 +60,7 @@ public:
         Q_EMIT changed();
     }
     void connectToTor() override { asked << QStringLiteral("connect"); }
+    void takeOffer() override { asked << QStringLiteral("takeOffer"); }
     void disconnectFromTor() override { asked << QStringLiteral("disconnect"); }
     void runChecks() override { asked << QStringLiteral("runChecks"); }
     void checkDNS() override { asked << QStringLiteral("checkDNS"); }

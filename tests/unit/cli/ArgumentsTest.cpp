@@ -114,9 +114,10 @@ private Q_SLOTS:
     void theUsageNamesEveryCommand()
     {
         for (const char *verb :
-             {"run", "status", "connect", "disconnect", "restore", "check", "fix-dns", "circuits",
-              "close-circuit", "new-identity", "log", "bridges", "add-bridges",
-              "download-transports", "apps", "launch", "report", "get", "set"})
+             {"run",          "status", "connect", "climb",       "disconnect",
+              "restore",      "check",  "fix-dns", "circuits",    "close-circuit",
+              "new-identity", "log",    "bridges", "add-bridges", "download-transports",
+              "apps",         "launch", "report",  "get",         "set"})
             QVERIFY2(usageText().contains(QStringLiteral("\n  ") + QLatin1String(verb)), verb);
     }
 };

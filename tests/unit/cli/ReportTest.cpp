@@ -174,6 +174,23 @@ private Q_SLOTS:
                      .contains(QStringLiteral("Cause")));
     }
 
+    void saysWhatWasTriedAndWhatIsOffered()
+    {
+        const QString report = Report::status(object(
+            R"({"phase":"connecting","climbOffer":"Bridges can be tried.","ladder":[
+                {"rung":"direct","result":"No answer.","seconds":15},
+                {"rung":"snowflake","result":"Being tried…","seconds":null}]})"));
+        QVERIFY2(
+            report.contains(QStringLiteral(
+                "\n  Tried       Direct: No answer. (15 s)\n  Tried       Snowflake: Being tried…\n"
+                "  Offer       Bridges can be tried. Try them with: veldmarkctl climb")),
+            qPrintable(report));
+        const QString without = Report::status(
+            object(R"({"phase":"connecting","climbOffer":null,"ladder":[]})"));
+        QVERIFY(!without.contains(QStringLiteral("Tried"))
+                && !without.contains(QStringLiteral("Offer")));
+    }
+
     void drawsACircuitAsAPath()
     {
         const QString report = Report::circuits(object(

@@ -72,6 +72,48 @@ private Q_SLOTS:
         QVERIFY2(said.contains(u"Nothing Gets Through"_s), qPrintable(said));
     }
 
+    void eachStepToBridgesIsSaidOnce()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        c.customBridges.set(u"192.0.2.1:443"_s);
+        bench.tor.reply("SETCONF UseBridges=1 Bridge=\"192.0.2.1:443\"", "250 OK\r\n");
+        bench.setBootstrap("PROGRESS=5 TAG=conn REASON=NOROUTE SUMMARY=\"Connecting\"");
+        const SessionLines lines(c);
+        const auto pass = [&bench](int seconds) {
+            for (int second = 0; second < seconds; ++second) {
+                const int before = bench.commandCount(Workbench::bootstrapCommand);
+                bench.clock.advance(std::chrono::seconds(1));
+                static_cast<void>(until([&] {
+                    return bench.commandCount(Workbench::bootstrapCommand) > before
+                        && bench.clock.sleepers() == 2;
+                }));
+            }
+            settle();
+        };
+        QString offered;
+        QString climbed;
+        const auto connecting = c.connect();
+        QVERIFY(until([&] { return bench.clock.sleepers() == 2; }));
+        {
+            const Output output;
+            pass(8);
+            offered = output.text();
+        }
+        {
+            const Output output;
+            QVERIFY(c.takeOffer());
+            pass(4);
+            climbed = output.text();
+        }
+        QCOMPARE(
+            offered.count(
+                u"Veldmark can try bridges: Your bridges. Try them with: veldmarkctl climb\n"_s),
+            1);
+        QCOMPARE(climbed.count(u"Direct: Refused, or out of reach. (9 s)\n"_s), 1);
+        QCOMPARE(climbed.count(u"Your bridges: Being tried…\n"_s), 1);
+    }
+
     // And again in the next session of the same program.
     void eachRestoreIsSaid()
     {

@@ -1,8 +1,13 @@
 #include "controlfilter/CommandFilter.h"
 
+#include "controlfilter/ReserveFile.h"
 #include "support/TestProgram.h"
 
+#include <QTemporaryDir>
 #include <QTest>
+
+#include <cerrno>
+#include <fstream>
 
 using namespace veldmark;
 using namespace std::string_literals;
@@ -15,10 +20,16 @@ const std::string fingerprint = "0123456789ABCDEF0123456789abcdef01234567";
 const std::string refused(CommandFilter::refused);
 const std::string ended = refused + std::string(CommandFilter::quit);
 
+const std::string obfs4 = "obfs4 192.0.2.1:443 " + fingerprint + " cert=a+b/c iat-mode=0";
+const std::string plain = "192.0.2.2:443";
+const CommandFilter::Reserve reserve = {obfs4, plain};
+const std::string climb = "SETCONF UseBridges=1 Bridge=\"" + obfs4 + '"';
+
 // What Tor gets when `bytes` come in pieces that end at each of `ends` and at the end.
-std::string sent(const std::string &bytes, const std::vector<std::size_t> &ends)
+std::string sent(const std::string &bytes, const std::vector<std::size_t> &ends,
+                 const CommandFilter::Reserve &among = {})
 {
-    CommandFilter filter;
+    CommandFilter filter(among);
     std::string toTor;
     std::size_t start = 0;
     for (const std::size_t end : ends) {
@@ -84,7 +95,8 @@ private Q_SLOTS:
               "Log=\"debug file /x\"", "NoExec=0", "DisableNetwork=2", "DisableNetwork",
               "DisableNetwork=\"0\"", "disablenetwork=0", "DisableNetwork=0 SocksPort=1",
               "DisableNetwork=00", " DisableNetwork=0",
-              "ClientTransportPlugin=\"obfs4 exec /bin/sh\""})
+              "ClientTransportPlugin=\"obfs4 exec /bin/sh\"", "UseBridges=0", "UseBridges=1",
+              "UseBridges=1 Bridge=\"192.0.2.2:443\""})
             row("SETCONF "s + option);
         for (const char *key :
              {"config-text", "config-file", "info/names", "address", "onions/current",
@@ -159,6 +171,83 @@ private Q_SLOTS:
         QCOMPARE(sent(line.toStdString() + "\r\nQUIT\r\n", {}), refused + "QUIT\r\n");
     }
 
+    void bridgesInReservePass()
+    {
+        const std::string both = climb + " Bridge=\"" + plain + '"';
+        for (const std::string &line :
+             {climb, "SETCONF UseBridges=1 Bridge=\"" + plain + '"', both,
+              "SETCONF UseBridges=1 Bridge=\"" + plain + "\" Bridge=\"" + obfs4 + '"'}) {
+            QVERIFY2(CommandFilter::judge(line, reserve) == Verdict::passes, line.c_str());
+            QVERIFY2(CommandFilter::judge(line) == Verdict::refused, line.c_str());
+            for (const char *more : {" ", "\"", " Bridge=", " Bridge=\"\"", " SocksPort=1"})
+                QVERIFY2(CommandFilter::judge(line + more, reserve) == Verdict::refused, more);
+            for (std::size_t at = 0; at < line.size(); ++at) {
+                std::string less = line;
+                less.erase(at, 1);
+                QVERIFY2(CommandFilter::judge(less, reserve) == Verdict::refused, less.c_str());
+            }
+        }
+        QCOMPARE(sent(both + "\r\nQUIT\r\n", {}, reserve), both + "\r\nQUIT\r\n");
+    }
+
+    void nothingElseOfBridgesPasses()
+    {
+        for (const char *options :
+             {"UseBridges=0", "UseBridges=1", "UseBridges=1 Bridge=192.0.2.2:443",
+              "UseBridges=1 Bridge=\"192.0.2.3:443\"", "UseBridges=1 Bridge=\"\"",
+              "UseBridges=1 Bridge=\"192.0.2.2:443 \"", "UseBridges=1 Bridge=\" 192.0.2.2:443\"",
+              "UseBridges=1 Bridge=\"192.0.2.2:443", "UseBridges=1 Bridge=\"192.0.2.2:443\\\"",
+              "Bridge=\"192.0.2.2:443\" UseBridges=1", "Bridge=\"192.0.2.2:443\"",
+              "UseBridges=1 Bridge=\"192.0.2.2:443\"  Bridge=\"192.0.2.2:443\"",
+              "UseBridges=1 Bridge=\"192.0.2.2:443\"Bridge=\"192.0.2.2:443\"",
+              "UseBridges=1 Bridge=\"192.0.2.2:443\" Bridge=\"192.0.2.3:443\"",
+              "UseBridges=1 Bridge=\"192.0.2.2:443\" HTTPSProxy=192.0.2.8:8",
+              "UseBridges=1 Bridge=\"192.0.2.2:443\" ClientTransportPlugin=\"obfs4 exec /bin/sh\"",
+              "usebridges=1 bridge=\"192.0.2.2:443\""})
+            QVERIFY2(CommandFilter::judge("SETCONF "s + options, reserve) == Verdict::refused,
+                     options);
+    }
+
+    void theLongestCommandWithBridges()
+    {
+        const std::string start = "SETCONF UseBridges=1 Bridge=\"";
+        const std::string bridge = "192.0.2.1:1 "
+            + std::string(CommandFilter::largestClimb - start.size() - 13, 'a');
+        const std::string longest = start + bridge + '"';
+        QCOMPARE(longest.size(), CommandFilter::largestClimb);
+        QCOMPARE(sent(longest + "\r\n", {}, {bridge}), longest + "\r\n");
+        QCOMPARE(sent(longest + "\r\n", {5, 600, 9000}, {bridge}), longest + "\r\n");
+        QCOMPARE(sent(longest + "a\r\n", {}, {bridge}), ended);
+        // Without bridges in reserve, and for every other command, lines are as short as ever.
+        QCOMPARE(sent(longest + "\r\n", {}), ended);
+        QCOMPARE(sent("GETINFO " + longest + "\r\n", {}, {bridge}), ended);
+    }
+
+    void theFileOfBridgesIsReadWhole()
+    {
+        const QTemporaryDir folder;
+        const std::string path = folder.filePath(QStringLiteral("reserve")).toStdString();
+        const auto read = [&path](const std::string &text) {
+            std::ofstream(path, std::ios::trunc) << text;
+            return readReserve(path.c_str());
+        };
+        QVERIFY(read(obfs4 + '\n' + plain + '\n') == reserve);
+        QVERIFY(read(obfs4 + '\n' + plain) == reserve);
+        QVERIFY(read("") == CommandFilter::Reserve());
+        std::string many;
+        for (int line = 0; line < 100; ++line)
+            many += plain + '\n';
+        QVERIFY(read(many));
+        for (const std::string &bad :
+             {many + plain + '\n', "\n"s, plain + "\n\n", plain + "\"\n", plain + "\\\n",
+              plain + "\r\n", plain + "\t\n", plain + "\0\n"s, plain + "\xc3\xa4\n",
+              plain + std::string(4096, 'a')})
+            QVERIFY2(!read(bad), bad.substr(0, 80).c_str());
+        QCOMPARE(errno, EINVAL);
+        QVERIFY(!readReserve((path + "2").c_str()));
+        QCOMPARE(errno, ENOENT);
+    }
+
     void whatTorMayDivideOtherwiseEndsTheConnection_data()
     {
         QTest::addColumn<QByteArray>("line");
@@ -211,6 +300,8 @@ private Q_SLOTS:
         QTest::newRow("an end within")
             << QByteArray("SIGNAL NEWNYM\r\n+LOADCONF\r\nSocksPort 1\r\n.\r\nSIGNAL NEWNYM\r\n");
         QTest::newRow("carriage returns") << QByteArray("QUIT\r\r\nQUIT\r\n");
+        QTest::newRow("bridges") << QByteArray::fromStdString(climb + "\r\n" + climb + "x\r\n"
+                                                              + climb + '\n' + climb + "\r\r\n");
         QTest::newRow("too long") << "QUIT\r\n" + QByteArray(CommandFilter::largestLine + 1, 'a')
                 + "\r\nQUIT\r\n";
     }
@@ -218,13 +309,13 @@ private Q_SLOTS:
     {
         QFETCH(const QByteArray, bytes);
         const std::string all = bytes.toStdString();
-        const std::string expected = sent(all, {});
+        const std::string expected = sent(all, {}, reserve);
         std::vector<std::size_t> everyByte;
         for (std::size_t first = 1; first < all.size(); ++first) {
-            QCOMPARE(sent(all, {first}), expected);
+            QCOMPARE(sent(all, {first}, reserve), expected);
             everyByte.push_back(first);
         }
-        QCOMPARE(sent(all, everyByte), expected);
+        QCOMPARE(sent(all, everyByte, reserve), expected);
     }
 };
 

@@ -30,7 +30,7 @@ private Q_SLOTS:
     {
         Workbench bench;
         const QStringList fields
-            = u"strictMode allowLocalNetwork separateApps exitCountry customTorPath bridgeChoice customBridges "
+            = u"strictMode allowLocalNetwork separateApps exitCountry customTorPath bridgeChoice customBridges climb ladder climbOffer "
               "bypassApps autoConnect optimizeSpeed latencyMs optimizeStatus isOptimizing transports activeBridge "
               "terminalMode phase phaseChanges activeMode bootstrapProgress statusDetail bootstrapProblem killSwitch killSwitchSince exitIP torVerified leakStatus "
               "bytesRead bytesWritten stall denyingFirewalls isChecking otherSession canCancel errorMessage dnsStatus passwordlessInstalled startupError circuits "
@@ -234,6 +234,8 @@ private Q_SLOTS:
         QTest::newRow("exit with line end") << u"exitCountry"_s << u"de\n"_s << refused;
         QTest::newRow("bridge") << u"bridgeChoice"_s << u"meek"_s << QJsonValue(u"meek"_s);
         QTest::newRow("no bridge") << u"bridgeChoice"_s << u"Meek"_s << refused;
+        QTest::newRow("climb") << u"climb"_s << u"never"_s << QJsonValue(u"never"_s);
+        QTest::newRow("no climb") << u"climb"_s << u"no"_s << refused;
         QTest::newRow("path") << u"customTorPath"_s << u"/opt/tor"_s << QJsonValue(u"/opt/tor"_s);
         QTest::newRow("path with blanks around")
             << u"customTorPath"_s << u" /opt/tor "_s << QJsonValue(u" /opt/tor "_s);
@@ -295,7 +297,7 @@ private Q_SLOTS:
                                                  : value.toString();
             QVERIFY2(setSetting(bench.controller(), name, text), qPrintable(name));
         }
-        QCOMPARE(names.size(), 11);
+        QCOMPARE(names.size(), 12);
     }
 
     void saysWhenTheSettingWasNotSaved()
@@ -336,6 +338,7 @@ private Q_SLOTS:
         QTest::newRow("country") << u"exitCountry"_s << u"de"_s << true;
         QTest::newRow("tor") << u"customTorPath"_s << u"/opt/tor"_s << true;
         QTest::newRow("bridges") << u"bridgeChoice"_s << u"meek"_s << true;
+        QTest::newRow("ladder") << u"climb"_s << u"always"_s << true;
         QTest::newRow("own bridges") << u"customBridges"_s << u"192.0.2.1:443"_s << true;
         QTest::newRow("speed") << u"optimizeSpeed"_s << u"true"_s << true;
         QTest::newRow("applications") << u"bypassApps"_s << u"[\"/a.desktop\"]"_s << false;

@@ -109,6 +109,22 @@ std::vector<Operation> operations()
              return b.controller().connect();
          },
          8, isConnected},
+        {"connect that climbs", false,
+         [](Workbench &b) {
+             b.controller().climb.set(Climb::always);
+             b.controller().customBridges.set(u"192.0.2.1:443"_s);
+             for (int poll = 0; poll < 7; ++poll)
+                 b.tor.replyOnce(Workbench::bootstrapCommand,
+                                 "250-status/bootstrap-phase=WARN BOOTSTRAP PROGRESS=5 "
+                                 "REASON=CONNECTREFUSED\r\n250 OK\r\n");
+             b.tor.reply("SETCONF UseBridges=1 Bridge=\"192.0.2.1:443\"", "250 OK\r\n");
+             return b.controller().connect();
+         },
+         14,
+         [](Workbench &b) {
+             return b.controller().phase() == ConnectionPhase::connected
+                 && b.controller().activeBridge() == BridgeChoice::custom;
+         }},
         {"connect that the helper refuses", false,
          [](Workbench &b) {
              b.failHelper(u"connect"_s, u"No."_s);

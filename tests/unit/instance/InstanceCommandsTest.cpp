@@ -122,6 +122,29 @@ private Q_SLOTS:
             "Click Restore Network to undo. Tor reports: Connection refused."_s);
     }
 
+    void acceptsTheOfferOfBridges()
+    {
+        Instance instance;
+        TorController &c = instance.bench.controller();
+        c.customBridges.set(u"192.0.2.1:443"_s);
+        instance.bench.tor.reply("SETCONF UseBridges=1 Bridge=\"192.0.2.1:443\"", "250 OK\r\n");
+        instance.bench.setBootstrap("PROGRESS=5 TAG=conn REASON=NOROUTE");
+        Conversation early(instance.bench, "climb");
+        QCOMPARE(early.error(), u"No bridges are offered now."_s);
+        const auto connecting = c.connect();
+        QVERIFY(until([&] { return instance.bench.clock.sleepers() == 2; }));
+        for (int second = 1; second <= 5; ++second) {
+            instance.bench.clock.advance(1s);
+            QVERIFY(instance.bench.hears(Workbench::bootstrapCommand, second + 1));
+            QVERIFY(until([&] { return instance.bench.clock.sleepers() == 2; }));
+        }
+        QVERIFY(c.climbOffer());
+        Conversation accepting(instance.bench, "climb");
+        QVERIFY2(accepting.succeeds(), qPrintable(accepting.error()));
+        instance.bench.clock.advance(1s);
+        QVERIFY(until([&] { return c.activeBridge() == BridgeChoice::custom; }));
+    }
+
     void saysWhyTheNetworkWasNotRestored()
     {
         Instance instance;

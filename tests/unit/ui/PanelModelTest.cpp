@@ -69,6 +69,31 @@ private Q_SLOTS:
         QCOMPARE(panel.error(), *s.errorMessage);
     }
 
+    void showsWhatWasTriedAndWhatIsOffered()
+    {
+        StandInSession session(profile);
+        PanelModel panel(session);
+        Snapshot s = idle();
+        s.ladder = {{BridgeChoice::off, QStringLiteral("No answer."), 15},
+                    {BridgeChoice::obfs4, QStringLiteral("Being tried…"), {}}};
+        s.climbOffer = Text(QStringLiteral("Veldmark can try bridges."));
+        for (const auto &[phase, isShown] : {std::pair(ConnectionPhase::connecting, true),
+                                             {ConnectionPhase::stale, true},
+                                             {ConnectionPhase::connected, false},
+                                             {ConnectionPhase::disconnected, false}}) {
+            s.phase = phase;
+            session.show(s);
+            QCOMPARE(panel.steps(),
+                     isShown ? QStringList({QStringLiteral("Direct: No answer. (15 s)"),
+                                            QStringLiteral("obfs4: Being tried…")})
+                             : QStringList());
+            QCOMPARE(panel.offer(),
+                     phase == ConnectionPhase::connecting ? s.climbOffer->english() : QString());
+        }
+        panel.takeOffer();
+        QCOMPARE(session.asked, QStringList(QStringLiteral("takeOffer")));
+    }
+
     void saysThatNothingMovesUntilSomethingDoes()
     {
         StandInSession session(profile);

@@ -126,6 +126,13 @@ private Q_SLOTS:
         QVERIFY(!settings.canOpenAtLogin()); // unknown in the snapshot
         settings.setAutoConnect(true);
         settings.setTerminalMode(true);
+        QCOMPARE(settings.climbIndex(), 0);
+        for (int index = 2; index >= 0; --index) {
+            settings.setClimbIndex(index);
+            QCOMPARE(settings.climbIndex(), index);
+            QVERIFY(session.now().choices.climb == allClimbs.at(static_cast<std::size_t>(index)));
+        }
+        QCOMPARE(settings.climbNames().size(), 3);
         QVERIFY(settings.separateApps());
         settings.setSeparateApps(false);
         QVERIFY(!settings.separateApps() && !session.now().choices.separateApps);

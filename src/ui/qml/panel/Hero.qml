@@ -83,6 +83,40 @@ Rectangle {
         }
         ColumnLayout {
             Layout.fillWidth: true
+            Layout.topMargin: 4
+            visible: hero.model.steps.length > 0
+            spacing: 3
+            Repeater {
+                model: hero.model.steps
+                WrappedText {
+                    required property string modelData
+                    Layout.fillWidth: true
+                    horizontalAlignment: Text.AlignHCenter
+                    text: modelData
+                    font.pixelSize: Theme.smallSize
+                    color: Theme.text
+                }
+            }
+        }
+        ColumnLayout {
+            Layout.fillWidth: true
+            Layout.topMargin: 4
+            visible: hero.model.offer !== ""
+            WrappedText {
+                Layout.fillWidth: true
+                horizontalAlignment: Text.AlignHCenter
+                text: hero.model.offer
+            }
+            PushButton {
+                Layout.alignment: Qt.AlignHCenter
+                text: qsTr("Try Bridges")
+                symbol: "point.3.connected.trianglepath.dotted"
+                primary: true
+                onClicked: hero.model.takeOffer()
+            }
+        }
+        ColumnLayout {
+            Layout.fillWidth: true
             visible: hero.model.waitingFor !== ""
             WrappedText {
                 Layout.fillWidth: true

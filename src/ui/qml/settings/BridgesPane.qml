@@ -21,6 +21,20 @@ Pane {
     Card {
         Layout.fillWidth: true
         contentSpacing: 14
+        ChoiceRow {
+            symbol: "arrow.triangle.branch"
+            title: qsTr("When Tor is blocked")
+            subtitle: pane.model.torLocked ? qsTr("Disconnect to change")
+                    : qsTr("Bridges that are there can be tried one after the other, without another password")
+            enabled: !pane.model.torLocked
+            names: pane.model.climbNames
+            current: pane.model.climbIndex
+            onChosen: index => pane.model.climbIndex = index
+        }
+    }
+    Card {
+        Layout.fillWidth: true
+        contentSpacing: 14
         SettingRow {
             symbol: "point.3.connected.trianglepath.dotted"
             title: qsTr("Built-in bridges")

@@ -1,0 +1,103 @@
+#pragma once
+
+#include "base/Text.h"
+#include "bridges/BridgeChoice.h"
+#include "bridges/PluggableTransports.h"
+
+#include <QStringList>
+
+#include <array>
+#include <chrono>
+#include <optional>
+#include <vector>
+
+// The ladder: what is tried one after the other where Tor's own way is blocked. Pure; any thread.
+namespace veldmark {
+
+// Whether bridges are tried when Tor gets nowhere.
+enum class Climb {
+    ask,    // they are offered
+    always, // without asking
+    never,
+};
+
+inline constexpr std::array allClimbs = {Climb::ask, Climb::always, Climb::never};
+
+// The value in the settings; never translated.
+QString rawValue(Climb climb);
+std::optional<Climb> climbFromRawValue(QStringView raw);
+
+// Bridges that are tried together. `off` is Tor without bridges.
+struct Rung {
+    BridgeChoice choice = BridgeChoice::off;
+    QStringList lines;
+    friend bool operator==(const Rung &, const Rung &) = default;
+};
+
+// What came of a rung.
+struct LadderStep {
+    BridgeChoice rung = BridgeChoice::off;
+    Text result;                // a sentence
+    std::optional<int> seconds; // that it took; absent while it is being tried
+    friend bool operator==(const LadderStep &, const LadderStep &) = default;
+};
+
+namespace Ladder {
+
+inline constexpr qsizetype mostTogether = 10; // bridges of a rung
+
+// The name for people: "Direct", "Your bridges", "obfs4", "Snowflake", "meek".
+Text name(BridgeChoice rung);
+// The name in the published state: the setting's value, or "direct".
+QString rawName(BridgeChoice rung);
+
+// The step in one line, for people.
+Text line(const LadderStep &step);
+
+// What can be tried after `first`, whose bridges are `used`: the user's own bridges, obfs4,
+// snowflake and meek, as far as lines and programs for them are there. Never without bridges, since
+// who has chosen bridges does not want to be seen without. No line is in two rungs.
+std::vector<Rung> rungs(BridgeChoice first, const QStringList &used, const QString &customBridges,
+                        const PluggableTransports &found);
+
+// The helper's options that keep these rungs in reserve: --reserve with each line, and the
+// programs.
+QStringList words(const std::vector<Rung> &rungs, const PluggableTransports &found);
+
+// The command that has Tor use these bridges, and no others.
+QString command(const QStringList &lines);
+
+// How long bridges may take until one of them answers; for no lines, relays.
+std::chrono::seconds patience(const QStringList &lines);
+
+} // namespace Ladder
+
+// Judges one rung by Tor's reports while it is being tried.
+class RungWatch {
+public:
+    enum class Sign {
+        trying,
+        refused, // what was asked refuses, or cannot be reached
+        silent,  // nothing answered in time
+        stalled, // something has answered, but Tor gets no further
+    };
+    // From this progress on a relay or bridge has answered as one (Tor's "handshake_done").
+    static constexpr int answered = 15; // per cent
+    static constexpr std::chrono::seconds refusedPatience{5};
+    static constexpr std::chrono::seconds stalledPatience{30};
+
+    // `before`: Tor's progress when the rung begins, which Tor never takes back.
+    RungWatch(std::chrono::seconds patience, int before) : m_patience(patience), m_best(before) { }
+
+    // `elapsed`: since the rung began; never falls from one call to the next.
+    Sign look(int progress, bool isRefused, std::chrono::nanoseconds elapsed);
+    // In this rung.
+    bool hasAnswered() const { return m_moved.has_value(); }
+
+private:
+    std::chrono::seconds m_patience;
+    int m_best;
+    std::optional<std::chrono::nanoseconds> m_moved; // the last progress after an answer
+};
+
+} // namespace veldmark
