@@ -263,10 +263,9 @@ class Session(HelperTest):
             (f"chmod 0750 {path}", f"chmod 0755 {path}"),
         )
 
-    def assert_refused(self, helper, spoil, restore):
+    def assert_refused(self, helper, spoil, restore, before):
         self.machine.shell(spoil)
         try:
-            before = self.machine.snapshot()
             self.assertOneLine(self.connect(helper=helper, check=False), UNUSABLE)
             self.assertEqual(self.machine.snapshot(), before)
         finally:
@@ -281,7 +280,7 @@ class Session(HelperTest):
 
     def test_an_installed_filter_that_cannot_be_used_ends_the_connect(self):
         for spoil, restore in self.spoilt(FILTER):
-            self.assert_refused(INSTALLED, spoil, restore)
+            self.assert_refused(INSTALLED, spoil, restore, self.before)
 
     def test_the_packages_filter_is_not_beside_its_helper(self):
         """Where the package lacks it, or it cannot be used, there is no session without a filter."""
@@ -291,12 +290,13 @@ class Session(HelperTest):
             f'install -D -m 0755 "$1" {PACKAGED_HELPER}; install -D -m 0755 {FILTER} {PACKAGED_FILTER}; mv {FILTER} {FILTER}.away',
             self.machine.helper,
         )
+        before = self.machine.snapshot()
         try:
             missing = (f"mv {PACKAGED_FILTER} {PACKAGED_FILTER}.away", f"mv {PACKAGED_FILTER}.away {PACKAGED_FILTER}")
             for helper, ways in (PACKAGED_HELPER, (missing, *self.spoilt(PACKAGED_FILTER))), (INSTALLED, (missing,)):
                 self.assert_filtered(helper, PACKAGED_FILTER)
                 for spoil, restore in ways:
-                    self.assert_refused(helper, spoil, restore)
+                    self.assert_refused(helper, spoil, restore, before)
             # A good one beside the helper serves as well.
             self.machine.shell(f"mv {FILTER}.away {FILTER}; {self.spoilt(PACKAGED_FILTER)[0][0]}")
             self.assert_filtered(INSTALLED, FILTER)
