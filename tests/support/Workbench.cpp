@@ -54,17 +54,27 @@ QStringList unquoted(QString line)
     return words << word;
 }
 
-// Behind the filter before Tor's control port, Tor would get none of those that it refuses.
-void failForFilteredCommands(const QStringList &commands)
+// Behind the filter before Tor's control port, Tor would get none of those that it refuses. The
+// filter knows the bridges in reserve of each of the helper's runs.
+void failForFilteredCommands(const QStringList &commands,
+                             const std::vector<QStringList> &helperRuns)
 {
 #ifndef Q_OS_MACOS
+    CommandFilter::Reserve reserve;
+    for (const QStringList &words : helperRuns) {
+        for (qsizetype i = 0; i + 1 < words.size(); ++i) {
+            if (words[i] == QLatin1String("--reserve"))
+                reserve.push_back(words[i + 1].toStdString());
+        }
+    }
     for (const QString &command : commands) {
-        if (CommandFilter::judge(command.toStdString()) != CommandFilter::Verdict::passes)
+        if (CommandFilter::judge(command.toStdString(), reserve) != CommandFilter::Verdict::passes)
             QTest::qFail(qPrintable(QStringLiteral("The filter refuses: ") + command), __FILE__,
                          __LINE__);
     }
 #else
     Q_UNUSED(commands)
+    Q_UNUSED(helperRuns)
 #endif
 }
 
@@ -144,7 +154,7 @@ Workbench::~Workbench()
     clock.advance(24h);
     socketClock.advance(24h);
     settle();
-    failForFilteredCommands(tor.commands());
+    failForFilteredCommands(tor.commands(), helperRuns());
 }
 
 void Workbench::restart()
