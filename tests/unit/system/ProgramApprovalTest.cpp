@@ -10,6 +10,14 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#ifdef __linux__
+#include <sched.h>
+#include <sys/mount.h>
+#endif
+
 using namespace Qt::StringLiterals;
 using namespace veldmark;
 
@@ -66,6 +74,38 @@ private Q_SLOTS:
         const auto missing = ProgramApproval::missing(profile, {u"connect"_s, u"--tor"_s, path});
         QCOMPARE(missing.size(), std::size_t(1));
         QCOMPARE(missing.front().path, path);
+    }
+
+    // In a child process with an /opt of its own.
+    void asksForNoProgramThatRootAloneCanChangeInOpt()
+    {
+#ifndef __linux__
+        QSKIP("needs an /opt of its own");
+#else
+        if (::geteuid() != 0)
+            QSKIP("needs root, for an /opt of its own");
+        const pid_t child = ::fork();
+        if (child == 0) {
+            ::umask(022);
+            if (::unshare(CLONE_NEWNS) != 0
+                || ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0
+                || ::mount("private", "/opt", "tmpfs", 0, "mode=755") != 0)
+                ::_exit(3);
+            const PlatformProfile profile = PlatformProfile::linux(Places{});
+            const QString path = u"/opt/tor/bin/tor"_s;
+            write(path, "abc");
+            const auto isAskedWith = [&](mode_t mode) {
+                ::chmod(QFile::encodeName(path).constData(), mode);
+                return !ProgramApproval::missing(profile, {u"connect"_s, u"--tor"_s, path}).empty();
+            };
+            if (!isAskedWith(0777))
+                ::_exit(2);
+            ::_exit(isAskedWith(0755) ? 1 : 0);
+        }
+        int status = -1;
+        QCOMPARE(::waitpid(child, &status, 0), child);
+        QCOMPARE(status, 0);
+#endif
     }
 
     void namesNoProgramThatTheWordsDoNotName()
