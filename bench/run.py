@@ -14,15 +14,18 @@
     service     memory, processor time and wake-ups of veldmarkctl run, connected, against nyx
 
 A group that needs Tor has a private Tor network, which ends with it. Everything runs on this machine in its own network namespaces.
-Exit status 77 where namespaces are not permitted. --quick measures everything once, to check that it works.
+Exit status 77 where namespaces are not permitted. --quick measures everything once, to check that it works, and all groups in one
+Tor network: the figures of such a round mean nothing.
 """
 
 import argparse
+import contextlib
 import importlib
 import json
 import os
 import platform
 import sys
+from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
 sys.dont_write_bytecode = True
@@ -49,13 +52,51 @@ GROUPS = (
 QUICK_IDLE_SECONDS = 2.0
 
 
-def run_group(name: str, figures: Figures, rounds: Rounds) -> None:
-    group = importlib.import_module(f"groups.{name}")
+# What a group may leave in the home of the host's root: settings of the program, and start-up files of shells.
+FORGET = "rm -rf /root/.config /root/.local /root/.cache /root/.bashrc /root/.zshrc"
+
+
+def run_alone(group, figures: Figures, rounds: Rounds) -> None:
     if hasattr(group, "run"):
         group.run(figures, rounds)
+
+
+def run_in(lab: Lab, group, figures: Figures, rounds: Rounds) -> None:
     if hasattr(group, "run_in_lab"):
-        with Lab() as lab:
-            group.run_in_lab(figures, rounds, lab, Product(lab, PROGRAMS))
+        group.run_in_lab(figures, rounds, lab, Product(lab, PROGRAMS))
+
+
+def run_apart(names: list[str], figures: Figures, rounds: Rounds) -> None:
+    for name in names:
+        print(name, flush=True)
+        group = importlib.import_module(f"groups.{name}")
+        with Moving(name):
+            run_alone(group, figures, rounds)
+            if hasattr(group, "run_in_lab"):
+                with Lab() as lab:
+                    run_in(lab, group, figures, rounds)
+
+
+def run_together(names: list[str], figures: Figures, rounds: Rounds) -> None:
+    """What needs no lab runs while the one lab of all groups starts."""
+    groups = {name: importlib.import_module(f"groups.{name}") for name in names}
+
+    def alone() -> None:
+        for name, group in groups.items():
+            with Moving(name):
+                run_alone(group, figures, rounds)
+
+    with ThreadPoolExecutor(1) as pool, contextlib.ExitStack() as stack:
+        others = pool.submit(alone)
+        if any(hasattr(group, "run_in_lab") for group in groups.values()):
+            lab = stack.enter_context(Lab())
+        others.result()
+        for name, group in groups.items():
+            if hasattr(group, "run_in_lab"):
+                print(name, flush=True)
+                with Moving(name):
+                    run_in(lab, group, figures, rounds)
+                lab.host.run(["sh", "-c", FORGET], check=True)
 
 
 def main() -> int:
@@ -74,10 +115,7 @@ def main() -> int:
         f"{platform.machine()}, {os.cpu_count()} processors, {platform.system()} {platform.release()}, load {os.getloadavg()[0]:.1f}"
     )
     try:
-        for name in groups:
-            print(name, flush=True)
-            with Moving(name):
-                run_group(name, figures, rounds)
+        (run_together if arguments.quick else run_apart)(groups, figures, rounds)
     except LabUnavailable as error:
         print(error, file=sys.stderr)
         return 77
