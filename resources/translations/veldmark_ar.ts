@@ -1181,15 +1181,15 @@
     </message>
     <message>
         <source>obfs4 (built-in)</source>
-        <translation>obfs4 (مدمجة)</translation>
+        <translation>⁨obfs4⁩ (مدمجة)</translation>
     </message>
     <message>
         <source>Snowflake (built-in)</source>
-        <translation>Snowflake (مدمجة)</translation>
+        <translation>⁨Snowflake⁩ (مدمجة)</translation>
     </message>
     <message>
         <source>meek (built-in)</source>
-        <translation>meek (مدمجة)</translation>
+        <translation>⁨meek⁩ (مدمجة)</translation>
     </message>
     <message>
         <source>Custom</source>
@@ -4039,6 +4039,10 @@ a web page. FILE &quot;-&quot; is standard input</source>
     <message>
         <source>try the bridges that are offered when Tor gets nowhere, see &quot;status&quot;</source>
         <translation>تجربة الجسور المعروضة عندما لا يتقدّم Tor، انظر «status»</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>‏⁨%1⁩: ⁨%2⁩</translation>
     </message>
 </context>
 <context>

@@ -4017,6 +4017,10 @@ einer ganzen E-Mail oder einer Webseite. FILE „-“ ist die Standardeingabe</t
         <source>try the bridges that are offered when Tor gets nowhere, see &quot;status&quot;</source>
         <translation>die Brücken versuchen, die angeboten werden, wenn Tor nicht durchkommt, siehe „status“</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -4017,6 +4017,10 @@ entero o una página web. FILE «-» es la entrada estándar</translation>
         <source>try the bridges that are offered when Tor gets nowhere, see &quot;status&quot;</source>
         <translation>probar los puentes que se ofrecen cuando Tor no avanza, véase «status»</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

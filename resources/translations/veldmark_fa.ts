@@ -3919,7 +3919,7 @@ a web page. FILE &quot;-&quot; is standard input</source>
     </message>
     <message>
         <source>add-bridges needs a file; &quot;-&quot; is standard input.</source>
-        <translation>add-bridges یک پرونده می‌خواهد؛ «-» ورودی استاندارد است.</translation>
+        <translation>دستور add-bridges یک پرونده می‌خواهد؛ «-» ورودی استاندارد است.</translation>
     </message>
     <message>
         <source>The filter before Tor&apos;s control port cannot be used.</source>
@@ -3981,15 +3981,15 @@ a web page. FILE &quot;-&quot; is standard input</source>
     </message>
     <message>
         <source>Tor has connected.</source>
-        <translation>Tor وصل شد.</translation>
+        <translation>اتصال Tor برقرار شد.</translation>
     </message>
     <message>
         <source>Tor gets nowhere in this network. Tried: %1.</source>
-        <translation>Tor در این شبکه به جایی نمی‌رسد. امتحان‌شده: ⁨%1⁩.</translation>
+        <translation>در این شبکه Tor به جایی نمی‌رسد. امتحان‌شده: ⁨%1⁩.</translation>
     </message>
     <message>
         <source>Tor gets nowhere in this network. Veldmark can try bridges: %1.</source>
-        <translation>Tor در این شبکه به جایی نمی‌رسد. Veldmark می‌تواند پل‌ها را امتحان کند: ⁨%1⁩.</translation>
+        <translation>در این شبکه Tor به جایی نمی‌رسد. Veldmark می‌تواند پل‌ها را امتحان کند: ⁨%1⁩.</translation>
     </message>
     <message>
         <source>Being tried…</source>
@@ -3997,7 +3997,7 @@ a web page. FILE &quot;-&quot; is standard input</source>
     </message>
     <message>
         <source>Tor did not accept these bridges.</source>
-        <translation>Tor این پل‌ها را نپذیرفت.</translation>
+        <translation>این پل‌ها را Tor نپذیرفت.</translation>
     </message>
     <message>
         <source>No bridges are offered now.</source>
@@ -4010,6 +4010,10 @@ a web page. FILE &quot;-&quot; is standard input</source>
     <message>
         <source>try the bridges that are offered when Tor gets nowhere, see &quot;status&quot;</source>
         <translation>امتحان پل‌هایی که وقتی Tor به جایی نمی‌رسد پیشنهاد می‌شوند، «status» را ببینید</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>‏⁨%1⁩: ⁨%2⁩</translation>
     </message>
 </context>
 <context>

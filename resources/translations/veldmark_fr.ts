@@ -4017,6 +4017,10 @@ page web. « - » comme FILE désigne l’entrée standard</translation>
         <source>try the bridges that are offered when Tor gets nowhere, see &quot;status&quot;</source>
         <translation>essayer les ponts proposés quand Tor n’arrive à rien, voir « status »</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -4017,6 +4017,10 @@ inteiro ou uma página web. FILE &quot;-&quot; é a entrada padrão</translation
         <source>try the bridges that are offered when Tor gets nowhere, see &quot;status&quot;</source>
         <translation>tenta as pontes oferecidas quando o Tor não avança, veja “status”</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

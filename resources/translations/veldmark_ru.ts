@@ -4023,6 +4023,10 @@ a web page. FILE &quot;-&quot; is standard input</source>
         <source>try the bridges that are offered when Tor gets nowhere, see &quot;status&quot;</source>
         <translation>попробовать мосты, предложенные, когда Tor не продвигается, см. «status»</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -4011,6 +4011,10 @@ e-posta ya da web sayfası. FILE &quot;-&quot; standart girdidir</translation>
         <source>try the bridges that are offered when Tor gets nowhere, see &quot;status&quot;</source>
         <translation>Tor ilerleyemediğinde önerilen köprüleri dener, bkz. “status”</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

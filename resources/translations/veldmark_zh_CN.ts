@@ -4010,6 +4010,10 @@ FILE 为“-”时读取标准输入</translation>
         <source>try the bridges that are offered when Tor gets nowhere, see &quot;status&quot;</source>
         <translation>尝试 Tor 没有进展时提供的网桥，参见“status”</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

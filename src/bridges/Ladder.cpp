@@ -88,7 +88,7 @@ QString Ladder::rawName(BridgeChoice rung)
 
 Text Ladder::line(const LadderStep &step)
 {
-    const Text told = Text::joined({name(step.rung), step.result}, QStringLiteral(": "));
+    const Text told = Text::tr("%1: %2").arg(name(step.rung), step.result);
     return step.seconds ? Text::joined({told, Text::tr("(%1 s)").arg(*step.seconds)}) : told;
 }
 

@@ -6,6 +6,7 @@ import re
 import shutil
 import sys
 import tempfile
+import unicodedata
 import unittest
 import xml.etree.ElementTree as tree
 
@@ -148,6 +149,22 @@ class Sentences(unittest.TestCase):
             for context, message in found:
                 with self.subTest(path.name, context=context, text=message.find("source").text):
                     self.assertNotEqual(message.find("translation").get("type"), "unfinished")
+
+    def test_a_text_from_right_to_left_begins_there(self):
+        """Its first letter decides in which direction a text is laid out."""
+
+        def first(text):
+            letters = (unicodedata.bidirectional(c) for c in re.sub("\u2068[^\u2069]*\u2069|%n", "", text))
+            return next((letter for letter in letters if letter in ("L", "R", "AL")), None)
+
+        self.assertEqual([first(text) for text in ("Tor \u0648", "\u200fTor \u0648", "\u2068Tor\u2069 \u0648")], ["L", "R", "AL"])
+        for path in FILES:
+            if path.stem.endswith(("_ar", "_fa")):
+                for _, message in updated(path):
+                    for text in message.find("translation").itertext():
+                        if any(unicodedata.bidirectional(letter) == "AL" for letter in text):
+                            with self.subTest(path.name, text=text):
+                                self.assertNotEqual(first(text), "L")
 
     def test_what_users_read_is_a_text(self):
         for path in sorted(SOURCES.rglob("*")):
