@@ -115,7 +115,7 @@ undo_session() {
     [[ $status != 1 || " $KDE_ENTRY $GNOME_ENTRY $SERVICE_ENTRY $IDENTITIES_ENTRY $BYPASS_ENTRY $LOOPBACK_ENTRY " == *" $name "* ]] || open=''
   done
   [[ -z $open ]] || remove "$MARKER" "$ASKED" "$OWNER" "$RULES" "$LISTED" "$OTHERS_NOTE"
-  remove "$MARKER.new" "$ASKED.new" "$OWNER.new" "$RULES.new" "$LISTED.new" "$WATCHER" "$WATCHER.new" "$KILL_SWITCH_NOTE" "$KILL_SWITCH_NOTE.new" "$OTHERS_NOTE.new" "$STATE/relocked" "$TORRC.checked" "$RESERVE.new" "$JOURNAL"/*.new
+  remove "$MARKER.new" "$ASKED.new" "$OWNER.new" "$RULES.new" "$LISTED.new" "$WATCHER" "$WATCHER.new" "$KILL_SWITCH_NOTE" "$KILL_SWITCH_NOTE.new" "$OTHERS_NOTE.new" "$STATE/relocked" "$TORRC.checked" "$RESERVE" "$RESERVE.new" "$JOURNAL"/*.new
   [[ -z $open || ! -e $MARKER ]] || reason=${reason:-"The network is open again, but the session marker cannot be removed from $STATE."}
   reason=${reason:-$least}
   [[ -n $reason || -z $(compgen -G "$JOURNAL/*") ]] || reason="The network is open again, but the journal in $JOURNAL cannot be cleared."

@@ -3967,11 +3967,11 @@ page web. « - » comme FILE désigne l’entrée standard</translation>
     </message>
     <message>
         <source>Try them with: %1</source>
-        <translation>Essayez-les avec : %1</translation>
+        <translation>Essayez-les avec : %1</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is none of ask, always and never.</source>
-        <translation>« %1 » n’est ni ask, ni always, ni never.</translation>
+        <translation>« %1 » n’est ni ask, ni always, ni never.</translation>
     </message>
     <message>
         <source>Refused, or out of reach.</source>
@@ -3991,11 +3991,11 @@ page web. « - » comme FILE désigne l’entrée standard</translation>
     </message>
     <message>
         <source>Tor gets nowhere in this network. Tried: %1.</source>
-        <translation>Tor n’arrive à rien sur ce réseau. Essayé : %1.</translation>
+        <translation>Tor n’arrive à rien sur ce réseau. Essayé : %1.</translation>
     </message>
     <message>
         <source>Tor gets nowhere in this network. Veldmark can try bridges: %1.</source>
-        <translation>Tor n’arrive à rien sur ce réseau. Veldmark peut essayer des ponts : %1.</translation>
+        <translation>Tor n’arrive à rien sur ce réseau. Veldmark peut essayer des ponts : %1.</translation>
     </message>
     <message>
         <source>Being tried…</source>
@@ -4015,7 +4015,7 @@ page web. « - » comme FILE désigne l’entrée standard</translation>
     </message>
     <message>
         <source>try the bridges that are offered when Tor gets nowhere, see &quot;status&quot;</source>
-        <translation>essayer les ponts proposés quand Tor n’arrive à rien, voir « status »</translation>
+        <translation>essayer les ponts proposés quand Tor n’arrive à rien, voir « status »</translation>
     </message>
     <message>
         <source>%1: %2</source>

@@ -155,12 +155,13 @@ RungWatch::Sign RungWatch::look(int progress, bool isRefused, std::chrono::nanos
 {
     if (progress > m_best) {
         m_best = progress;
+        m_advanced = elapsed;
         if (progress >= answered)
             m_moved = elapsed;
     }
     if (m_moved)
         return elapsed - *m_moved >= stalledPatience ? Sign::stalled : Sign::trying;
-    if (isRefused && elapsed >= refusedPatience)
+    if (isRefused && elapsed - m_advanced >= m_refusedPatience)
         return Sign::refused;
     return elapsed >= m_patience ? Sign::silent : Sign::trying;
 }

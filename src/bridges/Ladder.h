@@ -16,12 +16,12 @@ namespace veldmark {
 
 // Whether bridges are tried when Tor gets nowhere.
 enum class Climb {
+    never,
     ask,    // they are offered
     always, // without asking
-    never,
 };
 
-inline constexpr std::array allClimbs = {Climb::ask, Climb::always, Climb::never};
+inline constexpr std::array allClimbs = {Climb::never, Climb::ask, Climb::always};
 
 // The value in the settings; never translated.
 QString rawValue(Climb climb);
@@ -84,10 +84,18 @@ public:
     // From this progress on a relay or bridge has answered as one (Tor's "handshake_done").
     static constexpr int answered = 15; // per cent
     static constexpr std::chrono::seconds refusedPatience{5};
-    static constexpr std::chrono::seconds stalledPatience{30};
+    static constexpr std::chrono::seconds stalledPatience{45}; // a slow network loads relays so
+                                                               // long
+    // Where an earlier rung has had an answer, Tor's progress does not show this rung's.
+    static constexpr std::chrono::seconds unseenPatience{30};
 
     // `before`: Tor's progress when the rung begins, which Tor never takes back.
-    RungWatch(std::chrono::seconds patience, int before) : m_patience(patience), m_best(before) { }
+    RungWatch(std::chrono::seconds patience, int before)
+        : m_patience(before < answered ? patience : std::max(patience, unseenPatience)),
+          m_refusedPatience(before < answered ? refusedPatience : m_patience),
+          m_best(before)
+    {
+    }
 
     // `elapsed`: since the rung began; never falls from one call to the next.
     Sign look(int progress, bool isRefused, std::chrono::nanoseconds elapsed);
@@ -96,7 +104,9 @@ public:
 
 private:
     std::chrono::seconds m_patience;
+    std::chrono::seconds m_refusedPatience;
     int m_best;
+    std::chrono::nanoseconds m_advanced{0};          // the last progress
     std::optional<std::chrono::nanoseconds> m_moved; // the last progress after an answer
 };
 

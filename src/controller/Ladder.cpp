@@ -76,8 +76,19 @@ QCoro::Task<std::optional<Text>> TorController::followLadder(Run attempt, Bootst
 {
     Clock &clock = m_services.clock;
     const auto sign = m_climbing.watch.look(status.progress, status.isRefused,
-                                            clock.now() - *m_climbing.since);
+                                            clock.now()
+                                                - m_climbing.freeSince.value_or(*m_climbing.since));
     const bool isLate = m_climbing.began && clock.now() - *m_climbing.began >= ladderLimit;
+    const bool wasObstructed = std::exchange(m_climbing.isObstructed, false);
+    if (wasObstructed || isLate || sign != RungWatch::Sign::trying)
+        m_climbing.isObstructed = obstacle().has_value();
+    // Bridges would not get past it either. Its time is not the rung's.
+    if (wasObstructed || m_climbing.isObstructed) {
+        m_climbing.freeSince = clock.now();
+        m_climbing.watch = RungWatch(Ladder::patience(m_activeBridgeLines), status.progress);
+        climbOffer = std::nullopt;
+        co_return std::nullopt;
+    }
     if (sign == RungWatch::Sign::trying && !(isLate && !m_climbing.watch.hasAnswered())) {
         climbOffer = std::nullopt;
         co_return std::nullopt;
@@ -87,10 +98,6 @@ QCoro::Task<std::optional<Text>> TorController::followLadder(Run attempt, Bootst
             co_return std::nullopt; // Tor goes on by itself
         endStep(resultOf(sign));
         co_return nothingHelps();
-    }
-    if (obstacle()) { // bridges would not get past it either
-        climbOffer = std::nullopt;
-        co_return std::nullopt;
     }
     if (!m_climbing.mayClimb) {
         std::vector<Text> names;
@@ -108,7 +115,7 @@ QCoro::Task<std::optional<Text>> TorController::followLadder(Run attempt, Bootst
     while (!m_climbing.left.empty()) {
         const Rung rung = m_climbing.left.front();
         m_climbing.left.erase(m_climbing.left.begin());
-        m_climbing.since = clock.now();
+        const auto formerSince = std::exchange(m_climbing.since, clock.now());
         std::vector<LadderStep> steps = ladder();
         steps.push_back({rung.choice, Text::tr("Being tried…"), {}});
         ladder = steps;
@@ -116,7 +123,14 @@ QCoro::Task<std::optional<Text>> TorController::followLadder(Run attempt, Bootst
         const auto replies = co_await m_services.controlPort.batch(commands, password);
         if (attempt.isOver())
             co_return std::nullopt;
-        if (!replies || !replies->front()) {
+        if (!replies) { // it is not known whether Tor has got it; the next look tells what is wrong
+            m_climbing.left.insert(m_climbing.left.begin(), rung);
+            m_climbing.since = formerSince;
+            steps.pop_back();
+            ladder = steps;
+            co_return std::nullopt;
+        }
+        if (!replies->front()) {
             endStep(Text::tr("Tor did not accept these bridges."));
             continue;
         }
@@ -125,6 +139,7 @@ QCoro::Task<std::optional<Text>> TorController::followLadder(Run attempt, Bootst
         bootstrapProblem = std::nullopt;
         m_climbing.watch = RungWatch(Ladder::patience(rung.lines), status.progress);
         m_climbing.since = clock.now();
+        m_climbing.freeSince = std::nullopt;
         m_climbing.reportBefore = report;
         m_climbing.logLines = TorLog(m_services.profile).read().lines().size();
         co_return std::nullopt;

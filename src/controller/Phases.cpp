@@ -133,6 +133,11 @@ TorController::Run TorController::startAttempt()
     isOptimizing = false;
     m_isSettlingIn = false;
     optimizeStatus = std::nullopt;
+    std::vector<LadderStep> steps = ladder();
+    if (!steps.empty() && !steps.back().seconds) { // its bridges are no longer tried
+        steps.pop_back();
+        ladder = steps;
+    }
     if (leakStatus().kind() == LeakStatus::Kind::checking)
         leakStatus = leakStatus().isExposed() ? LeakStatus::exposed(leakStatus().address())
                                               : LeakStatus::notTested();

@@ -126,7 +126,7 @@ public:
     Setting<QString> customBridges{this, "customBridges", Scope::connection,
                                    Text::tr("your own bridge lines, as typed"), QString()};
     Setting<Climb> climb{this, "climb", Scope::connection,
-                         Text::tr("whether bridges are tried when Tor gets nowhere"), Climb::ask};
+                         Text::tr("whether bridges are tried when Tor gets nowhere"), Climb::never};
     Setting<QStringList> bypassApps{
         this, "bypassApps", Scope::always,
         Text::tr("paths of applications that may be opened without Tor")};
@@ -491,6 +491,8 @@ private:
         bool mayClimb = false;                       // without asking
         RungWatch watch{std::chrono::seconds(0), 0}; // of the present rung
         std::optional<Clock::TimePoint> since;       // its begin; absent before Tor's first answer
+        std::optional<Clock::TimePoint> freeSince;   // the end of what kept it from beginning
+        bool isObstructed = false;                   // by that, at the last look
         QString reportBefore;                        // Tor's last one before it
         qsizetype logLines = 0;                      // of Tor's log before it
         std::optional<Clock::TimePoint> began;       // the first change to other bridges

@@ -33,7 +33,7 @@ void SettingsModel::setSeparateApps(bool on)
 
 QStringList SettingsModel::climbNames() const
 {
-    return {tr("Ask"), tr("Try bridges"), tr("Do nothing")}; // in the order of allClimbs
+    return {tr("Do nothing"), tr("Ask"), tr("Try bridges")}; // in the order of allClimbs
 }
 
 int SettingsModel::climbIndex() const

@@ -37,7 +37,7 @@ struct Choices {
     bool optimizeSpeed = false;
     bool terminalMode = false;
     bool separateApps = true;
-    Climb climb = Climb::ask;
+    Climb climb = Climb::never;
 
     friend bool operator==(const Choices &, const Choices &) = default;
 };

@@ -166,6 +166,19 @@ class Sentences(unittest.TestCase):
                             with self.subTest(path.name, text=text):
                                 self.assertNotEqual(first(text), "L")
 
+    def test_french_keeps_its_marks_with_their_words(self):
+        """A line never begins with a mark, or ends with a guillemet that opens."""
+        wrong = re.compile(r"(?<![\u00a0\u202f:])[:;?!»](?=\s|$)|«(?![\u00a0\u202f])")
+        self.assertTrue(
+            wrong.search("Essayez : %1") and wrong.search("« %1\u00a0»") and not wrong.search("Essayez\u00a0: «\u00a0%1\u00a0»")
+        )
+        for path in FILES:
+            if path.stem.endswith("_fr"):
+                for _, message in updated(path):
+                    for text in message.find("translation").itertext():
+                        with self.subTest(text=text):
+                            self.assertIsNone(wrong.search(text))
+
     def test_what_users_read_is_a_text(self):
         for path in sorted(SOURCES.rglob("*")):
             name = str(path.relative_to(SOURCES))

@@ -77,6 +77,7 @@ private Q_SLOTS:
         Workbench bench;
         TorController &c = bench.controller();
         c.customBridges.set(u"192.0.2.1:443"_s);
+        c.climb.set(Climb::ask);
         bench.tor.reply("SETCONF UseBridges=1 Bridge=\"192.0.2.1:443\"", "250 OK\r\n");
         bench.setBootstrap("PROGRESS=5 TAG=conn REASON=NOROUTE SUMMARY=\"Connecting\"");
         const SessionLines lines(c);

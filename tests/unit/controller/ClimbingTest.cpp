@@ -179,7 +179,7 @@ private Q_SLOTS:
         bench.setBootstrap("PROGRESS=30 TAG=loading SUMMARY=\"Loading\""); // Tor gets on
         QVERIFY(pass(bench, 1));
         QVERIFY(!c.climbOffer());
-        QVERIFY(pass(bench, 30)); // and stops again
+        QVERIFY(pass(bench, 45)); // and stops again
         QVERIFY(c.climbOffer());
         bench.disconnect();
         QVERIFY(!c.climbOffer() && !c.takeOffer());
@@ -348,8 +348,43 @@ private Q_SLOTS:
         QVERIFY(pass(bench, 40));
         QVERIFY(bench.controller().ladder().empty());
         bench.route = NetworkRoute{u"eth0"_s, false};
+        QVERIFY(pass(bench, 1 + 14)); // the direct way has its time from now on
+        QCOMPARE(bench.commandCount(toOwn), 0);
         QVERIFY(pass(bench, 1));
         QCOMPARE(bench.commandCount(toOwn), 1);
+    }
+
+    void aControlPortThatFailsIsNoRefusal()
+    {
+        Workbench bench;
+        provide(bench, Climb::always);
+        bench.tor.reply(toOwn, {});
+        bench.tor.closeAfter(toOwn);
+        TorController &c = bench.controller();
+        const auto connecting = c.connect();
+        QVERIFY(begins(bench));
+        QVERIFY(pass(bench, 15));
+        QCOMPARE(bench.commandCount(toOwn), 1);
+        QCOMPARE(steps(c), QStringList({u"Direct: No answer. (15 s)"_s}));
+        QVERIFY(!c.activeBridge());
+        QVERIFY(pass(bench, 1)); // again, since Tor still answers otherwise
+        QCOMPARE(bench.commandCount(toOwn), 2);
+        QCOMPARE(bench.commandCount(toObfs4), 0);
+    }
+
+    void noStepGoesOnAfterTheConnect()
+    {
+        Workbench bench;
+        provide(bench, Climb::always);
+        TorController &c = bench.controller();
+        const auto connecting = c.connect();
+        QVERIFY(begins(bench));
+        QVERIFY(pass(bench, 20));
+        QCOMPARE(steps(c).size(), 2);
+        bench.cancelPrompt(u"disconnect"_s);
+        bench.disconnect();
+        QVERIFY(c.phase() == ConnectionPhase::stale);
+        QCOMPARE(steps(c), QStringList({u"Direct: No answer. (15 s)"_s}));
     }
 
     void troubleOfAFormerProgramIsNotThePresentOnes()

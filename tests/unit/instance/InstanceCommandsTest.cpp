@@ -127,6 +127,7 @@ private Q_SLOTS:
         Instance instance;
         TorController &c = instance.bench.controller();
         c.customBridges.set(u"192.0.2.1:443"_s);
+        c.climb.set(Climb::ask);
         instance.bench.tor.reply("SETCONF UseBridges=1 Bridge=\"192.0.2.1:443\"", "250 OK\r\n");
         instance.bench.setBootstrap("PROGRESS=5 TAG=conn REASON=NOROUTE");
         Conversation early(instance.bench, "climb");
