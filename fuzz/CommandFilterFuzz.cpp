@@ -36,7 +36,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         REQUIRE(line == CommandFilter::refused
                 || CommandFilter::judge(line.substr(0, end), reserve)
                     == CommandFilter::Verdict::passes);
-        // A bridge is one of those in reserve.
+        // A bridge is one of those in reserve. In a password the word means nothing.
+        if (line.substr(0, 13) == "AUTHENTICATE ")
+            continue;
         for (std::size_t at = 0; (at = line.find("Bridge=", at)) != std::string_view::npos; ++at) {
             const std::string_view bridge = line.substr(at + 7, line.find('"', at + 8) - at - 6);
             REQUIRE(bridge == '"' + reserve[0] + '"' || bridge == '"' + reserve[1] + '"');
