@@ -12,7 +12,7 @@ readonly STOP_POLLS=200    # of about 20 ms: Tor has about 4 s to end
 readonly FILTER_NAME=veldmark-control
 readonly OWN_PLACE=/usr/libexec/veldmark   # for the package's programs that only the helper runs
 readonly PACKAGED_HELPER=/usr/share/veldmark/veldmark-helper.sh
-readonly RESERVE=$RUN/reserve       # root:_veldmark 0640; the bridges that the filter lets Tor change to, a line each
+readonly RESERVE=$RUN/reserve       # root 0600; the bridges that the filter lets Tor change to, a line each
 
 # Runs as root in the new namespaces: RESOLVERS TARGET DATA LOG COMMAND... COMMAND gives up root. Tor's account may write its data, its log
 # and three places in memory that are visible to no other process. All other files are read-only, so it leaves no program for a later
@@ -157,7 +157,7 @@ find_filter() {
   case $OWN_PROGRAM in /home/* | /run/* | /media/* | /mnt/* | /tmp/* | /var/tmp/* | /dev/*) return 0 ;; esac
   CONTROL_SOCKET=$DATA/control
   FILTER=("$OWN_PROGRAM" 127.0.0.1 "$CONTROL_PORT" "$CONTROL_SOCKET")
-  ((${#OPT_RESERVES[@]} == 0)) || FILTER+=("$RESERVE")
+  ((${#OPT_RESERVES[@]} == 0)) || FILTER+=(-)
   FILTER+=(--)
 }
 
@@ -195,7 +195,8 @@ tor_failure() {
   printf '%s' "${reason:-it ended without a message.}"
 }
 
-# put_reserve: writes the bridges in reserve for the filter, which reads them at its start. Without any there is no file.
+# put_reserve: writes the bridges in reserve for the filter, which reads them at its start, as its standard input: bridge programs, in the same
+# account, do not need them. Without any there is no file.
 put_reserve() {
   local text=''
   if ((${#OPT_RESERVES[@]} == 0)); then
@@ -203,19 +204,20 @@ put_reserve() {
     return
   fi
   printf -v text '%s\n' "${OPT_RESERVES[@]}"
-  write_file "$RESERVE" 0640 "0:$TOR_GID" "$text" || die "The file $RESERVE cannot be written."
+  write_file "$RESERVE" 0600 root "$text" || die "The file $RESERVE cannot be written."
 }
 
 # put_tor: returns once Tor listens at its control port.
 put_tor() {
-  local launcher poll
+  local launcher poll input=/dev/null
   write_file "$TOR_RESOLVER" 0644 root "$FORMER_RESOLVER"$'\n' || die "The file $TOR_RESOLVER cannot be written."
   mv -fT -- "$TORRC.checked" "$TORRC" || die "The file $TORRC cannot be written."
   ready_logs || die "Tor's log files cannot be made."
   put_reserve
   # A former Tor's account may have left anything there.
   [[ ! -e $DATA/control && ! -L $DATA/control ]] || rm -rf -- "$DATA/control"
-  launch_tor </dev/null >>"$START_OUT" 2>>"$LAUNCHER_OUT" &
+  ((${#OPT_RESERVES[@]} == 0 || ${#FILTER[@]} == 0)) || input=$RESERVE
+  launch_tor <"$input" >>"$START_OUT" 2>>"$LAUNCHER_OUT" &
   launcher=$!
   for ((poll = 0; poll < START_POLLS; poll++)); do
     # The kernel searches through many places for its list of sockets, so it is not asked before Tor has its own socket.

@@ -89,6 +89,12 @@ check_program() {
   [[ -f $2 && -x $2 ]] || die "The program given with $1 is not an executable file."
 }
 
+# check_transport OPTION PATH: like check_program. no_program is in programs.sh.
+check_transport() {
+  check_path "$1" "$2"
+  [[ -f $2 && -x $2 ]] || no_program "The program given with $1 is not an executable file."
+}
+
 # The characters refused here have a special meaning in Tor's configuration file: # starts a comment, " a quoted
 # value, and \ at the end continues the line.
 check_bridge() {
@@ -111,9 +117,9 @@ parse_connect() {
     check_bridge "$bridge"
   done
   check_program --tor "$OPT_TOR"
-  [[ -z $OPT_LYREBIRD ]] || check_program --pt-lyrebird "$OPT_LYREBIRD"
-  [[ -z $OPT_SNOWFLAKE ]] || check_program --pt-snowflake "$OPT_SNOWFLAKE"
-  [[ -z $OPT_WEBTUNNEL ]] || check_program --pt-webtunnel "$OPT_WEBTUNNEL"
+  [[ -z $OPT_LYREBIRD ]] || check_transport --pt-lyrebird "$OPT_LYREBIRD"
+  [[ -z $OPT_SNOWFLAKE ]] || check_transport --pt-snowflake "$OPT_SNOWFLAKE"
+  [[ -z $OPT_WEBTUNNEL ]] || check_transport --pt-webtunnel "$OPT_WEBTUNNEL"
   [[ -z $OPT_BUNDLE ]] || check_path --bundle "$OPT_BUNDLE"   # any path: without a valid signature it changes nothing
   choose_transports
 }

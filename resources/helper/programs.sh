@@ -66,9 +66,16 @@ same_content() {
   one=$(print_sum <"$1") && other=$(print_sum <"$2") && [[ ${one%% *} == "${other%% *}" ]]
 }
 
+# no_program TEXT: ends with TEXT. With bridges in reserve the status is that of a missing approval: the caller asks once more without them, since
+# the program may be theirs alone.
+no_program() {
+  ((${#OPT_RESERVES[@]} == 0)) || unapproved "$1" 4
+  die "$1"
+}
+
 # find_program PATH: sets PROGRAM to the path without links.
 find_program() {
-  PROGRAM=$(real_path "$1" && printf x) || die "The program $1 cannot be found."
+  PROGRAM=$(real_path "$1" && printf x) || no_program "The program $1 cannot be found."
   PROGRAM=${PROGRAM%$'\n'x}
 }
 
@@ -84,7 +91,7 @@ copy_program() {
     [[ $DIGEST =~ ^[0-9a-f]{64}$ ]] && return 0
   rm -f -- "$NEW_PROGRAM"
   [[ $SYSTEM != linux ]] || clear_bundle   # left from the search for another program
-  die "The program $2 cannot be copied."
+  no_program "The program $2 cannot be copied."
 }
 
 # keep_copy ROLE: moves the file of copy_program to the folder of the runnable copies.

@@ -4001,7 +4001,7 @@ a web page. FILE &quot;-&quot; is standard input</source>
         <translation>رُفض أو تعذّر الوصول.</translation>
     </message>
     <message>
-        <source>There was an answer, but Tor got no further.</source>
+        <source>Something answered, but Tor made no further progress.</source>
         <translation>جاء رد، لكن Tor لم يتقدّم.</translation>
     </message>
     <message>
@@ -4013,11 +4013,11 @@ a web page. FILE &quot;-&quot; is standard input</source>
         <translation>اتصل Tor.</translation>
     </message>
     <message>
-        <source>Tor gets nowhere in this network. Tried: %1.</source>
+        <source>Tor cannot connect in this network. Tried: %1.</source>
         <translation>لا يتقدّم Tor في هذه الشبكة. جُرِّب: ⁨%1⁩.</translation>
     </message>
     <message>
-        <source>Tor gets nowhere in this network. Veldmark can try bridges: %1.</source>
+        <source>Tor cannot connect in this network. Veldmark can try bridges: %1.</source>
         <translation>لا يتقدّم Tor في هذه الشبكة. يستطيع Veldmark تجربة الجسور: ⁨%1⁩.</translation>
     </message>
     <message>
@@ -4033,11 +4033,11 @@ a web page. FILE &quot;-&quot; is standard input</source>
         <translation>لا جسور معروضة الآن.</translation>
     </message>
     <message>
-        <source>whether bridges are tried when Tor gets nowhere</source>
+        <source>whether bridges are tried when Tor cannot connect</source>
         <translation>هل تُجرَّب الجسور عندما لا يتقدّم Tor</translation>
     </message>
     <message>
-        <source>try the bridges that are offered when Tor gets nowhere, see &quot;status&quot;</source>
+        <source>try the bridges that are offered when Tor cannot connect, see &quot;status&quot;</source>
         <translation>تجربة الجسور المعروضة عندما لا يتقدّم Tor، انظر «status»</translation>
     </message>
     <message>

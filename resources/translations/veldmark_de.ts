@@ -3978,7 +3978,7 @@ einer ganzen E-Mail oder einer Webseite. FILE „-“ ist die Standardeingabe</t
         <translation>Abgelehnt oder nicht erreichbar.</translation>
     </message>
     <message>
-        <source>There was an answer, but Tor got no further.</source>
+        <source>Something answered, but Tor made no further progress.</source>
         <translation>Es kam eine Antwort, aber Tor kam nicht weiter.</translation>
     </message>
     <message>
@@ -3990,11 +3990,11 @@ einer ganzen E-Mail oder einer Webseite. FILE „-“ ist die Standardeingabe</t
         <translation>Tor ist verbunden.</translation>
     </message>
     <message>
-        <source>Tor gets nowhere in this network. Tried: %1.</source>
+        <source>Tor cannot connect in this network. Tried: %1.</source>
         <translation>Tor kommt in diesem Netz nicht durch. Versucht: %1.</translation>
     </message>
     <message>
-        <source>Tor gets nowhere in this network. Veldmark can try bridges: %1.</source>
+        <source>Tor cannot connect in this network. Veldmark can try bridges: %1.</source>
         <translation>Tor kommt in diesem Netz nicht durch. Veldmark kann Brücken versuchen: %1.</translation>
     </message>
     <message>
@@ -4010,11 +4010,11 @@ einer ganzen E-Mail oder einer Webseite. FILE „-“ ist die Standardeingabe</t
         <translation>Es werden gerade keine Brücken angeboten.</translation>
     </message>
     <message>
-        <source>whether bridges are tried when Tor gets nowhere</source>
+        <source>whether bridges are tried when Tor cannot connect</source>
         <translation>ob Brücken versucht werden, wenn Tor nicht durchkommt</translation>
     </message>
     <message>
-        <source>try the bridges that are offered when Tor gets nowhere, see &quot;status&quot;</source>
+        <source>try the bridges that are offered when Tor cannot connect, see &quot;status&quot;</source>
         <translation>die Brücken versuchen, die angeboten werden, wenn Tor nicht durchkommt, siehe „status“</translation>
     </message>
     <message>

@@ -3978,7 +3978,7 @@ entero o una página web. FILE «-» es la entrada estándar</translation>
         <translation>Rechazado o fuera de alcance.</translation>
     </message>
     <message>
-        <source>There was an answer, but Tor got no further.</source>
+        <source>Something answered, but Tor made no further progress.</source>
         <translation>Hubo una respuesta, pero Tor no avanzó más.</translation>
     </message>
     <message>
@@ -3990,11 +3990,11 @@ entero o una página web. FILE «-» es la entrada estándar</translation>
         <translation>Tor se ha conectado.</translation>
     </message>
     <message>
-        <source>Tor gets nowhere in this network. Tried: %1.</source>
+        <source>Tor cannot connect in this network. Tried: %1.</source>
         <translation>Tor no avanza en esta red. Probado: %1.</translation>
     </message>
     <message>
-        <source>Tor gets nowhere in this network. Veldmark can try bridges: %1.</source>
+        <source>Tor cannot connect in this network. Veldmark can try bridges: %1.</source>
         <translation>Tor no avanza en esta red. Veldmark puede probar puentes: %1.</translation>
     </message>
     <message>
@@ -4010,11 +4010,11 @@ entero o una página web. FILE «-» es la entrada estándar</translation>
         <translation>Ahora no se ofrece ningún puente.</translation>
     </message>
     <message>
-        <source>whether bridges are tried when Tor gets nowhere</source>
+        <source>whether bridges are tried when Tor cannot connect</source>
         <translation>si se prueban puentes cuando Tor no avanza</translation>
     </message>
     <message>
-        <source>try the bridges that are offered when Tor gets nowhere, see &quot;status&quot;</source>
+        <source>try the bridges that are offered when Tor cannot connect, see &quot;status&quot;</source>
         <translation>probar los puentes que se ofrecen cuando Tor no avanza, véase «status»</translation>
     </message>
     <message>

@@ -3972,7 +3972,7 @@ a web page. FILE &quot;-&quot; is standard input</source>
         <translation>رد شد یا در دسترس نیست.</translation>
     </message>
     <message>
-        <source>There was an answer, but Tor got no further.</source>
+        <source>Something answered, but Tor made no further progress.</source>
         <translation>پاسخی آمد، ولی Tor جلوتر نرفت.</translation>
     </message>
     <message>
@@ -3984,11 +3984,11 @@ a web page. FILE &quot;-&quot; is standard input</source>
         <translation>اتصال Tor برقرار شد.</translation>
     </message>
     <message>
-        <source>Tor gets nowhere in this network. Tried: %1.</source>
+        <source>Tor cannot connect in this network. Tried: %1.</source>
         <translation>در این شبکه Tor به جایی نمی‌رسد. امتحان‌شده: ⁨%1⁩.</translation>
     </message>
     <message>
-        <source>Tor gets nowhere in this network. Veldmark can try bridges: %1.</source>
+        <source>Tor cannot connect in this network. Veldmark can try bridges: %1.</source>
         <translation>در این شبکه Tor به جایی نمی‌رسد. Veldmark می‌تواند پل‌ها را امتحان کند: ⁨%1⁩.</translation>
     </message>
     <message>
@@ -4004,11 +4004,11 @@ a web page. FILE &quot;-&quot; is standard input</source>
         <translation>اکنون پلی پیشنهاد نمی‌شود.</translation>
     </message>
     <message>
-        <source>whether bridges are tried when Tor gets nowhere</source>
+        <source>whether bridges are tried when Tor cannot connect</source>
         <translation>آیا وقتی Tor به جایی نمی‌رسد پل‌ها امتحان شوند</translation>
     </message>
     <message>
-        <source>try the bridges that are offered when Tor gets nowhere, see &quot;status&quot;</source>
+        <source>try the bridges that are offered when Tor cannot connect, see &quot;status&quot;</source>
         <translation>امتحان پل‌هایی که وقتی Tor به جایی نمی‌رسد پیشنهاد می‌شوند، «status» را ببینید</translation>
     </message>
     <message>

@@ -3978,7 +3978,7 @@ page web. « - » comme FILE désigne l’entrée standard</translation>
         <translation>Refusé ou hors d’atteinte.</translation>
     </message>
     <message>
-        <source>There was an answer, but Tor got no further.</source>
+        <source>Something answered, but Tor made no further progress.</source>
         <translation>Il y a eu une réponse, mais Tor n’est pas allé plus loin.</translation>
     </message>
     <message>
@@ -3990,11 +3990,11 @@ page web. « - » comme FILE désigne l’entrée standard</translation>
         <translation>Tor est connecté.</translation>
     </message>
     <message>
-        <source>Tor gets nowhere in this network. Tried: %1.</source>
+        <source>Tor cannot connect in this network. Tried: %1.</source>
         <translation>Tor n’arrive à rien sur ce réseau. Essayé : %1.</translation>
     </message>
     <message>
-        <source>Tor gets nowhere in this network. Veldmark can try bridges: %1.</source>
+        <source>Tor cannot connect in this network. Veldmark can try bridges: %1.</source>
         <translation>Tor n’arrive à rien sur ce réseau. Veldmark peut essayer des ponts : %1.</translation>
     </message>
     <message>
@@ -4010,11 +4010,11 @@ page web. « - » comme FILE désigne l’entrée standard</translation>
         <translation>Aucun pont n’est proposé pour le moment.</translation>
     </message>
     <message>
-        <source>whether bridges are tried when Tor gets nowhere</source>
+        <source>whether bridges are tried when Tor cannot connect</source>
         <translation>si des ponts sont essayés quand Tor n’arrive à rien</translation>
     </message>
     <message>
-        <source>try the bridges that are offered when Tor gets nowhere, see &quot;status&quot;</source>
+        <source>try the bridges that are offered when Tor cannot connect, see &quot;status&quot;</source>
         <translation>essayer les ponts proposés quand Tor n’arrive à rien, voir « status »</translation>
     </message>
     <message>

@@ -3978,7 +3978,7 @@ inteiro ou uma página web. FILE &quot;-&quot; é a entrada padrão</translation
         <translation>Recusado ou fora de alcance.</translation>
     </message>
     <message>
-        <source>There was an answer, but Tor got no further.</source>
+        <source>Something answered, but Tor made no further progress.</source>
         <translation>Houve uma resposta, mas o Tor não avançou.</translation>
     </message>
     <message>
@@ -3990,11 +3990,11 @@ inteiro ou uma página web. FILE &quot;-&quot; é a entrada padrão</translation
         <translation>O Tor conectou.</translation>
     </message>
     <message>
-        <source>Tor gets nowhere in this network. Tried: %1.</source>
+        <source>Tor cannot connect in this network. Tried: %1.</source>
         <translation>O Tor não avança nesta rede. Tentado: %1.</translation>
     </message>
     <message>
-        <source>Tor gets nowhere in this network. Veldmark can try bridges: %1.</source>
+        <source>Tor cannot connect in this network. Veldmark can try bridges: %1.</source>
         <translation>O Tor não avança nesta rede. O Veldmark pode tentar pontes: %1.</translation>
     </message>
     <message>
@@ -4010,11 +4010,11 @@ inteiro ou uma página web. FILE &quot;-&quot; é a entrada padrão</translation
         <translation>Nenhuma ponte é oferecida agora.</translation>
     </message>
     <message>
-        <source>whether bridges are tried when Tor gets nowhere</source>
+        <source>whether bridges are tried when Tor cannot connect</source>
         <translation>se pontes são tentadas quando o Tor não avança</translation>
     </message>
     <message>
-        <source>try the bridges that are offered when Tor gets nowhere, see &quot;status&quot;</source>
+        <source>try the bridges that are offered when Tor cannot connect, see &quot;status&quot;</source>
         <translation>tenta as pontes oferecidas quando o Tor não avança, veja “status”</translation>
     </message>
     <message>

@@ -3984,7 +3984,7 @@ a web page. FILE &quot;-&quot; is standard input</source>
         <translation>Отказано или недоступно.</translation>
     </message>
     <message>
-        <source>There was an answer, but Tor got no further.</source>
+        <source>Something answered, but Tor made no further progress.</source>
         <translation>Ответ был, но дальше Tor не продвинулся.</translation>
     </message>
     <message>
@@ -3996,11 +3996,11 @@ a web page. FILE &quot;-&quot; is standard input</source>
         <translation>Tor подключился.</translation>
     </message>
     <message>
-        <source>Tor gets nowhere in this network. Tried: %1.</source>
+        <source>Tor cannot connect in this network. Tried: %1.</source>
         <translation>В этой сети Tor не продвигается. Испытано: %1.</translation>
     </message>
     <message>
-        <source>Tor gets nowhere in this network. Veldmark can try bridges: %1.</source>
+        <source>Tor cannot connect in this network. Veldmark can try bridges: %1.</source>
         <translation>В этой сети Tor не продвигается. Veldmark может попробовать мосты: %1.</translation>
     </message>
     <message>
@@ -4016,11 +4016,11 @@ a web page. FILE &quot;-&quot; is standard input</source>
         <translation>Сейчас мосты не предлагаются.</translation>
     </message>
     <message>
-        <source>whether bridges are tried when Tor gets nowhere</source>
+        <source>whether bridges are tried when Tor cannot connect</source>
         <translation>пробовать ли мосты, когда Tor не продвигается</translation>
     </message>
     <message>
-        <source>try the bridges that are offered when Tor gets nowhere, see &quot;status&quot;</source>
+        <source>try the bridges that are offered when Tor cannot connect, see &quot;status&quot;</source>
         <translation>попробовать мосты, предложенные, когда Tor не продвигается, см. «status»</translation>
     </message>
     <message>

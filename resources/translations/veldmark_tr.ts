@@ -3972,7 +3972,7 @@ e-posta ya da web sayfası. FILE &quot;-&quot; standart girdidir</translation>
         <translation>Reddedildi ya da ulaşılamıyor.</translation>
     </message>
     <message>
-        <source>There was an answer, but Tor got no further.</source>
+        <source>Something answered, but Tor made no further progress.</source>
         <translation>Bir yanıt geldi, ama Tor ilerleyemedi.</translation>
     </message>
     <message>
@@ -3984,11 +3984,11 @@ e-posta ya da web sayfası. FILE &quot;-&quot; standart girdidir</translation>
         <translation>Tor bağlandı.</translation>
     </message>
     <message>
-        <source>Tor gets nowhere in this network. Tried: %1.</source>
+        <source>Tor cannot connect in this network. Tried: %1.</source>
         <translation>Tor bu ağda ilerleyemiyor. Denenenler: %1.</translation>
     </message>
     <message>
-        <source>Tor gets nowhere in this network. Veldmark can try bridges: %1.</source>
+        <source>Tor cannot connect in this network. Veldmark can try bridges: %1.</source>
         <translation>Tor bu ağda ilerleyemiyor. Veldmark köprüleri deneyebilir: %1.</translation>
     </message>
     <message>
@@ -4004,11 +4004,11 @@ e-posta ya da web sayfası. FILE &quot;-&quot; standart girdidir</translation>
         <translation>Şu anda önerilen köprü yok.</translation>
     </message>
     <message>
-        <source>whether bridges are tried when Tor gets nowhere</source>
+        <source>whether bridges are tried when Tor cannot connect</source>
         <translation>Tor ilerleyemediğinde köprülerin denenip denenmeyeceği</translation>
     </message>
     <message>
-        <source>try the bridges that are offered when Tor gets nowhere, see &quot;status&quot;</source>
+        <source>try the bridges that are offered when Tor cannot connect, see &quot;status&quot;</source>
         <translation>Tor ilerleyemediğinde önerilen köprüleri dener, bkz. “status”</translation>
     </message>
     <message>

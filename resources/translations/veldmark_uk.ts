@@ -3984,7 +3984,7 @@ a web page. FILE &quot;-&quot; is standard input</source>
         <translation>Відмовлено або недоступно.</translation>
     </message>
     <message>
-        <source>There was an answer, but Tor got no further.</source>
+        <source>Something answered, but Tor made no further progress.</source>
         <translation>Відповідь була, але далі Tor не просунувся.</translation>
     </message>
     <message>
@@ -3996,11 +3996,11 @@ a web page. FILE &quot;-&quot; is standard input</source>
         <translation>Tor під’єднався.</translation>
     </message>
     <message>
-        <source>Tor gets nowhere in this network. Tried: %1.</source>
+        <source>Tor cannot connect in this network. Tried: %1.</source>
         <translation>У цій мережі Tor не просувається. Випробувано: %1.</translation>
     </message>
     <message>
-        <source>Tor gets nowhere in this network. Veldmark can try bridges: %1.</source>
+        <source>Tor cannot connect in this network. Veldmark can try bridges: %1.</source>
         <translation>У цій мережі Tor не просувається. Veldmark може спробувати мости: %1.</translation>
     </message>
     <message>
@@ -4016,11 +4016,11 @@ a web page. FILE &quot;-&quot; is standard input</source>
         <translation>Зараз мости не пропонуються.</translation>
     </message>
     <message>
-        <source>whether bridges are tried when Tor gets nowhere</source>
+        <source>whether bridges are tried when Tor cannot connect</source>
         <translation>чи пробувати мости, коли Tor не просувається</translation>
     </message>
     <message>
-        <source>try the bridges that are offered when Tor gets nowhere, see &quot;status&quot;</source>
+        <source>try the bridges that are offered when Tor cannot connect, see &quot;status&quot;</source>
         <translation>спробувати мости, запропоновані, коли Tor не просувається, див. «status»</translation>
     </message>
     <message>

@@ -3971,7 +3971,7 @@ FILE 为“-”时读取标准输入</translation>
         <translation>被拒绝或无法到达。</translation>
     </message>
     <message>
-        <source>There was an answer, but Tor got no further.</source>
+        <source>Something answered, but Tor made no further progress.</source>
         <translation>有应答，但 Tor 没有进展。</translation>
     </message>
     <message>
@@ -3983,11 +3983,11 @@ FILE 为“-”时读取标准输入</translation>
         <translation>Tor 已连接。</translation>
     </message>
     <message>
-        <source>Tor gets nowhere in this network. Tried: %1.</source>
+        <source>Tor cannot connect in this network. Tried: %1.</source>
         <translation>Tor 在此网络中没有进展。已尝试：%1。</translation>
     </message>
     <message>
-        <source>Tor gets nowhere in this network. Veldmark can try bridges: %1.</source>
+        <source>Tor cannot connect in this network. Veldmark can try bridges: %1.</source>
         <translation>Tor 在此网络中没有进展。Veldmark 可以尝试网桥：%1。</translation>
     </message>
     <message>
@@ -4003,11 +4003,11 @@ FILE 为“-”时读取标准输入</translation>
         <translation>现在没有提供网桥。</translation>
     </message>
     <message>
-        <source>whether bridges are tried when Tor gets nowhere</source>
+        <source>whether bridges are tried when Tor cannot connect</source>
         <translation>Tor 没有进展时是否尝试网桥</translation>
     </message>
     <message>
-        <source>try the bridges that are offered when Tor gets nowhere, see &quot;status&quot;</source>
+        <source>try the bridges that are offered when Tor cannot connect, see &quot;status&quot;</source>
         <translation>尝试 Tor 没有进展时提供的网桥，参见“status”</translation>
     </message>
     <message>

@@ -14,6 +14,9 @@ namespace veldmark {
 
 namespace {
 
+// The transports that go to the address in the line.
+const QStringList addressed = {QStringLiteral("obfs4"), QStringLiteral("obfs3"),
+                               QStringLiteral("scramblesuit")};
 const QString bridgeOption = QStringLiteral("--bridge");
 // The longest command that passes the filter before the control port (CommandFilter.h), less its
 // start.
@@ -25,9 +28,12 @@ bool isExecutable(const QString &path)
     return file.isFile() && file.isExecutable();
 }
 
-// Whether the program for the line is there now; `found` may be old.
+// Whether Tor takes the line, and the program for it is there now; `found` may be old.
 bool canBeUsed(const QString &line, const PluggableTransports &found)
 {
+    const auto address = BridgeLines::address(line);
+    if (!address || address->port == 0)
+        return false;
     const auto arguments = bridgeArguments({line}, found);
     return arguments
         && (arguments->size() == 2 // no program is needed
@@ -119,6 +125,20 @@ std::vector<Rung> Ladder::rungs(BridgeChoice first, const QStringList &used,
     return all;
 }
 
+bool Ladder::isConfined(const QStringList &lines)
+{
+    return !lines.isEmpty() && std::all_of(lines.begin(), lines.end(), [](const QString &line) {
+        const auto transport = BridgeLines::transport(line);
+        return !transport || addressed.contains(*transport);
+    });
+}
+
+std::vector<Rung> Ladder::confined(std::vector<Rung> rungs)
+{
+    std::erase_if(rungs, [](const Rung &rung) { return !isConfined(rung.lines); });
+    return rungs;
+}
+
 QStringList Ladder::words(const std::vector<Rung> &rungs, const PluggableTransports &found)
 {
     QStringList lines;
@@ -151,17 +171,30 @@ std::chrono::seconds Ladder::patience(const QStringList &lines)
     return longest;
 }
 
-RungWatch::Sign RungWatch::look(int progress, bool isRefused, std::chrono::nanoseconds elapsed)
+int Ladder::refusals(const QStringList &lines)
 {
-    if (progress > m_best) {
-        m_best = progress;
+    constexpr int some = 3;
+    return lines.isEmpty() ? some : static_cast<int>(std::min<qsizetype>(lines.size(), some));
+}
+
+RungWatch::Sign RungWatch::look(const Report &report, std::chrono::nanoseconds elapsed)
+{
+    if (!m_received)
+        m_received = report.received;
+    const qint64 grown = report.received - *m_received;
+    const bool hasAdvanced = report.progress > m_best;
+    if (hasAdvanced || (m_moved && grown >= slowBytes) || (m_isUnseen && grown >= answerBytes)) {
+        m_best = std::max(m_best, report.progress);
+        m_received = report.received;
         m_advanced = elapsed;
-        if (progress >= answered)
+        if (m_best >= answered) {
             m_moved = elapsed;
+            m_isUnseen = false;
+        }
     }
     if (m_moved)
         return elapsed - *m_moved >= stalledPatience ? Sign::stalled : Sign::trying;
-    if (isRefused && elapsed - m_advanced >= m_refusedPatience)
+    if (report.isRefused && elapsed - m_advanced >= m_refusedPatience)
         return Sign::refused;
     return elapsed >= m_patience ? Sign::silent : Sign::trying;
 }

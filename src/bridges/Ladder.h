@@ -14,7 +14,7 @@
 // The ladder: what is tried one after the other where Tor's own way is blocked. Pure; any thread.
 namespace veldmark {
 
-// Whether bridges are tried when Tor gets nowhere.
+// Whether bridges are tried when Tor cannot connect.
 enum class Climb {
     never,
     ask,    // they are offered
@@ -60,6 +60,12 @@ Text line(const LadderStep &step);
 std::vector<Rung> rungs(BridgeChoice first, const QStringList &used, const QString &customBridges,
                         const PluggableTransports &found);
 
+// Those of them with which Tor's account still reaches nothing but bridges: without transports
+// that meet their bridge through a front or a broker.
+std::vector<Rung> confined(std::vector<Rung> rungs);
+// Whether a session over these bridges is confined so.
+bool isConfined(const QStringList &lines);
+
 // The helper's options that keep these rungs in reserve: --reserve with each line, and the
 // programs.
 QStringList words(const std::vector<Rung> &rungs, const PluggableTransports &found);
@@ -69,12 +75,21 @@ QString command(const QStringList &lines);
 
 // How long bridges may take until one of them answers; for no lines, relays.
 std::chrono::seconds patience(const QStringList &lines);
+// After how many failures a refusal counts: of each of these bridges, or of some of them. A single
+// relay that is out of order says nothing of the network.
+int refusals(const QStringList &lines);
 
 } // namespace Ladder
 
 // Judges one rung by Tor's reports while it is being tried.
 class RungWatch {
 public:
+    // What Tor says of it.
+    struct Report {
+        int progress = 0;       // per cent; Tor never takes it back
+        bool isRefused = false; // by so many that others need not be waited for
+        qint64 received = 0;    // bytes, since Tor's start
+    };
     enum class Sign {
         trying,
         refused, // what was asked refuses, or cannot be reached
@@ -84,21 +99,25 @@ public:
     // From this progress on a relay or bridge has answered as one (Tor's "handshake_done").
     static constexpr int answered = 15; // per cent
     static constexpr std::chrono::seconds refusedPatience{5};
-    static constexpr std::chrono::seconds stalledPatience{45}; // a slow network loads relays so
-                                                               // long
+    static constexpr std::chrono::seconds stalledPatience{45};
+    // What a slow network brings in that time (3 KB/s): Tor gets on, although its progress stands
+    // still while it loads the list of relays.
+    static constexpr qint64 slowBytes = 128 * 1024;
     // Where an earlier rung has had an answer, Tor's progress does not show this rung's.
     static constexpr std::chrono::seconds unseenPatience{30};
+    static constexpr qint64 answerBytes = 16 * 1024; // more than a handshake; shows an answer there
 
-    // `before`: Tor's progress when the rung begins, which Tor never takes back.
+    // `before`: Tor's progress when the rung begins.
     RungWatch(std::chrono::seconds patience, int before)
         : m_patience(before < answered ? patience : std::max(patience, unseenPatience)),
           m_refusedPatience(before < answered ? refusedPatience : m_patience),
-          m_best(before)
+          m_best(before),
+          m_isUnseen(before >= answered)
     {
     }
 
     // `elapsed`: since the rung began; never falls from one call to the next.
-    Sign look(int progress, bool isRefused, std::chrono::nanoseconds elapsed);
+    Sign look(const Report &report, std::chrono::nanoseconds elapsed);
     // In this rung.
     bool hasAnswered() const { return m_moved.has_value(); }
 
@@ -106,6 +125,8 @@ private:
     std::chrono::seconds m_patience;
     std::chrono::seconds m_refusedPatience;
     int m_best;
+    bool m_isUnseen;
+    std::optional<qint64> m_received;                // at the last progress
     std::chrono::nanoseconds m_advanced{0};          // the last progress
     std::optional<std::chrono::nanoseconds> m_moved; // the last progress after an answer
 };

@@ -1,10 +1,10 @@
-// veldmark-control ADDRESS PORT SOCKET [RESERVE] -- TOR WORD...: runs TOR, and takes its place at
+// veldmark-control ADDRESS PORT SOCKET [-] -- TOR WORD...: runs TOR, and takes its place at
 // the control port.
 //
 // The root helper starts it in Tor's account, as the first process of Tor's namespaces. TOR opens
 // its control port at SOCKET, which only that account reaches, instead of ADDRESS:PORT. From there
-// only commands that Veldmark uses reach Tor (CommandFilter.h). RESERVE is a file with the bridges
-// that they may name; it is read once. Tor's answers come back unchanged.
+// only commands that Veldmark uses reach Tor (CommandFilter.h). With "-" the bridges that they may
+// name are read from standard input, which Tor does not inherit. Tor's answers come back unchanged.
 // The port opens when Tor's socket does. SIGTERM and SIGINT are passed on to Tor. It ends with
 // Tor's exit status when Tor ends, and Tor ends with it.
 
@@ -17,7 +17,9 @@
 #include <cstring>
 #include <utility>
 
+#include <fcntl.h>
 #include <poll.h>
+#include <unistd.h>
 
 namespace veldmark {
 
@@ -32,6 +34,15 @@ int reportTakenPort(const char *address, const char *port)
     return 1;
 }
 
+// Replaces standard input by nothing.
+bool closeInput()
+{
+    const int nothing = open("/dev/null", O_RDONLY | O_CLOEXEC);
+    if (nothing < 0 || dup2(nothing, STDIN_FILENO) < 0)
+        return false;
+    return nothing == STDIN_FILENO || close(nothing) == 0;
+}
+
 } // namespace
 
 } // namespace veldmark
@@ -40,15 +51,15 @@ int main(int argc, char **argv)
 {
     using namespace veldmark;
     // Where the words of Tor begin.
-    const int words = argc >= 6 && std::strcmp(argv[4], "--") == 0 ? 5
-        : argc >= 7 && std::strcmp(argv[5], "--") == 0             ? 6
-                                                                   : 0;
+    const int words = argc >= 6 && std::strcmp(argv[4], "--") == 0                       ? 5
+        : argc >= 7 && std::strcmp(argv[4], "-") == 0 && std::strcmp(argv[5], "--") == 0 ? 6
+                                                                                         : 0;
     if (words == 0) {
         std::fprintf(stderr, "veldmark-control is run by Veldmark's root helper.\n");
         return 2;
     }
-    auto reserve = words == 6 ? readReserve(argv[4]) : std::optional(CommandFilter::Reserve());
-    if (!reserve) {
+    auto reserve = words == 6 ? readReserve(STDIN_FILENO) : std::optional(CommandFilter::Reserve());
+    if (!reserve || !closeInput()) {
         std::printf("[err] The bridges in reserve cannot be read: %s.\n", std::strerror(errno));
         return 1;
     }

@@ -27,6 +27,7 @@ constexpr auto relayPatience = 10s;
 constexpr int relayReached = 10;
 
 const QString bootstrapKey = QStringLiteral("status/bootstrap-phase");
+const QString receivedKey = QStringLiteral("traffic/read");
 
 QString field(const QString &report, QStringView name)
 {
@@ -63,7 +64,8 @@ bool isRefusal(const QString &report)
 BootstrapStatus TorController::parseBootstrap(const QString &reply)
 {
     return {std::max(field(reply, u"PROGRESS").toInt(), 0), // 0 when absent or out of range
-            field(reply, u"SUMMARY"), warningIn(reply), isRefusal(reply)};
+            field(reply, u"SUMMARY"), warningIn(reply), std::max(field(reply, u"COUNT").toInt(), 0),
+            isRefusal(reply)};
 }
 
 std::optional<Text> TorController::obstacle() const
@@ -112,7 +114,7 @@ QCoro::Task<Result<void, Text>> TorController::waitForBootstrap(Run attempt)
     if (!m_controlPassword)
         co_return Failure(ControlPortError::notConnected().description());
     const QString password = *m_controlPassword;
-    const QStringList keys = {bootstrapKey};
+    const QStringList keys = {bootstrapKey, receivedKey};
     Clock &clock = m_services.clock;
     const auto start = clock.now();
     std::optional<Text> lastError;
@@ -139,7 +141,8 @@ QCoro::Task<Result<void, Text>> TorController::waitForBootstrap(Run attempt)
                 endLadder();
                 co_return {};
             }
-            auto following = followLadder(attempt, status, report);
+            auto following = followLadder(attempt, status, report,
+                                          reply->value(receivedKey).toLongLong());
             const auto failure = co_await following;
             if (attempt.isOver())
                 co_return Failure(Text());

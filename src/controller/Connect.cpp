@@ -2,8 +2,10 @@
 
 #include "base/ExitCountry.h"
 #include "base/ProgramFile.h"
+#include "base/ResumeOnce.h"
 #include "base/TorPassword.h"
 #include "bridges/BridgePlan.h"
+#include "checks/TimeLimit.h"
 #include "controller/SettingRules.h"
 #include "platform/PlatformProfile.h"
 #include "system/OtherFirewalls.h"
@@ -25,10 +27,24 @@ QString flag(bool on)
     return on ? QStringLiteral("1") : QStringLiteral("0");
 }
 
+// The bridges that the helper's words name.
+QStringList linesIn(const QStringList &words)
+{
+    QStringList lines;
+    for (qsizetype at = 0; at + 1 < words.size(); ++at) {
+        if (words[at] == QLatin1String("--bridge"))
+            lines << words[++at];
+    }
+    return lines;
+}
+
 QCoro::Task<std::optional<ConnectTime>> noAnswer()
 {
     co_return std::nullopt;
 }
+
+// How long a connect waits for the first search for transports, for bridges in reserve alone.
+constexpr auto searchPatience = 3s;
 
 const QStringList programOptions = {QStringLiteral("--pt-lyrebird"),
                                     QStringLiteral("--pt-snowflake"),
@@ -135,12 +151,9 @@ QCoro::Task<Result<void, HelperError>> TorController::approve(Run attempt,
     co_return Result<void, HelperError>{};
 }
 
-TorController::Reserve TorController::reserveOf(std::vector<Rung> rungs,
-                                                const PluggableTransports &found) const
+void TorController::keepApproved(std::vector<Rung> &rungs, Reserve &reserve,
+                                 const PluggableTransports &found) const
 {
-    Reserve reserve;
-    if (rungs.empty())
-        return reserve;
     const auto missing = unapproved(Ladder::words(rungs, found));
     reserve.bundle = SignedBundle::words(m_services.profile, missing);
     // Bridges in reserve are not worth a question.
@@ -152,40 +165,69 @@ TorController::Reserve TorController::reserveOf(std::vector<Rung> rungs,
             const auto own = unapproved(Ladder::words({rung}, found));
             return std::any_of(own.begin(), own.end(), isAsked);
         });
-    reserve.words = Ladder::words(rungs, found);
-    reserve.rungs = std::move(rungs);
-    if (reserve.rungs.empty())
+    if (rungs.empty())
         reserve.bundle.clear();
-    return reserve;
+}
+
+bool TorController::isReserveOf(Climb wanted, const QString &custom) const
+{
+    return m_reserve.climb == wanted && m_reserve.customBridges == custom;
+}
+
+QCoro::Task<PluggableTransports> TorController::transportsForReserve(Run attempt)
+{
+    if (m_shownSearch != 0)
+        co_return transports();
+    // The first search is not over.
+    const ResumeOnce<PluggableTransports> wait;
+    completeAfter(&m_services.clock, searchPatience, wait, transports());
+    searchForReserve(attempt, wait);
+    const PluggableTransports found = co_await wait;
+    co_return found;
+}
+
+QCoro::Task<void> TorController::searchForReserve(Run attempt, ResumeOnce<PluggableTransports> wait)
+{
+    const quint64 search = ++m_transportSearch;
+    auto searching = m_services.locateWithoutAsking ? m_services.locateWithoutAsking()
+                                                    : m_services.locateTransports();
+    const PluggableTransports found = co_await searching;
+    if (!attempt.isOver())
+        showTransports(found, search);
+    wait.complete(found);
 }
 
 QCoro::Task<TorController::Reserve> TorController::planReserve(Run attempt, BridgeRequest request)
 {
     Reserve reserve;
+    reserve.climb = climb();
+    reserve.customBridges = request.customBridges;
     // An outdated helper, installed for password-free mode, does not know the option.
-    if (climb() == Climb::never || m_services.privileged.privilegedHelperOutdated())
+    if (reserve.climb == Climb::never || m_services.privileged.privilegedHelperOutdated())
         co_return reserve;
-    PluggableTransports found = transports();
-    if (m_shownSearch == 0) { // the first search is not over
-        const quint64 search = ++m_transportSearch;
-        auto searching = m_services.locateWithoutAsking ? m_services.locateWithoutAsking()
-                                                        : m_services.locateTransports();
-        const PluggableTransports answered = co_await searching;
-        if (attempt.isOver())
-            co_return reserve;
-        showTransports(answered, search);
-        found = answered;
-    }
-    reserve = reserveOf(
-        Ladder::rungs(request.choice, m_pendingBridgeLines, request.customBridges, found), found);
+    auto looking = transportsForReserve(attempt);
+    const PluggableTransports found = co_await looking;
+    if (attempt.isOver())
+        co_return reserve;
+    std::vector<Rung> rungs = Ladder::rungs(request.choice, m_pendingBridgeLines,
+                                            request.customBridges, found);
+    // A session that reaches nothing but its bridges stays so, unless the user wants to climb
+    // whatever it takes.
+    if (reserve.climb == Climb::ask && Ladder::isConfined(m_pendingBridgeLines))
+        rungs = Ladder::confined(std::move(rungs));
+    if (!rungs.empty())
+        keepApproved(rungs, reserve, found);
+    reserve.words = Ladder::words(rungs, found);
+    reserve.rungs = std::move(rungs);
     co_return reserve;
 }
 
-QCoro::Task<Result<void, HelperError>> TorController::runConnect(Run attempt, QStringList words)
+QCoro::Task<Result<TorController::Reserve, HelperError>> TorController::runConnect(
+    Run attempt, QStringList words, Reserve reserve)
 {
     QStringList bundle = bundleWords(m_services, words);
     if (bundle.isEmpty())
-        bundle = m_reserve.bundle;
+        bundle = reserve.bundle;
     std::vector<ProgramApproval> programs = unapproved(words);
     if (!bundle.isEmpty()) // root verifies the bundle's programs itself
         std::erase_if(programs, [this](const ProgramApproval &program) {
@@ -194,21 +236,24 @@ QCoro::Task<Result<void, HelperError>> TorController::runConnect(Run attempt, QS
     for (bool isByName = false;;) {
         auto approving = approve(attempt, programs);
         const auto approved = co_await approving;
-        if (attempt.isOver() || !approved)
-            co_return approved;
+        if (attempt.isOver())
+            co_return Failure(HelperError::cancelled()); // the result is unused
+        if (!approved)
+            co_return Failure(approved.error());
         statusDetail = Text::tr("Waiting for administrator approval…");
-        const QStringList asked = words + newWords(words, m_reserve.words) + bundle;
+        const QStringList asked = words + newWords(words, reserve.words) + bundle;
         const auto helper = co_await m_services.privileged.runHelper(asked);
         if (attempt.isOver())
             co_return Failure(HelperError::cancelled()); // the result is unused
         if (helper)
-            co_return Result<void, HelperError>{};
+            co_return reserve;
         if (helper.error().kind() != HelperError::Kind::UnapprovedProgram || isByName)
             co_return Failure(helper.error());
-        // The helper refused an unapproved program. Without the bridges in reserve it may be asked
-        // for less.
-        if (!m_reserve.words.isEmpty()) {
-            m_reserve = {};
+        // The helper refused an unapproved program, or one that root cannot read. Without the
+        // bridges in reserve it may be asked for less.
+        if (!reserve.words.isEmpty()) {
+            reserve.rungs.clear();
+            reserve.words.clear();
             bundle = bundleWords(m_services, words);
             programs.clear(); // they have been approved
             continue;
@@ -266,7 +311,7 @@ QCoro::Task<void> TorController::connect()
     // A left-over strict session still blocks traffic.
     const bool isBlocked = markedMode() == RoutingMode::strict;
     const BridgeRequest request{bridgeChoice(), customBridges(), optimizeSpeed(), isBlocked,
-                                m_activeBridgeLines};
+                                linesIn(m_sessionWords)};
     enterConnecting();
 
     const auto bridges = co_await bridgeArguments(attempt, request);
@@ -298,18 +343,20 @@ QCoro::Task<void> TorController::connect()
     if (!exit.isEmpty())
         arguments << QStringLiteral("--exit") << exit;
     arguments += *bridges;
-    // A session that is resumed keeps its bridges in reserve, too.
-    if (!isBlocked || arguments != m_sessionWords) {
+    // A session that is resumed keeps its bridges in reserve, too, also where others were found
+    // meanwhile.
+    Reserve reserve = m_reserve;
+    if (!isBlocked || arguments != m_sessionWords || !isReserveOf(climb(), request.customBridges)) {
         auto planning = planReserve(attempt, request);
-        const Reserve reserve = co_await planning;
+        reserve = co_await planning;
         if (attempt.isOver())
             co_return;
-        m_reserve = reserve;
     }
+    const bool isSame = arguments == m_sessionWords && reserve.words == m_reserve.words;
     // In password-free mode the helper itself decides whether it needs approval.
-    if (isBlocked && arguments != m_sessionWords && !m_services.privileged.passwordlessInstalled())
+    if (isBlocked && !isSame && !m_services.privileged.passwordlessInstalled())
         arguments[0] = QStringLiteral("replace");
-    auto running = runConnect(attempt, arguments);
+    auto running = runConnect(attempt, arguments, std::move(reserve));
     const auto helper = co_await running;
     if (attempt.isOver())
         co_return;
@@ -319,6 +366,7 @@ QCoro::Task<void> TorController::connect()
     }
     arguments[0] = QStringLiteral("connect");
     m_sessionWords = arguments;
+    m_reserve = *helper;
     m_sessionMark = SessionMark::present(m_services.profile);
 
     activeMode = strict ? RoutingMode::strict : RoutingMode::proxy;

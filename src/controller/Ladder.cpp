@@ -20,7 +20,7 @@ Text resultOf(RungWatch::Sign sign)
     case RungWatch::Sign::refused:
         return Text::tr("Refused, or out of reach.");
     case RungWatch::Sign::stalled:
-        return Text::tr("There was an answer, but Tor got no further.");
+        return Text::tr("Something answered, but Tor made no further progress.");
     case RungWatch::Sign::silent:
     case RungWatch::Sign::trying:
         break;
@@ -59,7 +59,8 @@ void TorController::endLadder()
 void TorController::failStep()
 {
     if (m_climbing.began)
-        endStep(resultOf(RungWatch::Sign::stalled));
+        endStep(resultOf(m_climbing.watch.hasAnswered() ? RungWatch::Sign::stalled
+                                                        : RungWatch::Sign::silent));
 }
 
 Text TorController::nothingHelps() const
@@ -67,15 +68,19 @@ Text TorController::nothingHelps() const
     std::vector<Text> names;
     for (const LadderStep &step : ladder())
         names.push_back(Ladder::name(step.rung));
-    return Text::tr("Tor gets nowhere in this network. Tried: %1.")
+    return Text::tr("Tor cannot connect in this network. Tried: %1.")
         .arg(Text::joined(names, QStringLiteral(", ")));
 }
 
 QCoro::Task<std::optional<Text>> TorController::followLadder(Run attempt, BootstrapStatus status,
-                                                             QString report)
+                                                             QString report, qint64 received)
 {
     Clock &clock = m_services.clock;
-    const auto sign = m_climbing.watch.look(status.progress, status.isRefused,
+    const int earlier = m_climbing.failuresBefore <= status.failures ? m_climbing.failuresBefore
+                                                                     : 0;
+    const bool isRefused = status.isRefused
+        && status.failures - earlier >= Ladder::refusals(m_activeBridgeLines);
+    const auto sign = m_climbing.watch.look({status.progress, isRefused, received},
                                             clock.now()
                                                 - m_climbing.freeSince.value_or(*m_climbing.since));
     const bool isLate = m_climbing.began && clock.now() - *m_climbing.began >= ladderLimit;
@@ -103,7 +108,7 @@ QCoro::Task<std::optional<Text>> TorController::followLadder(Run attempt, Bootst
         std::vector<Text> names;
         for (const Rung &rung : m_climbing.left)
             names.push_back(Ladder::name(rung.choice));
-        climbOffer = Text::tr("Tor gets nowhere in this network. Veldmark can try bridges: %1.")
+        climbOffer = Text::tr("Tor cannot connect in this network. Veldmark can try bridges: %1.")
                          .arg(Text::joined(names, QStringLiteral(", ")));
         co_return std::nullopt;
     }
@@ -141,6 +146,7 @@ QCoro::Task<std::optional<Text>> TorController::followLadder(Run attempt, Bootst
         m_climbing.since = clock.now();
         m_climbing.freeSince = std::nullopt;
         m_climbing.reportBefore = report;
+        m_climbing.failuresBefore = status.failures;
         m_climbing.logLines = TorLog(m_services.profile).read().lines().size();
         co_return std::nullopt;
     }

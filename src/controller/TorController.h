@@ -56,6 +56,7 @@ struct BootstrapStatus {
     int progress = 0; // per cent
     QString summary;  // Tor's own words; empty when the report has none
     Text warning;     // why Tor is stuck, a sentence; empty without a warning
+    int failures = 0; // since the last progress
     // The last connection was refused, or its address cannot be reached.
     bool isRefused = false;
 };
@@ -126,7 +127,7 @@ public:
     Setting<QString> customBridges{this, "customBridges", Scope::connection,
                                    Text::tr("your own bridge lines, as typed"), QString()};
     Setting<Climb> climb{this, "climb", Scope::connection,
-                         Text::tr("whether bridges are tried when Tor gets nowhere"), Climb::never};
+                         Text::tr("whether bridges are tried when Tor cannot connect"), Climb::ask};
     Setting<QStringList> bypassApps{
         this, "bypassApps", Scope::always,
         Text::tr("paths of applications that may be opened without Tor")};
@@ -387,20 +388,30 @@ private:
         std::vector<Rung> rungs;
         QStringList words;
         QStringList bundle; // the options that let root verify their programs
+        // The settings that it follows from.
+        Climb climb = Climb::never;
+        QString customBridges;
     };
     // Connect.cpp
     // What can be kept in reserve without an approval of its own.
     QCoro::Task<Reserve> planReserve(Run attempt, BridgeRequest request);
-    Reserve reserveOf(std::vector<Rung> rungs, const PluggableTransports &found) const;
+    // The transports that are known, or are found within a short time: a home that hangs does not
+    // hold up the connect.
+    QCoro::Task<PluggableTransports> transportsForReserve(Run attempt);
+    QCoro::Task<void> searchForReserve(Run attempt, ResumeOnce<PluggableTransports> wait);
+    void keepApproved(std::vector<Rung> &rungs, Reserve &reserve,
+                      const PluggableTransports &found) const;
+    bool isReserveOf(Climb wanted, const QString &custom) const;
     // Asks the administrator to approve each of these programs.
     QCoro::Task<Result<void, HelperError>> approve(Run attempt,
                                                    std::vector<ProgramApproval> programs);
     std::vector<ProgramApproval> unapproved(const QStringList &words) const;
     std::vector<ProgramApproval> namedPrograms(const QStringList &words) const;
     // Runs the helper's connect with the approvals that root needs for the programs in these words.
-    // The bridges of m_reserve come along, if root takes them without more. The result is unused
-    // once the attempt is old.
-    QCoro::Task<Result<void, HelperError>> runConnect(Run attempt, QStringList words);
+    // The bridges in reserve come along, if root takes them without more. The reserve that root has
+    // taken; unused once the attempt is old.
+    QCoro::Task<Result<Reserve, HelperError>> runConnect(Run attempt, QStringList words,
+                                                         Reserve reserve);
     QCoro::Task<Result<QStringList, Text>> bridgeArguments(Run attempt, BridgeRequest request);
     // Runs after a connect: the checks, then the optimisation of a slow path when the user wants
     // it.
@@ -417,7 +428,7 @@ private:
     // Looks whether the present rung is given up, and goes on to the next. The sentence of the
     // failure when nothing is left to try.
     QCoro::Task<std::optional<Text>> followLadder(Run attempt, BootstrapStatus status,
-                                                  QString report);
+                                                  QString report, qint64 received);
     void endStep(const Text &result);
     void endLadder(); // Tor has connected
     void failStep();  // the time is over, although Tor got on
@@ -494,6 +505,7 @@ private:
         std::optional<Clock::TimePoint> freeSince;   // the end of what kept it from beginning
         bool isObstructed = false;                   // by that, at the last look
         QString reportBefore;                        // Tor's last one before it
+        int failuresBefore = 0;                      // that it tells
         qsizetype logLines = 0;                      // of Tor's log before it
         std::optional<Clock::TimePoint> began;       // the first change to other bridges
     } m_climbing;

@@ -33,7 +33,8 @@ std::vector<Verb> makeTable()
          .handler = Handlers::connect},
         {.id = Id::climb,
          .name = QStringLiteral("climb"),
-         .help = Text::tr("try the bridges that are offered when Tor gets nowhere, see \"status\""),
+         .help = Text::tr(
+             "try the bridges that are offered when Tor cannot connect, see \"status\""),
          .handler = Handlers::climb},
         {.id = Id::disconnect,
          .name = disconnect,

@@ -37,7 +37,7 @@ struct Choices {
     bool optimizeSpeed = false;
     bool terminalMode = false;
     bool separateApps = true;
-    Climb climb = Climb::never;
+    Climb climb = Climb::ask;
 
     friend bool operator==(const Choices &, const Choices &) = default;
 };

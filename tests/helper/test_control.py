@@ -196,10 +196,10 @@ class Session(HelperTest):
             self.assertEqual(self.say(WORD, climb + "".join(f' Bridge="{line}"' for line in lines)), ["250 OK"] * 2)
             config = self.config().splitlines()
             self.assertEqual([line for line in config if "Bridge" in line], [*(f"Bridge {line}" for line in lines), "UseBridges 1"])
-        # The lines are for Tor's account alone, and are gone with the next session.
+        # The lines are for root and the filter alone, and are gone with the next session.
         place = "/var/lib/veldmark/run/reserve"
-        self.assertEqual(self.machine.shell(f"stat -c '%U %G %a' {place}"), "root _veldmark 640\n")
-        for uid in USER_UID, OTHER_UID:
+        self.assertEqual(self.machine.shell(f"stat -c '%U %G %a' {place}"), "root root 600\n")
+        for uid in USER_UID, OTHER_UID, self.machine.shell("id -u _veldmark").strip():
             self.assertNotEqual(self.machine.run("cat", place, uid=uid, check=False).returncode, 0)
         self.machine.help("disconnect")
         self.connect()
@@ -240,6 +240,20 @@ class Session(HelperTest):
             self.connect(more=self.IN_RESERVE)
         finally:
             self.machine.shell("rm /home/alice/lyrebird")
+
+    def test_a_program_that_is_not_to_be_had_does_not_count_against_a_connect_without_the_reserve(self):
+        """With the status of a missing approval the caller asks again without the reserve. Bridges in use need their program."""
+        self.machine.shell("install -m 0111 -o root /usr/bin/obfs4proxy /home/alice/lyrebird")
+        try:
+            for path, says in (
+                ("/home/alice/lyrebird", "The program /home/alice/lyrebird cannot be copied."),
+                ("/home/alice/none", "The program given with --pt-lyrebird is not an executable file."),
+            ):
+                for lines, status in (self.IN_RESERVE[:-2], 4), (("--bridge", self.RESERVE[1]), 1):
+                    done = self.connect(more=(*lines, "--pt-lyrebird", path), check=False)
+                    self.assertEqual((done.returncode, done.stderr, self.filters()), (status, f"ERROR: {says}\n", []))
+        finally:
+            self.machine.shell("rm -f /home/alice/lyrebird")
 
     def test_without_the_filter_the_same_is_taken(self):
         """As in a build folder of a user's, whose copy does not run: Tor has the port itself."""
@@ -644,15 +658,16 @@ class Program(HelperTest):
         self.machine.shell("! test -e /run/started")
 
     def test_without_the_bridges_in_reserve_it_starts_nothing(self):
-        self.machine.shell("printf 'a\\nb\"\\n' >/run/reserve; chmod 0644 /run/reserve")
-        for place, reason in ("/no/such", "No such file or directory"), ("/run/reserve", "Invalid argument"):
-            words = (FILTER, "127.0.0.1", "19051", "/x", place, "--", "/bin/touch", "/run/started")
-            done = self.machine.run(*words, check=False)
+        self.machine.shell("printf 'a\\nb\"\\n' >/run/reserve")
+        start = f"{FILTER} 127.0.0.1 19051 /x - -- /bin/sh -c 'cat >/run/started'"
+        for place, reason in (">&-", "Bad file descriptor"), ("</run", "Is a directory"), ("</run/reserve", "Invalid argument"):
+            done = self.machine.run("sh", "-c", f"{start} 0{place}", check=False)
             self.assertEqual((done.returncode, done.stdout), (1, f"[err] The bridges in reserve cannot be read: {reason}.\n"))
         self.machine.shell("! test -e /run/started")
+        # Tor, which is started after that, cannot read them: its input is empty, also from the beginning of the file.
         self.machine.shell("printf 'a\\n' >/run/reserve")
-        self.machine.run(FILTER, "127.0.0.1", "19051", "/x", "/run/reserve", "--", "/bin/touch", "/run/started")
-        self.machine.shell("rm /run/started")
+        self.machine.shell(f"{start} </run/reserve")
+        self.assertEqual(self.machine.shell("cat /run/started; rm /run/started"), "")
 
 
 if __name__ == "__main__":

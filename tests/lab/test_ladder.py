@@ -67,7 +67,7 @@ class Ladder(LabCase):
         self.use("ask", self.lab.tor.bridge_line("obfs4"))
         with self.censor("drop"), self.lab.capture() as capture, self.product.session() as session:
             offered = session.wait(lambda state: state["climbOffer"])
-            self.assertEqual(offered["climbOffer"], "Tor gets nowhere in this network. Veldmark can try bridges: Your bridges.")
+            self.assertEqual(offered["climbOffer"], "Tor cannot connect in this network. Veldmark can try bridges: Your bridges.")
             self.assertEqual((offered["phase"], offered["activeBridge"], offered["ladder"]), ("connecting", None, []))
             self.assertNotIn(OBFS4.address, {p.dst for p in capture.packets})
             started = self.helped()
@@ -105,7 +105,7 @@ class Ladder(LabCase):
             begin = time.monotonic()
             state = session.wait(lambda state: state["phase"] == "stale", 180)
             self.assertLess(time.monotonic() - begin, 180)
-            self.assertEqual(state["errorMessage"], "Tor gets nowhere in this network. Tried: Direct, Your bridges." + RESTORE)
+            self.assertEqual(state["errorMessage"], "Tor cannot connect in this network. Tried: Direct, Your bridges." + RESTORE)
             self.assertEqual(self.results(state), [("direct", "No answer."), ("custom", "No answer.")])
             self.assertEqual(session.interrupt(), 0, session.output)
         self.assert_restored()

@@ -391,10 +391,11 @@ void Workbench::removeTor() const
         QFile::remove(path);
 }
 
-void Workbench::setBootstrap(const QByteArray &fields)
+void Workbench::setBootstrap(const QByteArray &fields, qint64 received)
 {
     tor.reply(bootstrapCommand,
-              "250-status/bootstrap-phase=NOTICE BOOTSTRAP " + fields + "\r\n250 OK\r\n");
+              "250-status/bootstrap-phase=NOTICE BOOTSTRAP " + fields
+                  + "\r\n250-traffic/read=" + QByteArray::number(received) + "\r\n250 OK\r\n");
 }
 
 void Workbench::setCounters(const QByteArray &read, const QByteArray &written)

@@ -37,7 +37,7 @@ public:
     enum class System { linux, macos };
     // The data of a test that runs on both systems: one column "system".
     static void bothSystems();
-    static constexpr auto bootstrapCommand = "GETINFO status/bootstrap-phase";
+    static constexpr auto bootstrapCommand = "GETINFO status/bootstrap-phase traffic/read";
     static constexpr auto countersCommand
         = "GETINFO traffic/read traffic/written status/circuit-established";
 
@@ -92,7 +92,8 @@ public:
     void removeTor() const;
 
     // Tor's answer to the bootstrap query: "PROGRESS=… TAG=… SUMMARY=…".
-    void setBootstrap(const QByteArray &fields);
+    // `received`: bytes that Tor has got since its start.
+    void setBootstrap(const QByteArray &fields, qint64 received = 0);
     void setCounters(const QByteArray &read, const QByteArray &written);
     // "250+key=", lines, ".", "250 OK".
     static QByteArray block(const QByteArray &key, const QByteArrayList &lines);

@@ -166,7 +166,7 @@ std::vector<Scene> panel()
     s.bootstrapProblem.reset();
     s.bootstrapProgress = 0.05;
     s.statusDetail = QStringLiteral("Connecting to a relay");
-    s.climbOffer = Text::tr("Tor gets nowhere in this network. Veldmark can try bridges: %1.")
+    s.climbOffer = Text::tr("Tor cannot connect in this network. Veldmark can try bridges: %1.")
                        .arg(QStringLiteral("obfs4, Snowflake"));
     add("connecting-strict-offer", s);
     s.climbOffer.reset();
@@ -296,10 +296,10 @@ std::vector<Scene> panel()
     add("stale-proxy-tor-died", s);
     s.activeMode = RoutingMode::strict;
     s.choices.strictMode = true;
-    s.ladder = {
-        {BridgeChoice::off, Text::tr("No answer."), 15},
-        {BridgeChoice::obfs4, Text::tr("There was an answer, but Tor got no further."), 34}};
-    s.errorMessage = Text::tr("Tor gets nowhere in this network. Tried: %1.")
+    s.ladder = {{BridgeChoice::off, Text::tr("No answer."), 15},
+                {BridgeChoice::obfs4,
+                 Text::tr("Something answered, but Tor made no further progress."), 34}};
+    s.errorMessage = Text::tr("Tor cannot connect in this network. Tried: %1.")
                          .arg(QStringLiteral("Direct, obfs4"));
     s.statusDetail = Text::tr("Tor didn't finish connecting");
     add("stale-strict-ladder", s);

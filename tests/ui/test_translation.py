@@ -117,7 +117,7 @@ class Helper(unittest.TestCase):
     def said(self):
         for path in (ROOT / "resources" / "helper").glob("*.sh"):
             text = re.sub(r"(?m)^\s*#.*$", "", path.read_text())
-            for match in re.finditer(r'(?:\b(?:die|unapproved|say) |\b(?:UNDONE|reason|STAYS_CLOSED)=(?:\$\{\w+:-)?)"', text):
+            for match in re.finditer(r'(?:\b(?:die|unapproved|no_program|say) |\b(?:UNDONE|reason|STAYS_CLOSED)=(?:\$\{\w+:-)?)"', text):
                 yield self.form(text, match.end()).strip()
             yield from re.findall(r":-((?:[A-Z][a-z]+|it) [^}\"$]*\.)\}", text)
             yield from (words.replace("%s", "%1") for words in re.findall(r"printf '(a program [^']*)'", text))

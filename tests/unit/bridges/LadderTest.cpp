@@ -148,43 +148,100 @@ private Q_SLOTS:
     void silenceIsGivenUpInTime()
     {
         RungWatch watch(15s, 0);
-        QVERIFY(watch.look(5, false, 0s) == Sign::trying);
-        QVERIFY(watch.look(10, false, 14s) == Sign::trying);
-        // A connection that is no relay's is not an answer.
-        QVERIFY(watch.look(14, false, 15s) == Sign::silent);
+        QVERIFY(watch.look({5, false, 0}, 0s) == Sign::trying);
+        QVERIFY(watch.look({10, false, 0}, 14s) == Sign::trying);
+        // A connection that is no relay's is not an answer, whatever it sends.
+        QVERIFY(watch.look({14, false, 1 << 20}, 15s) == Sign::silent);
         QVERIFY(!watch.hasAnswered());
     }
 
     void aRefusalIsGivenUpSooner()
     {
         RungWatch watch(15s, 0);
-        QVERIFY(watch.look(5, true, 4s) == Sign::trying);  // another relay may answer
-        QVERIFY(watch.look(10, true, 6s) == Sign::trying); // it gets on
-        QVERIFY(watch.look(10, true, 10s) == Sign::trying);
-        QVERIFY(watch.look(10, true, 11s) == Sign::refused);
-        QVERIFY(watch.look(15, true, 12s) == Sign::trying);
+        QVERIFY(watch.look({5, true, 0}, 4s) == Sign::trying);  // another relay may answer
+        QVERIFY(watch.look({10, true, 0}, 6s) == Sign::trying); // it gets on
+        QVERIFY(watch.look({10, true, 0}, 10s) == Sign::trying);
+        QVERIFY(watch.look({10, true, 0}, 11s) == Sign::refused);
+        QVERIFY(watch.look({15, true, 0}, 12s) == Sign::trying);
     }
 
     void anAnswerGivesTimeAsLongAsTorGetsOn()
     {
         RungWatch watch(15s, 0);
-        QVERIFY(watch.look(15, false, 10s) == Sign::trying);
-        QVERIFY(watch.look(15, false, 39s) == Sign::trying);
-        QVERIFY(watch.look(30, false, 39s) == Sign::trying);
-        QVERIFY(watch.look(30, false, 83s) == Sign::trying);
-        QVERIFY(watch.look(30, false, 84s) == Sign::stalled);
+        QVERIFY(watch.look({15, false, 0}, 10s) == Sign::trying);
+        QVERIFY(watch.look({15, false, 0}, 39s) == Sign::trying);
+        QVERIFY(watch.look({30, false, 0}, 39s) == Sign::trying);
+        QVERIFY(watch.look({30, false, 0}, 83s) == Sign::trying);
+        QVERIFY(watch.look({30, false, 0}, 84s) == Sign::stalled);
         QVERIFY(watch.hasAnswered());
+    }
+
+    void aSlowNetworkThatWorksGetsOn()
+    {
+        constexpr qint64 slow = RungWatch::slowBytes;
+        RungWatch watch(15s, 0);
+        QVERIFY(watch.look({30, false, 1000}, 10s) == Sign::trying);
+        QVERIFY(watch.look({30, false, 1000 + slow - 1}, 50s) == Sign::trying);
+        QVERIFY(watch.look({30, false, 1000 + slow}, 54s) == Sign::trying);
+        QVERIFY(watch.look({30, false, 1000 + slow * 2}, 98s) == Sign::trying);
+        // Less than that does not load the list of relays.
+        QVERIFY(watch.look({30, false, 1000 + slow * 3 - 1}, 142s) == Sign::trying);
+        QVERIFY(watch.look({30, false, 1000 + slow * 3 - 1}, 143s) == Sign::stalled);
     }
 
     void progressFromAnEarlierRungIsNoAnswer()
     {
         RungWatch watch(15s, 30);
         // Its handshake is not to be seen, so it has longer.
-        QVERIFY(watch.look(30, true, 29s) == Sign::trying);
+        QVERIFY(watch.look({30, true, 1 << 20}, 29s) == Sign::trying);
         QVERIFY(!watch.hasAnswered());
-        QVERIFY(watch.look(30, false, 30s) == Sign::silent);
-        QVERIFY(watch.look(30, true, 30s) == Sign::refused);
-        QVERIFY(watch.look(45, false, 31s) == Sign::trying && watch.hasAnswered());
+        QVERIFY(watch.look({30, false, 1 << 20}, 30s) == Sign::silent);
+        QVERIFY(watch.look({30, true, 1 << 20}, 30s) == Sign::refused);
+        QVERIFY(watch.look({45, false, 1 << 20}, 31s) == Sign::trying && watch.hasAnswered());
+    }
+
+    void whatComesInShowsAnAnswerThatProgressDoesNot()
+    {
+        constexpr qint64 answer = RungWatch::answerBytes;
+        RungWatch watch(15s, 30);
+        QVERIFY(watch.look({30, false, 5000}, 0s) == Sign::trying);
+        QVERIFY(watch.look({30, false, 5000 + answer - 1}, 28s) == Sign::trying);
+        QVERIFY(!watch.hasAnswered());
+        QVERIFY(watch.look({30, false, 5000 + answer}, 29s) == Sign::trying);
+        QVERIFY(watch.hasAnswered());
+        QVERIFY(watch.look({30, false, 5000 + answer * 2}, 73s) == Sign::trying);
+        QVERIFY(watch.look({30, false, 5000 + answer * 2}, 74s) == Sign::stalled);
+    }
+
+    void oneRefusalOfSeveralSaysNothing()
+    {
+        for (const auto &[many, refusals] : {std::pair{0, 3}, {1, 1}, {2, 2}, {3, 3}, {4, 3}})
+            QCOMPARE(Ladder::refusals(QStringList(many, u"192.0.2.1:443"_s)), refusals);
+    }
+
+    void bridgesThatAreReachedByTheirAddressConfine()
+    {
+        const QString plain = u"192.0.2.9:443"_s;
+        const QString meek = u"meek_lite 192.0.2.4:80 url=https://a/"_s;
+        QVERIFY(Ladder::isConfined({plain}));
+        QVERIFY(
+            Ladder::isConfined({obfs4(1), u"obfs3 192.0.2.5:1"_s, u"scramblesuit 192.0.2.6:1"_s}));
+        QVERIFY(!Ladder::isConfined({}));
+        QVERIFY(!Ladder::isConfined({obfs4(1), meek}));
+        for (const char *front : {"snowflake", "meek_lite", "webtunnel"})
+            QVERIFY(!Ladder::isConfined({QString::fromLatin1(front) + u" 192.0.2.3:80"_s}));
+        const std::vector<Rung> rungs = {{BridgeChoice::custom, {plain, meek}},
+                                         {BridgeChoice::obfs4, {obfs4(1)}},
+                                         {BridgeChoice::meek, {meek}}};
+        QVERIFY(Ladder::confined(rungs) == std::vector<Rung>({rungs[1]}));
+    }
+
+    void portsThatNoneHasAreLeftOut()
+    {
+        QCOMPARE(names(BridgeChoice::obfs4, {}, u"192.0.2.9:0\n192.0.2.9:70000"_s),
+                 QStringList({u"snowflake"_s, u"meek"_s}));
+        QCOMPARE(names(BridgeChoice::obfs4, {}, u"192.0.2.9:0\n192.0.2.9:65535"_s),
+                 QStringList({u"custom"_s, u"snowflake"_s, u"meek"_s}));
     }
 
     void theChoicesWords()

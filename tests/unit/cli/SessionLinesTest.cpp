@@ -79,7 +79,7 @@ private Q_SLOTS:
         c.customBridges.set(u"192.0.2.1:443"_s);
         c.climb.set(Climb::ask);
         bench.tor.reply("SETCONF UseBridges=1 Bridge=\"192.0.2.1:443\"", "250 OK\r\n");
-        bench.setBootstrap("PROGRESS=5 TAG=conn REASON=NOROUTE SUMMARY=\"Connecting\"");
+        bench.setBootstrap("PROGRESS=5 TAG=conn REASON=NOROUTE COUNT=3 SUMMARY=\"Connecting\"");
         const SessionLines lines(c);
         const auto pass = [&bench](int seconds) {
             for (int second = 0; second < seconds; ++second) {

@@ -6,8 +6,13 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <array>
 #include <cerrno>
 #include <fstream>
+#include <thread>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 using namespace veldmark;
 using namespace std::string_literals;
@@ -229,7 +234,12 @@ private Q_SLOTS:
         const std::string path = folder.filePath(QStringLiteral("reserve")).toStdString();
         const auto read = [&path](const std::string &text) {
             std::ofstream(path, std::ios::trunc) << text;
-            return readReserve(path.c_str());
+            const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+            const auto lines = readReserve(file);
+            const int reason = errno;
+            close(file);
+            errno = reason;
+            return lines;
         };
         QVERIFY(read(obfs4 + '\n' + plain + '\n') == reserve);
         QVERIFY(read(obfs4 + '\n' + plain) == reserve);
@@ -241,11 +251,22 @@ private Q_SLOTS:
         for (const std::string &bad :
              {many + plain + '\n', "\n"s, plain + "\n\n", plain + "\"\n", plain + "\\\n",
               plain + "\r\n", plain + "\t\n", plain + "\0\n"s, plain + "\xc3\xa4\n",
-              plain + std::string(4096, 'a')})
+              plain + std::string(4096, 'a'), std::string(1 << 20, '\n')})
             QVERIFY2(!read(bad), bad.substr(0, 80).c_str());
         QCOMPARE(errno, EINVAL);
-        QVERIFY(!readReserve((path + "2").c_str()));
-        QCOMPARE(errno, ENOENT);
+        QVERIFY(!readReserve(-1));
+        QCOMPARE(errno, EBADF);
+        // Through a pipe, in pieces.
+        std::array<int, 2> pipe{};
+        QCOMPARE(::pipe(pipe.data()), 0);
+        std::thread writer([&pipe] {
+            for (const char c : obfs4 + '\n' + plain + '\n')
+                QCOMPARE(write(pipe[1], &c, 1), 1);
+            close(pipe[1]);
+        });
+        QVERIFY(readReserve(pipe[0]) == reserve);
+        writer.join();
+        close(pipe[0]);
     }
 
     void whatTorMayDivideOtherwiseEndsTheConnection_data()

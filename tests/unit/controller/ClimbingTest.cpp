@@ -19,8 +19,12 @@ const QByteArray toOwn = "SETCONF UseBridges=1 Bridge=\"192.0.2.1:443\"";
 const QByteArray toObfs4 = "SETCONF UseBridges=1 Bridge=\"obfs4 192.0.2.2:443 cert=a iat-mode=0\"";
 const QByteArray toMeek = "SETCONF UseBridges=1 Bridge=\"meek_lite 192.0.2.3:80 url=https://a/\"";
 const QByteArray silent = "PROGRESS=5 TAG=conn SUMMARY=\"Connecting to a relay\"";
-const QByteArray refused = silent
-    + " WARNING=\"Connection refused\" REASON=CONNECTREFUSED COUNT=1 RECOMMENDATION=ignore";
+
+QByteArray refusals(int count)
+{
+    return silent + " WARNING=\"Connection refused\" REASON=CONNECTREFUSED COUNT="
+        + QByteArray::number(count) + " RECOMMENDATION=ignore";
+}
 
 class Shouting final : public QTranslator {
 public:
@@ -33,7 +37,7 @@ public:
 
 } // namespace
 
-// From a network in which Tor gets nowhere to bridges, without another run of the helper.
+// From a network in which Tor cannot connect to bridges, without another run of the helper.
 class ClimbingTest : public QObject {
     Q_OBJECT
 private:
@@ -74,6 +78,8 @@ private:
             && until([&] { return bench.clock.sleepers() == 2; });
     }
 
+    static QCoro::Task<void> waitFor(ResumeOnce<bool> gate) { co_await gate; }
+
     static QStringList steps(const TorController &c)
     {
         QStringList lines;
@@ -98,7 +104,7 @@ private Q_SLOTS:
         QCOMPARE(bench.commandCount(toOwn), 1);
         QVERIFY(c.activeBridge() == BridgeChoice::custom);
         QVERIFY(c.canCancel() && !c.climbOffer());
-        bench.setBootstrap(refused);
+        bench.setBootstrap(refusals(1));
         QVERIFY(pass(bench, 4));
         QCOMPARE(bench.commandCount(toObfs4), 0);
         QVERIFY(pass(bench, 1));
@@ -129,7 +135,7 @@ private Q_SLOTS:
     {
         Workbench bench;
         provide(bench, Climb::always);
-        bench.setBootstrap(refused);
+        bench.setBootstrap(refusals(3));
         const auto connecting = bench.controller().connect();
         QVERIFY(begins(bench));
         QVERIFY(pass(bench, 5));
@@ -139,6 +145,86 @@ private Q_SLOTS:
         QVERIFY(!bench.controller().bootstrapProblem());
         QVERIFY(pass(bench, 1));
         QCOMPARE(steps(bench.controller()).at(1), u"Your bridges: No answer. (15 s)"_s);
+    }
+
+    void aFewRefusalsAreNotTheNetworks()
+    {
+        Workbench bench;
+        provide(bench, Climb::always);
+        bench.setBootstrap(refusals(2));
+        const auto connecting = bench.controller().connect();
+        QVERIFY(begins(bench));
+        QVERIFY(pass(bench, 14));
+        QCOMPARE(bench.commandCount(toOwn), 0);
+        bench.setBootstrap(refusals(3)); // of relays; the first bridges have two lines
+        QVERIFY(pass(bench, 1));
+        QCOMPARE(bench.commandCount(toOwn), 1);
+        QCOMPARE(steps(bench.controller()).first(), u"Direct: Refused, or out of reach. (15 s)"_s);
+        // Tor goes on counting: the third is of the relays, the fourth the first of the bridges'.
+        bench.controller().customBridges.set(own);
+        bench.setBootstrap(refusals(4));
+        QVERIFY(pass(bench, 4));
+        QCOMPARE(bench.commandCount(toObfs4), 0);
+        QVERIFY(pass(bench, 1)); // the one bridge
+        QCOMPARE(bench.commandCount(toObfs4), 1);
+    }
+
+    void ofSeveralBridgesEachMustRefuse()
+    {
+        Workbench bench;
+        provide(bench, Climb::always);
+        bench.controller().customBridges.set(own + u"\n192.0.2.1:444"_s);
+        bench.tor.reply(toOwn + " Bridge=\"192.0.2.1:444\"", "250 OK\r\n");
+        bench.setBootstrap(refusals(3));
+        const auto connecting = bench.controller().connect();
+        QVERIFY(begins(bench));
+        QVERIFY(pass(bench, 5));
+        QCOMPARE(steps(bench.controller()).size(), 2);
+        bench.setBootstrap(refusals(4));
+        QVERIFY(pass(bench, 10));
+        QCOMPARE(bench.commandCount(toObfs4), 0);
+        bench.setBootstrap(refusals(5));
+        QVERIFY(pass(bench, 1));
+        QCOMPARE(bench.commandCount(toObfs4), 1);
+    }
+
+    // Tor's progress stands still while it loads the list of relays, and its counter does not.
+    void aSlowNetworkIsNotLeft()
+    {
+        Workbench bench;
+        provide(bench, Climb::always);
+        const QByteArray loading = "PROGRESS=30 TAG=loading_status SUMMARY=\"Loading\"";
+        const auto connecting = bench.controller().connect();
+        QVERIFY(begins(bench));
+        bench.setBootstrap(loading, 1000);
+        QVERIFY(pass(bench, 40));
+        bench.setBootstrap(loading, 1000 + RungWatch::slowBytes);
+        QVERIFY(pass(bench, 40));
+        bench.setBootstrap(loading, 1000 + RungWatch::slowBytes * 2);
+        QVERIFY(pass(bench, 45));
+        QCOMPARE(bench.commandCount(toOwn), 0);
+        QVERIFY(pass(bench, 1)); // 45 s after the last of it
+        QCOMPARE(bench.commandCount(toOwn), 1);
+    }
+
+    // Tor's account then still reaches nothing but bridges.
+    void aConfinedSessionIsNotLoosenedWithoutTheUsersWish()
+    {
+        for (const auto &[climb, kept] :
+             {std::pair{Climb::ask, QStringList{own}}, {Climb::always, {own, meek}}}) {
+            Workbench bench;
+            provide(bench, climb);
+            bench.controller().bridgeChoice.set(BridgeChoice::obfs4);
+            const auto connecting = bench.controller().connect();
+            QVERIFY(begins(bench));
+            const QStringList words = bench.lastHelperRun(u"connect"_s);
+            QStringList reserved;
+            for (qsizetype at = 0; at < words.size(); ++at) {
+                if (words[at] == u"--reserve")
+                    reserved << words[at + 1];
+            }
+            QCOMPARE(reserved, kept);
+        }
     }
 
     void asksBeforeTheFirstRungAlone()
@@ -154,7 +240,7 @@ private Q_SLOTS:
         QVERIFY(pass(bench, 1));
         QCOMPARE(
             c.climbOffer().value(),
-            u"Tor gets nowhere in this network. Veldmark can try bridges: Your bridges, obfs4, meek."_s);
+            u"Tor cannot connect in this network. Veldmark can try bridges: Your bridges, obfs4, meek."_s);
         QVERIFY(pass(bench, 60));
         QCOMPARE(bench.commandCount(toOwn), 0);
         QVERIFY(c.ladder().empty() && !c.activeBridge());
@@ -255,7 +341,7 @@ private Q_SLOTS:
         QVERIFY(c.phase() == ConnectionPhase::stale);
         QCOMPARE(
             c.errorMessage().value(),
-            u"Tor gets nowhere in this network. Tried: Direct, Your bridges, obfs4, meek. Your "
+            u"Tor cannot connect in this network. Tried: Direct, Your bridges, obfs4, meek. Your "
             "network is still pointed at Tor. Click Restore Network to undo."_s);
         QCOMPARE(steps(c).last(), u"meek: No answer. (25 s)"_s);
         QVERIFY(!c.canCancel());
@@ -281,8 +367,8 @@ private Q_SLOTS:
         }
         QVERIFY(c.phase() == ConnectionPhase::stale);
         QVERIFY2(seconds > 15 + 30 && seconds <= 180, qPrintable(QString::number(seconds)));
-        QVERIFY(
-            steps(c).last().startsWith(u"meek: There was an answer, but Tor got no further."_s));
+        QVERIFY(steps(c).last().startsWith(
+            u"meek: Something answered, but Tor made no further progress."_s));
     }
 
     void bridgesThatTorRefusesArePassedOver()
@@ -461,6 +547,114 @@ private Q_SLOTS:
         // Anything else would be another session, which needs an administrator.
         QCOMPARE(bench.helperRunCount(u"replace"_s), 0);
         QCOMPARE(bench.lastHelperRun(u"connect"_s), words);
+    }
+
+    // What the user has changed meanwhile counts.
+    void aSessionThatIsResumedObeysTheSettings()
+    {
+        const std::array<std::function<void(TorController &)>, 2> changes = {
+            [](TorController &c) { c.climb.set(Climb::never); },
+            [](TorController &c) { c.customBridges.set(u"192.0.2.77:443"_s); },
+        };
+        for (const auto &change : changes) {
+            Workbench bench;
+            provide(bench, Climb::ask);
+            TorController &c = bench.controller();
+            c.strictMode.set(true);
+            bench.setBootstrap("PROGRESS=100 TAG=done SUMMARY=\"Done\"");
+            QVERIFY(bench.connect());
+            QVERIFY(bench.lastHelperRun(u"connect"_s).contains(own));
+            bench.tor.stopListening();
+            QVERIFY(until([&] {
+                bench.clock.advance(2s);
+                settle();
+                return c.phase() == ConnectionPhase::stale;
+            }));
+            bench.tor.listen();
+            change(c);
+            QVERIFY(bench.connect());
+            QCOMPARE(bench.helperRunCount(u"replace"_s), 1);
+            QVERIFY(!bench.lastHelperRun(u"replace"_s).contains(own));
+        }
+    }
+
+    // Another attempt of that kind asks root for the same, not for a change.
+    void aConnectThatFailedLeavesTheSessionsReserve()
+    {
+        Workbench bench;
+        provide(bench, Climb::ask);
+        TorController &c = bench.controller();
+        c.strictMode.set(true);
+        bench.setBootstrap("PROGRESS=100 TAG=done SUMMARY=\"Done\"");
+        QVERIFY(bench.connect());
+        const QStringList words = bench.lastHelperRun(u"connect"_s);
+        bench.tor.stopListening();
+        QVERIFY(until([&] {
+            bench.clock.advance(2s);
+            settle();
+            return c.phase() == ConnectionPhase::stale;
+        }));
+        bench.tor.listen();
+        c.climb.set(Climb::never);
+        bench.cancelPrompt(u"connect"_s);
+        QVERIFY(!bench.connect());
+        QCOMPARE(bench.helperRunCount(u"replace"_s), 1);
+        bench.letHelperWork();
+        c.climb.set(Climb::ask);
+        QVERIFY(bench.connect());
+        QCOMPARE(bench.helperRunCount(u"replace"_s), 1);
+        QCOMPARE(bench.lastHelperRun(u"connect"_s), words);
+    }
+
+    // Its bridges are those that the session began with, not those that it climbed to.
+    void aSessionThatHasClimbedIsResumedAsItBegan()
+    {
+        Workbench bench;
+        provide(bench, Climb::always);
+        bench.transports.builtin[u"obfs4"_s] = {obfs4, u"obfs4 192.0.2.5:443 cert=a iat-mode=0"_s};
+        const auto searching = bench.controller().locateTransports();
+        QVERIFY(Workbench::finished(searching));
+        TorController &c = bench.controller();
+        c.strictMode.set(true);
+        c.optimizeSpeed.set(true);
+        c.bridgeChoice.set(BridgeChoice::obfs4);
+        const auto connecting = c.connect();
+        QVERIFY(bench.hears(Workbench::bootstrapCommand));
+        bench.clock.advance(3s); // the end of the speed test's time
+        QVERIFY(begins(bench));
+        const QStringList words = bench.lastHelperRun(u"connect"_s);
+        QVERIFY(pass(bench, 15));
+        QCOMPARE(bench.commandCount(toOwn), 1);
+        bench.setBootstrap("PROGRESS=100 TAG=done SUMMARY=\"Done\"");
+        bench.clock.advance(1s);
+        QVERIFY(Workbench::finished(connecting));
+        QVERIFY(c.activeBridge() == BridgeChoice::custom);
+        bench.tor.stopListening();
+        QVERIFY(until([&] {
+            bench.clock.advance(2s);
+            settle();
+            return c.phase() == ConnectionPhase::stale;
+        }));
+        bench.tor.listen();
+        QVERIFY(bench.connect());
+        QCOMPARE(bench.helperRunCount(u"replace"_s), 0);
+        QCOMPARE(bench.lastHelperRun(u"connect"_s), words);
+    }
+
+    // The first search reads the user's home.
+    void aSearchThatHangsDoesNotHoldUpTheConnect()
+    {
+        Workbench bench;
+        const ResumeOnce<bool> gate;
+        bench.beforeSearchAnswer = [gate] { return waitFor(gate); };
+        provide(bench, Climb::ask);
+        const auto connecting = bench.controller().connect();
+        settle();
+        QVERIFY(bench.helperRuns().empty());
+        bench.clock.advance(3s);
+        QVERIFY(bench.hears(Workbench::bootstrapCommand));
+        const QStringList words = bench.lastHelperRun(u"connect"_s);
+        QCOMPARE(words.mid(words.indexOf(u"--reserve"_s)), QStringList({u"--reserve"_s, own}));
     }
 };
 

@@ -116,7 +116,7 @@ std::vector<Operation> operations()
              for (int poll = 0; poll < 7; ++poll)
                  b.tor.replyOnce(Workbench::bootstrapCommand,
                                  "250-status/bootstrap-phase=WARN BOOTSTRAP PROGRESS=5 "
-                                 "REASON=CONNECTREFUSED\r\n250 OK\r\n");
+                                 "REASON=CONNECTREFUSED COUNT=3\r\n250 OK\r\n");
              b.tor.reply("SETCONF UseBridges=1 Bridge=\"192.0.2.1:443\"", "250 OK\r\n");
              return b.controller().connect();
          },

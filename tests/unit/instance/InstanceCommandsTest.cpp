@@ -129,7 +129,7 @@ private Q_SLOTS:
         c.customBridges.set(u"192.0.2.1:443"_s);
         c.climb.set(Climb::ask);
         instance.bench.tor.reply("SETCONF UseBridges=1 Bridge=\"192.0.2.1:443\"", "250 OK\r\n");
-        instance.bench.setBootstrap("PROGRESS=5 TAG=conn REASON=NOROUTE");
+        instance.bench.setBootstrap("PROGRESS=5 TAG=conn REASON=NOROUTE COUNT=3");
         Conversation early(instance.bench, "climb");
         QCOMPARE(early.error(), u"No bridges are offered now."_s);
         const auto connecting = c.connect();
