@@ -221,6 +221,11 @@ needs_root() {
     [[ $EUID -eq 0 ]] || die "$1 by root: run sudo ./build.sh $verb"
 }
 
+# needs_namespaces WHAT: likewise.
+needs_namespaces() {
+    unshare --mount --net --pid --fork true 2>/dev/null || die "$1 in namespaces, which this machine does not permit"
+}
+
 # needs_open_folder: root's tests run programs of this tree as other users, who cannot enter a folder such as /root.
 needs_open_folder() {
     local folder=$PWD
@@ -279,6 +284,7 @@ test)
     ;;
 fresh-test)
     needs_root "a clean Debian is made"
+    needs_namespaces "a clean Debian is made"
     deps
     exec /usr/bin/python3 tests/package/fresh.py "$@"
     ;;
@@ -310,12 +316,14 @@ tsan)
 package) package ;;
 package-test)
     needs_root "a clean Debian is entered"
+    needs_namespaces "a clean Debian is entered"
     deps
     package
     exec /usr/bin/python3 tests/package/test_debian.py build/veldmark_*.deb "$@"
     ;;
 machine-test)
     needs_root "a machine is booted"
+    needs_namespaces "a machine is booted"
     deps
     package
     unpack nspawn usr/bin/systemd-nspawn systemd-container libsystemd-shared

@@ -43,12 +43,13 @@ takes_ipv6_alone() {
 }
 
 # wide_sockets LINES: likewise, for TCP sockets of the other family that take connections to 127.0.0.1 as well, at those of Tor's ports
-# where LINES has no socket: beside one, the kernel allows only a socket that takes none.
+# where LINES has no socket: beside one, the kernel allows only a socket that takes none. Tor cannot listen beside such a socket.
 wide_sockets() {
   local socks control port address uid socket rest alone=' '
   printf -v socks '%04X' "$SOCKS_PORT"
   printf -v control '%04X' "$CONTROL_PORT"
   while read -r rest address rest rest rest rest rest uid rest socket rest; do
+    [[ $uid != "$TOR_UID" ]] || continue
     port=$((16#${address##*:}))
     [[ $'\n'$1 != *$'\n'"$port "* ]] || continue
     if [[ ${address%:*} =~ ^0*$ ]]; then
@@ -57,6 +58,14 @@ wide_sockets() {
     fi
     printf '%s %s %s\n' "$port" "$uid" "$socket"
   done < <(grep -hE ": (0{32}|0{16}FFFF00000100007F|0{20}FFFF7F000001):($socks|$control) [0-9A-F]+:[0-9A-F]+ 0A " /proc/net/tcp6)
+}
+
+# all_sockets: both.
+all_sockets() {
+  local sockets wide
+  sockets=$(port_sockets)
+  wide=$(wide_sockets "$sockets")
+  printf '%s' "$sockets${wide:+${sockets:+$'\n'}$wide}"
 }
 
 # has_socket PID SOCKET: whether the process has the socket open.
@@ -100,7 +109,7 @@ TAKEN=''
 check_ports() {
   local port uid socket unit sockets
   TAKEN=''
-  sockets=$(port_sockets)
+  sockets=$(all_sockets)
   [[ -n $sockets ]] || return 0
   while read -r port uid socket; do
     unit=$(service_with "$socket")

@@ -120,11 +120,9 @@ await_change() {
 # checked again. The check is repeated once, for a Tor that is ending.
 VOUCHED=''
 ports_are_tors() {
-  local round sockets wide line child strange name
+  local round sockets line child strange name
   for round in 1 2; do
-    sockets=$(port_sockets)
-    wide=$(wide_sockets "$sockets")
-    sockets=$sockets${wide:+${sockets:+$'\n'}$wide}
+    sockets=$(all_sockets)
     [[ -n $sockets && $sockets != "$VOUCHED" ]] || return 0
     CHILDREN='' strange=''
     ! { journal_read "$TOR_ENTRY" && find_recorded; } || read_children "$RECORDED_PID"
@@ -192,7 +190,7 @@ print_watcher() {
     OTHERS_NOTE OTHERS_SECONDS ALWAYS WITHOUT_GROUPS WORD MISSED SINCE NOTED JOURNAL TOR_ENTRY FILTER_NAME SOCKS_PORT CONTROL_PORT DNS_PORT
   printf 'CHANGED= OTHERS_DUE=0 CHAINS=() CHAIN_RULES=() JUDGED= STRUGGLES=0 LESSENED= LISTING= TREE= TOR_UID= VOUCHED= CHILDREN= START_TIME= BOOT= RECORDED_PID= JOURNAL_LINES=()\n'
   declare -f read_marker put_in_place write_file note_rules hold_rules release_rules keep_listing rules_stand find_tree make_group make_groups nft_without_groups read_listing copy_stands \
-    print_not_bypassing relock monitor monitor_rules beat await_change port_sockets takes_ipv6_alone wide_sockets has_socket \
+    print_not_bypassing relock monitor monitor_rules beat await_change port_sockets takes_ipv6_alone wide_sockets all_sockets has_socket \
     journal_has journal_read read_lines read_boot start_time find_recorded read_children ports_are_tors read_chains judge_chain name_others \
     note_others watch_others watch_rules
   printf 'watch_rules\n'

@@ -2233,6 +2233,10 @@
         <translation>برنامج sudo مثبت، وأنت في المجموعة %1.</translation>
     </message>
     <message>
+        <source>The program listens on IPv6. If it takes IPv6 alone, Tor can use the port.</source>
+        <translation>يستمع البرنامج على IPv6. إن كان لا يقبل إلا IPv6 أمكن Tor أن يستخدم المنفذ.</translation>
+    </message>
+    <message>
         <source>The port %1, which Tor needs, is held by a program of the account %2.</source>
         <translation>المنفذ %1 الذي يحتاج إليه Tor يحجزه برنامج من الحساب %2.</translation>
     </message>

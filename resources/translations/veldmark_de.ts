@@ -2213,6 +2213,10 @@
         <translation>sudo ist installiert, und Sie sind in der Gruppe %1.</translation>
     </message>
     <message>
+        <source>The program listens on IPv6. If it takes IPv6 alone, Tor can use the port.</source>
+        <translation>Das Programm lauscht auf IPv6. Nimmt es nur IPv6 an, kann Tor den Port benutzen.</translation>
+    </message>
+    <message>
         <source>The port %1, which Tor needs, is held by a program of the account %2.</source>
         <translation>Den Port %1, den Tor braucht, belegt ein Programm des Kontos %2.</translation>
     </message>

@@ -2213,6 +2213,10 @@
         <translation>sudo está instalado y usted pertenece al grupo %1.</translation>
     </message>
     <message>
+        <source>The program listens on IPv6. If it takes IPv6 alone, Tor can use the port.</source>
+        <translation>El programa escucha en IPv6. Si solo acepta IPv6, Tor puede usar el puerto.</translation>
+    </message>
+    <message>
         <source>The port %1, which Tor needs, is held by a program of the account %2.</source>
         <translation>El puerto %1, que Tor necesita, lo ocupa un programa de la cuenta %2.</translation>
     </message>

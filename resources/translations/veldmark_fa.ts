@@ -2208,6 +2208,10 @@
         <translation>برنامهٔ sudo نصب است و شما عضو گروه %1 هستید.</translation>
     </message>
     <message>
+        <source>The program listens on IPv6. If it takes IPv6 alone, Tor can use the port.</source>
+        <translation>این برنامه روی IPv6 گوش می‌دهد. اگر تنها IPv6 را بپذیرد، Tor می‌تواند درگاه را به کار ببرد.</translation>
+    </message>
+    <message>
         <source>The port %1, which Tor needs, is held by a program of the account %2.</source>
         <translation>درگاه %1 که Tor لازم دارد در دست برنامه‌ای از حساب %2 است.</translation>
     </message>

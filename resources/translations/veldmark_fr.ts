@@ -2213,6 +2213,10 @@
         <translation>sudo est installé, et vous êtes dans le groupe %1.</translation>
     </message>
     <message>
+        <source>The program listens on IPv6. If it takes IPv6 alone, Tor can use the port.</source>
+        <translation>Le programme écoute en IPv6. S’il n’accepte qu’IPv6, Tor peut utiliser le port.</translation>
+    </message>
+    <message>
         <source>The port %1, which Tor needs, is held by a program of the account %2.</source>
         <translation>Le port %1, nécessaire à Tor, est occupé par un programme du compte %2.</translation>
     </message>

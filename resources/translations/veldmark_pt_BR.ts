@@ -2213,6 +2213,10 @@
         <translation>O sudo está instalado, e você está no grupo %1.</translation>
     </message>
     <message>
+        <source>The program listens on IPv6. If it takes IPv6 alone, Tor can use the port.</source>
+        <translation>O programa escuta em IPv6. Se ele aceitar apenas IPv6, o Tor poderá usar a porta.</translation>
+    </message>
+    <message>
         <source>The port %1, which Tor needs, is held by a program of the account %2.</source>
         <translation>A porta %1, de que o Tor precisa, está ocupada por um programa da conta %2.</translation>
     </message>

@@ -2218,6 +2218,10 @@
         <translation>sudo установлен, и вы входите в группу %1.</translation>
     </message>
     <message>
+        <source>The program listens on IPv6. If it takes IPv6 alone, Tor can use the port.</source>
+        <translation>Программа слушает IPv6. Если она принимает только IPv6, Tor может использовать порт.</translation>
+    </message>
+    <message>
         <source>The port %1, which Tor needs, is held by a program of the account %2.</source>
         <translation>Порт %1, нужный Tor, занимает программа учётной записи %2.</translation>
     </message>

@@ -2208,6 +2208,10 @@
         <translation>sudo kurulu ve şu gruptasınız: %1.</translation>
     </message>
     <message>
+        <source>The program listens on IPv6. If it takes IPv6 alone, Tor can use the port.</source>
+        <translation>Program IPv6 üzerinde dinliyor. Yalnızca IPv6 kabul ediyorsa Tor bu bağlantı noktasını kullanabilir.</translation>
+    </message>
+    <message>
         <source>The port %1, which Tor needs, is held by a program of the account %2.</source>
         <translation>Tor için gereken %1 numaralı bağlantı noktasını %2 hesabının bir programı kullanıyor.</translation>
     </message>

@@ -2218,6 +2218,10 @@
         <translation>sudo встановлено, і ви належите до групи %1.</translation>
     </message>
     <message>
+        <source>The program listens on IPv6. If it takes IPv6 alone, Tor can use the port.</source>
+        <translation>Програма слухає IPv6. Якщо вона приймає лише IPv6, Tor може використати порт.</translation>
+    </message>
+    <message>
         <source>The port %1, which Tor needs, is held by a program of the account %2.</source>
         <translation>Порт %1, потрібний Tor, займає програма облікового запису %2.</translation>
     </message>

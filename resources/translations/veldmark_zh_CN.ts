@@ -2208,6 +2208,10 @@
         <translation>sudo 已安装，且您属于 %1 组。</translation>
     </message>
     <message>
+        <source>The program listens on IPv6. If it takes IPv6 alone, Tor can use the port.</source>
+        <translation>该程序在 IPv6 上监听。如果它只接受 IPv6，Tor 就可以使用该端口。</translation>
+    </message>
+    <message>
         <source>The port %1, which Tor needs, is held by a program of the account %2.</source>
         <translation>Tor 需要的端口 %1 被账户 %2 的一个程序占用。</translation>
     </message>

@@ -45,6 +45,7 @@ QString administrators(const Machine &machine)
     return {};
 }
 
+// `otherwise` is the level of what keeps a window from asking.
 Finding polkit(const Machine &machine, Level otherwise)
 {
     if (!QFileInfo(machine.profile.promptProgram).isExecutable())
@@ -104,13 +105,16 @@ Findings passwordFindings(const Machine &machine)
     const bool hasSudo = QFileInfo(machine.profile.sudo).isExecutable();
     const QString group = administrators(machine);
     const QString installing = machine.installing(sudoName);
-    // A missing program matters only when there is no other way to root rights.
-    const bool hasOtherWay = hasSudo || machine.isPasswordless();
+    // What keeps a window from asking matters only when there is no other way to root rights.
+    const Level otherwise = (hasSudo && !group.isEmpty()) || machine.isPasswordless() ? Level::note
+        : hasSudo ? Level::unknown
+                  : Level::problem;
     Findings findings;
     if (hasSudo && machine.isPasswordless())
         findings.push_back({polkitName, Level::good, Text::tr("Passwordless mode is set up."), {}});
     else
-        findings.push_back(polkit(machine, hasOtherWay ? Level::note : Level::problem));
+        findings.push_back(polkit(machine, otherwise));
+    findings.front().mayBlock = findings.front().level == Level::unknown;
     if (!hasSudo)
         findings.push_back(
             {sudoName, Level::note, Text::tr("sudo isn't installed. Passwordless mode needs it."),

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 
+#include <algorithm>
 #include <array>
 
 namespace veldmark::Doctor {
@@ -18,14 +19,34 @@ struct Port {
     const char *table; // the kernel's table of listeners
     const char *state; // of a listener in that table
 };
+// The tables of IPv6 are the last.
 constexpr std::array ports{Port{9050, "/proc/net/tcp", "0A"}, Port{9051, "/proc/net/tcp", "0A"},
-                           Port{293, "/proc/net/udp", "07"}};
+                           Port{293, "/proc/net/udp", "07"}, Port{9050, "/proc/net/tcp6", "0A"},
+                           Port{9051, "/proc/net/tcp6", "0A"}};
 
 struct Holder {
     int port = 0;
     uid_t user = 0;
-    QString socket; // the socket's number
+    QString socket;     // the socket's number
+    bool isSure = true; // false: it blocks Tor unless it takes IPv6 alone, which no table tells
 };
+
+// What a listener's address, a number in either byte order, means for Tor's address.
+enum class Reach { elsewhere, perhaps, blocks };
+
+Reach reachOf(const QString &address)
+{
+    static const QStringList blocking{
+        QStringLiteral("0100007F"),
+        QStringLiteral("7F000001"),
+        QStringLiteral("00000000"),
+        QStringLiteral("0000000000000000FFFF00000100007F"),
+        QStringLiteral("00000000000000000000FFFF7F000001"),
+    };
+    if (blocking.contains(address))
+        return Reach::blocks;
+    return address == QString(32, u'0') ? Reach::perhaps : Reach::elsewhere;
+}
 
 // The sockets that block Tor's address on this computer: listeners on it, or on every address.
 std::vector<Holder> holders(const Machine &machine)
@@ -39,12 +60,16 @@ std::vector<Holder> holders(const Machine &machine)
             if (words.size() < 10 || words[3] != QLatin1String(port.state)
                 || !words[1].endsWith(suffix))
                 continue;
-            const QString address = words[1].chopped(suffix.size());
-            // The address as a number, in either byte order.
-            if (address != QLatin1String("0100007F") && address != QLatin1String("7F000001")
-                && address != QLatin1String("00000000"))
+            const Reach reach = reachOf(words[1].chopped(suffix.size()));
+            if (reach == Reach::elsewhere)
                 continue;
-            found.push_back({port.number, words[7].toUInt(), words[9]});
+            // Beside a listener that blocks Tor, one on every address takes IPv6 alone.
+            if (reach == Reach::perhaps
+                && std::any_of(found.cbegin(), found.cend(), [&port](const Holder &other) {
+                       return other.port == port.number && other.isSure;
+                   }))
+                continue;
+            found.push_back({port.number, words[7].toUInt(), words[9], reach == Reach::blocks});
         }
     }
     return found;
@@ -60,6 +85,22 @@ bool hasSocket(const Machine &machine, const RunningProcess &process, const QStr
             return true;
     }
     return false;
+}
+
+// That the holder has the port, as `words` say it, is a problem, or may be one.
+Finding takenPort(const Holder &holder, Text words, const QString &command)
+{
+    if (holder.isSure)
+        return {portsName, Level::problem, std::move(words), command};
+    Finding finding{
+        portsName, Level::unknown,
+        Text::joined(
+            {std::move(words),
+             Text::tr(
+                 "The program listens on IPv6. If it takes IPv6 alone, Tor can use the port.")}),
+        command};
+    finding.mayBlock = true;
+    return finding;
 }
 
 bool isSystemsService(const RunningProcess &process)
@@ -114,11 +155,11 @@ Findings portFindings(const Machine &machine)
         }
         const auto process = holderProcess(machine, processes, holder);
         if (!process) {
-            findings.push_back(
-                {portsName, Level::problem,
-                 Text::tr("The port %1, which Tor needs, is held by a program of the account %2.")
-                     .arg(port, machine.accountName(holder.user)),
-                 QStringLiteral("sudo ss -lpn sport = :%1").arg(port)});
+            findings.push_back(takenPort(
+                holder,
+                Text::tr("The port %1, which Tor needs, is held by a program of the account %2.")
+                    .arg(port, machine.accountName(holder.user)),
+                QStringLiteral("sudo ss -lpn sport = :%1").arg(port)));
         } else if (isSystemsService(*process)) {
             if (!paused.contains(process->unit))
                 findings.push_back(
@@ -132,14 +173,14 @@ Findings portFindings(const Machine &machine)
             paused << process->unit;
         } else {
             const QString unit = process->unit;
-            findings.push_back(
-                {portsName, Level::problem,
-                 Text::tr("The port %1, which Tor needs, is held by %2 (process %3, account %4).")
-                     .arg(port, process->name, QString::number(process->pid),
-                          machine.accountName(process->user)),
-                 unit.isEmpty() || unit.startsWith(QLatin1String("user@"))
-                     ? QStringLiteral("sudo kill %1").arg(process->pid)
-                     : QStringLiteral("sudo systemctl stop %1").arg(unit)});
+            findings.push_back(takenPort(
+                holder,
+                Text::tr("The port %1, which Tor needs, is held by %2 (process %3, account %4).")
+                    .arg(port, process->name, QString::number(process->pid),
+                         machine.accountName(process->user)),
+                unit.isEmpty() || unit.startsWith(QLatin1String("user@"))
+                    ? QStringLiteral("sudo kill %1").arg(process->pid)
+                    : QStringLiteral("sudo systemctl stop %1").arg(unit)));
         }
     }
     if (findings.empty() && isOurs)

@@ -449,7 +449,8 @@ class Session(HelperTest):
         self.machine.shell(f"test -f {state}; ! test -e {SOCKET}")
 
     def test_a_taken_port_is_told_as_without_the_filter(self):
-        take = "import socket, sys; s = socket.create_server(('::', 9051), family=socket.AF_INET6, dualstack_ipv6=True); print('up', flush=True); sys.stdin.read()"
+        """Taken without listening there, so that only Tor finds out."""
+        take = "import socket, sys; s = socket.socket(); s.bind(('127.0.0.1', 9051)); print('up', flush=True); sys.stdin.read()"
         holder = self.machine.start("/usr/bin/python3", "-c", take, stdin=subprocess.PIPE, stdout=subprocess.PIPE)
         try:
             self.assertEqual(holder.stdout.readline(), b"up\n")
@@ -468,7 +469,7 @@ class Session(HelperTest):
 
     def test_the_other_ports_are_told_as_well(self):
         """Tor ends because of them after it has opened its control port."""
-        take = "import socket, sys; s = socket.create_server(('::', 9050), family=socket.AF_INET6, dualstack_ipv6=True); print('up', flush=True); sys.stdin.read()"
+        take = "import socket, sys; s = socket.socket(); s.bind(('127.0.0.1', 9050)); print('up', flush=True); sys.stdin.read()"
         holder = self.machine.start("/usr/bin/python3", "-c", take, stdin=subprocess.PIPE, stdout=subprocess.PIPE)
         self.machine.shell("sed -i 's/^DisableNetwork 1$/DisableNetwork 0/' /etc/tor/torrc-defaults")
         try:

@@ -170,6 +170,50 @@ class Service(HelperTest):
         self.addCleanup(self.machine.shell, "pkill -x sleep; while pgrep -x sleep; do :; done")
         self.assertLess(started(), few + 100)
 
+    def test_a_listener_on_all_addresses_of_the_other_family_is_named(self):
+        """A common default of servers. Tor cannot listen beside it, unless it takes IPv6 alone."""
+        self.machine.shell("systemctl stop tor@default.service")
+        listen = (
+            "import socket, sys\ns = socket.socket(socket.AF_INET6); s.setsockopt(socket.IPPROTO_IPV6, socket.IPV6_V6ONLY, int(sys.argv[3]))\n"
+            "s.bind((sys.argv[1], int(sys.argv[2]))); s.listen()\n"
+            "print(socket.socket().connect_ex(('127.0.0.1', int(sys.argv[2]))) == 0, flush=True); sys.stdin.read()"
+        )
+        for address, port, alone in (
+            ("::", 9050, False),
+            ("::", 9051, False),
+            ("::ffff:127.0.0.1", 9050, False),
+            ("::", 9050, True),
+            ("::1", 9051, True),
+        ):
+            with self.subTest(address=address, port=port, alone=alone):
+                holder = self.machine.start(
+                    "/usr/bin/python3",
+                    "-c",
+                    listen,
+                    address,
+                    str(port),
+                    str(int(alone)),
+                    uid=namespace.OTHER_UID,
+                    stdin=subprocess.PIPE,
+                    stdout=subprocess.PIPE,
+                    text=True,
+                )
+                try:
+                    self.assertEqual(holder.stdout.readline(), f"{not alone}\n")
+                    before = self.machine.snapshot()
+                    pid = self.machine.shell("pgrep -u bob").strip()
+                    for strict in 0, 1:
+                        done = self.machine.connect(strict=strict, check=alone)
+                        if alone:
+                            self.machine.help("disconnect")
+                        else:
+                            self.assertOneLine(
+                                done, f"The port {port}, which Tor needs, is held by python3 (process {pid}). End that program"
+                            )
+                            self.assertEqual(self.machine.snapshot(), before)
+                finally:
+                    holder.communicate()
+
     def test_a_listener_on_another_address_is_in_nobodys_way(self):
         self.machine.shell("systemctl stop tor@default.service")
         other = self.machine.start(

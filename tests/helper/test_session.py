@@ -139,11 +139,11 @@ class Session(HelperTest):
         self.assertEqual(self.machine.snapshot(), during)
 
     def take_port(self, port):
-        """Takes a port for IPv6 and IPv4 at once. Only Tor finds out whether such a listener blocks it."""
+        """Takes a port without listening there. No list of the kernel's has such a socket, so only Tor finds out."""
         holder = self.machine.start(
             "/usr/bin/python3",
             "-c",
-            f"import socket, sys; s = socket.create_server(('::', {port}), family=socket.AF_INET6, dualstack_ipv6=True); print('up', flush=True); sys.stdin.read()",
+            f"import socket, sys; s = socket.socket(); s.bind(('127.0.0.1', {port})); print('up', flush=True); sys.stdin.read()",
             stdin=subprocess.PIPE,
             stdout=subprocess.PIPE,
         )

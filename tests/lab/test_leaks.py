@@ -176,7 +176,7 @@ class Leaks(HostileRows, SwappedRow, LeakCase):
                 [
                     "/usr/bin/python3",
                     "-c",
-                    "import socket,sys; s = socket.create_server(('::', 9051), family=socket.AF_INET6, dualstack_ipv6=True);"
+                    "import socket,sys; s = socket.socket(); s.bind(('127.0.0.1', 9051));"
                     "print('up', flush=True); sys.stdin.read()",
                 ],
                 stdin=subprocess.PIPE,

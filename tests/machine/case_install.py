@@ -55,6 +55,8 @@ def purge_while_connected(stage: Stage) -> None:
             " ! -path '/tmp/*' ! -path '/var/log/*' ! -path '/var/lib/dpkg/*' ! -name '*-lab-*'; getent passwd _veldmark; true"
         ).strip()
         expect(not left, f"purging leaves {left.split()}")
+        machine.reboot()
+        expect_whole(machine, before)
 
 
 CASES = {

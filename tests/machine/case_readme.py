@@ -7,10 +7,16 @@ import time
 from base import PROJECT
 from boot import USER
 from case_tor import given_back, service_listens, with_service
-from desktops import TOOLS, Desktop, install
+from desktops import TOOLS, Desktop, install, put
 from stage import MARKER, Broken, Stage, direct, expect, expect_whole, is_protected, state, wait
 
 _PASSWORD = "alice"
+# What the README's commands read, in alice's home.
+FILES = {
+    "mail.txt": "Hello!\n\nHere is your bridge:\n\n192.0.2.7:9001 0123456789ABCDEF0123456789ABCDEF01234567\n\nHave a nice day.\n"
+}
+# What is refused on this machine, with the words of the answer: nothing blocks Tor here, and the application is not installed.
+REFUSED = {"climb": "No bridges are offered now.", "launch": "firefox"}
 
 
 def commands(section: str) -> list[str]:
@@ -42,6 +48,8 @@ def typed(desktop: Desktop, line: str, timeout: float = 60):
 def readme(stage: Stage) -> None:
     with stage.machine("readme", tor_service=True) as machine:
         before, service = with_service(machine)
+        for name, text in FILES.items():
+            put(machine, f"/home/{USER}/{name}", text)
         with Desktop(machine, "sway") as desktop:
             first, *others = commands("First connect")
             run_in_the_foreground(desktop, first)
@@ -98,8 +106,8 @@ def first_pages_command(desktop: Desktop, line: str) -> None:
         line = f"timeout 3 {line}"
     done = typed(desktop, line)
     said = (done.stdout + done.stderr).strip()
-    if words[:2] == ["veldmarkctl", "launch"]:  # this application is not installed here; the error is expected
-        expect(done.returncode != 0 and words[2] in said, f"{line}: {said}")
+    if words[0] == "veldmarkctl" and words[1] in REFUSED:
+        expect(done.returncode != 0 and REFUSED[words[1]] in said, f"{line}: {said}")
     elif "--follow" in words:
         expect(done.returncode == 124 and said, f"{line}: {said}")
     elif words[0] == "veldmarkctl":

@@ -101,6 +101,8 @@ def upgrade_while_connected(stage: Stage) -> None:
                 expect(not direct(machine), "the direct way is open")
                 expect(through_tor(machine), "no traffic through Tor")
             end(session, machine, before)
+        machine.reboot()
+        expect_whole(machine, before)
 
 
 CASES = {

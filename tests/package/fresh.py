@@ -6,7 +6,8 @@ usage: fresh.py [--short | --quick] [--without PACKAGE] [--cold] [--again] [--ke
 VERB       demo, test, package (default: all three); "test" may have further words: "test controller"; or one of the other verbs of
            build.sh with its words: "soak --cycles 2"
 --short    leaves out tests that take minutes and need no further programs
---quick    runs only a few tests, which between them call every program that a test needs; .ci/run does this
+--quick    runs only a few tests, which between them call every program that a test needs but clang-tidy and gcovr; .ci/run takes
+           the demo of this
 --without  takes a package out of the clone's list first, to show that the run notices it
 --cold     compiles everything, without this machine's compiler cache
 --again    continues in the first system of a former run, with the commits since then; helps to fix a failure, but proves nothing
@@ -61,10 +62,13 @@ OTHERS = (
 SHORT = ("-LE", "^long$", "-E", "^(lab/(trouble|sessions|leakcheck)|helper/(kill-.*|trouble|cycles)|ui/(Buttons|WindowsFit-.*))$")
 # Each unit test, the tests of the sources and the package, and at least one test of each suite that calls further programs:
 # polkit and pkexec (prompt), gpg (download), ssh, zsh and git (terminal), nc and ping (lab), a desktop's (desktop), clang's (fuzz).
+# clang-tidy and gcovr are called only by the two that are left out, which take minutes.
 QUICK = (
     "-R",
     "^(unit/.*|house/.*|package/(files|registry)|ui/(accessibility|qmllint|translation)|fuzz/LogFuzz|"
     "helper/(namespace|launch|resolved)|lab/(lab|prompt|download|terminal|desktop))$",
+    "-E",
+    "^house/(tidy|verbs)$",
 )
 # A folder that ordinary users can read, since tests run programs as such a user.
 PLACES = {"first": "/srv/veldmark", "second": "/srv/a stranger/veld mark"}

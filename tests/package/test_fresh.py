@@ -272,6 +272,8 @@ class Fresh(unittest.TestCase):
         self.assertEqual([verb.split(" -R ")[0] for verb in verbs], ["verb demo", "verb test", "verb package", "verb package"])
         suites = re.findall(r"(\w+)/(?:\(([\w|]+)\)|(\w+|\.\*))", verbs[1].split(" -R ")[1])
         self.assertIn("lab", [suite for suite, *_ in suites])
+        self.assertIn(("house", "", ".*"), suites)
+        self.assertEqual(suites[-1], ("house", "tidy|verbs", ""))  # what it leaves out
         for suite, several, one in suites:
             folder = HERE.parents[1] / "fuzz" if suite == "fuzz" else HERE.parent / suite
             known = "".join(file.read_text() for file in folder.rglob("CMakeLists.txt")) + "".join(

@@ -6,9 +6,11 @@ The machines, the network and the cases are stand-ins; machine_test.py is the re
 
 import contextlib
 import io
+import re
 import sys
 import tempfile
 import time
+import types
 import unittest
 import unittest.mock
 from pathlib import Path
@@ -18,9 +20,10 @@ TESTS = Path(__file__).resolve().parents[1]
 sys.path[:0] = [str(TESTS / "machine"), str(TESTS / "lab")]
 
 import boot  # noqa: E402
+import case_readme  # noqa: E402
 import machine_test  # noqa: E402
 from base import Unprepared  # noqa: E402
-from stage import CannotRun, expect  # noqa: E402
+from stage import Broken, CannotRun, expect  # noqa: E402
 from veldlab.lab import LabUnavailable  # noqa: E402
 
 
@@ -144,6 +147,44 @@ class Judgement(unittest.TestCase):
 
     def test_a_case_shows_that_it_moves(self):
         self.assertIn("slow: 2 s\nslow: passed (", self.run_main({"slow": slow})[1])
+
+
+class Readme(unittest.TestCase):
+    """The README's first pages can be typed from the first line to the last."""
+
+    LINES = [line for line in case_readme.commands("First connect") if line.startswith("veldmarkctl ")]
+
+    def judge(self, line: str, status: int, said: str) -> None:
+        done = types.SimpleNamespace(returncode=status, stdout=said, stderr="")
+        with unittest.mock.patch.object(case_readme, "typed", lambda *_: done):
+            case_readme.first_pages_command(None, line)
+
+    def test_what_a_connection_locks_comes_after_it(self):
+        header = (TESTS.parent / "src/controller/TorController.h").read_text()
+        locked = set(re.findall(r'"(\w+)",\s*Scope::connection', header))
+        self.assertIn("exitCountry", locked)
+        begun = True
+        for _, verb, *words in map(str.split, self.LINES):
+            begun = begun and verb != "restore"
+            stored = words[0] if verb == "set" else "customBridges" if verb == "add-bridges" else ""
+            self.assertFalse(begun and stored in locked, f"{verb} {words} is refused while connected")
+        self.assertFalse(begun)
+
+    def test_the_files_that_they_read_are_there(self):
+        named = {word for line in self.LINES for word in line.split()[2:] if "." in word}
+        self.assertEqual(named, set(case_readme.FILES))
+
+    def test_what_is_to_be_refused_is_refused_with_these_words(self):
+        words = {line.split()[1]: line for line in self.LINES}
+        self.assertIn(f'Text::tr("{case_readme.REFUSED["climb"]}")', (TESTS.parent / "src/controller/Ladder.cpp").read_text())
+        for verb, answer in case_readme.REFUSED.items():
+            self.judge(words[verb], 1, f"veldmarkctl: {answer}")
+            for status, said in ((0, answer), (1, "something else")):
+                with self.assertRaises(Broken):
+                    self.judge(words[verb], status, said)
+        self.judge("veldmarkctl status", 0, "")
+        with self.assertRaises(Broken):
+            self.judge("veldmarkctl status", 1, "")
 
 
 REAL_PREPARE = machine_test.base.prepare

@@ -151,6 +151,52 @@ class Verbs(Case):
 
         self.shows("Starting the private Tor network: ", run)
 
+    def test_demo(self):
+        program = module("tests/lab/demo.py")
+
+        class DemoLab(SlowLab):
+            timings = {"total": 1.0}
+            host = mock.MagicMock()
+
+            def __enter__(self):
+                self.on_step("the relays start")
+                return super().__enter__()
+
+            def __init__(self, on_step):
+                self.on_step = on_step
+
+        self.patch(program, Lab=DemoLab, PROJECT=self.folder, Product=mock.Mock(), show_mode=mock.Mock())
+        self.patch(program, ask_check_service=lambda *_: "no answer")
+        self.shows("  the relays start: ", self.main(program, "network"))
+        self.assertEqual(program.show_mode.call_count, 2)
+        pictures = self.folder / "build/dev/tests/ui/veldmark-pictures"
+        pictures.parent.mkdir(parents=True)
+        pictures.write_text(f'#!/bin/sh\nmkdir "$1"; touch "$1/panel.png"; sleep {2 * NAP}\n')
+        pictures.chmod(0o755)
+        self.shows("  1 pictures drawn: ", self.main(program, "pictures"))
+        self.assertIn("panel.png", (self.folder / "build/demo/index.html").read_text())
+
+    def test_machine_test(self):
+        """The lab and the cases: tests/package/test_machine.py. Here its base is made."""
+        base = module("tests/machine/base.py")
+        self.patch(base, FOLDER=self.folder, registry=lambda: "http://mirror.example.test/debian")
+        self.program("debootstrap", f'sleep {NAP}; mkdir -p "$4/etc" "$4/usr/sbin" "$4/tmp"')
+        self.program("chroot", f"sleep {NAP}")
+        self.program("dpkg-deb", "echo tor")
+        package = self.folder / "x.deb"
+        package.touch()
+        with contextlib.redirect_stdout(io.StringIO()) as told:
+            base.prepare(package)
+        for line in (
+            "Fetching a minimal Debian from its registry",
+            "Asking Debian's registry",
+            "Installing a desktop",
+            "Setting the machine up",
+            "Clearing up",
+            "Fetching what the package depends on",
+        ):
+            self.assertRegex(told.getvalue(), rf"(?m)^{line}: \d+ s$")
+
     def test_soak(self):
         program = module("tests/lab/soak.py")
         self.patch(program, Lab=SlowLab)
@@ -193,6 +239,21 @@ class Verbs(Case):
         self.patch(program, Clone=lambda _: mock.Mock(place=PROJECT), Proved=mock.Mock(), ROOT=self.folder)
         self.patch(program, noticed_by=lambda *_: nap() or "unit/x (y)")
         self.shows(r"1/1 src/base/.*:\d+: ", self.main(program, "base", "--count", "1"))
+
+
+class Format(Case):
+    def test_format(self):
+        """The program is the whole verb, with formatters that sleep."""
+        self.program("clang-format", "sleep 1.2")
+        self.program("black", "sleep 1.2")
+        told = subprocess.run(
+            ["/usr/bin/python3", PROJECT / "tests/house/test_format.py", "--write"],
+            capture_output=True,
+            text=True,
+            check=False,
+            env=os.environ | {"PATH": self.path()},
+        )
+        self.assertEqual((told.stdout, told.stderr), ("Formatting: 2 s\n", ""))
 
 
 class Apple(Case):

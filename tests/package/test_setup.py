@@ -171,14 +171,25 @@ class Compiling(Case):
         self.machine.run(f"cmake --build {QUOTED}/build/dev")  # there is more to compile
         self.assertTrue(judge.exists())
 
+    ENTERING = (
+        ("machine-test", "a machine is booted"),
+        ("package-test", "a clean Debian is entered"),
+        ("fresh-test", "a clean Debian is made"),
+    )
+
     def test_what_takes_root_says_so_before_it_compiles(self):
         self.machine.own("alice")
-        for verb, what in (
-            ("machine-test", "a machine is booted"),
-            ("package-test", "a clean Debian is entered"),
-            ("fresh-test", "a clean Debian is made"),
-        ):
+        for verb, what in self.ENTERING:
             self.refused(verb, rf"{what} by root: run sudo \./build\.sh {verb}", user="alice")
+        self.assertFalse(self.machine.path(f"{CHECKOUT}/build").exists())
+
+    def test_what_takes_namespaces_says_so_before_it_compiles(self):
+        self.machine.run("unshare --mount --net --pid --fork true")
+        self.machine.run(
+            "printf '#!/bin/sh\\necho unshare: not permitted >&2\\nexit 1\\n' >/usr/local/bin/unshare && chmod 755 /usr/local/bin/unshare"
+        )
+        for verb, what in self.ENTERING:
+            self.refused(verb, f"{what} in namespaces, which this machine does not permit")
         self.assertFalse(self.machine.path(f"{CHECKOUT}/build").exists())
 
     def test_a_checkout_that_other_users_cannot_enter(self):
@@ -257,6 +268,8 @@ class Compiling(Case):
         self.assertIn("build/veldmark_1.0_", self.works("package"))
         listed = self.machine.run(f"dpkg-deb --contents {QUOTED}/build/veldmark_*.deb").stdout
         self.assertRegex(listed, r"2020-02-02 02:02 \./usr/bin/tool\n")
+        # Both the archive's times and those in the programs' resources are the commit's.
+        self.assertEqual(self.machine.path(f"{CHECKOUT}/build/release/times").read_text(), "1580608922 1580608922\n")
 
 
 class Showing(unittest.TestCase):

@@ -149,6 +149,34 @@ const std::vector<Case> &cases()
              m.listens("/proc/net/udp", {{"0100007F", 293, 4343, 1, "07"}});
          },
          "ports", Level::problem, "The port 293", "sudo kill 812"},
+        {"a port on every IPv6 address, which is mostly every address",
+         [](TestMachine &m) {
+             m.process(812, "tor", 4343);
+             m.listens("/proc/net/tcp6", {{QByteArray(32, '0'), 9050, 4343, 1}});
+         },
+         "ports", Level::unknown,
+         "held by tor (process 812, account bob). The program listens on IPv6.", "sudo kill 812"},
+        {"a port on every IPv6 address, of an account with several programs",
+         [](TestMachine &m) {
+             addHolder(m, "nc", 4343, {});
+             m.listens("/proc/net/tcp", {});
+             m.process(813, "cat", 4343);
+             m.listens("/proc/net/tcp6", {{QByteArray(32, '0'), 9051, 4343, 1}});
+         },
+         "ports", Level::unknown, "a program of the account bob. The program listens on IPv6.",
+         "sudo ss -lpn sport = :9051"},
+        {"Debian's own service on every IPv6 address",
+         [](TestMachine &m) {
+             m.process(812, "tor", 108, "system-tor.slice/tor@default.service");
+             m.listens("/proc/net/tcp6", {{QByteArray(32, '0'), 9050, 108, 7001}});
+         },
+         "ports", Level::note, "(tor@default.service) runs. Veldmark stops it", nullptr},
+        {"a port on our own address, by a socket of IPv6",
+         [](TestMachine &m) {
+             m.process(812, "nc", 4343);
+             m.listens("/proc/net/tcp6", {{"0000000000000000FFFF00000100007F", 9051, 4343, 1}});
+         },
+         "ports", Level::problem, "The port 9051", "sudo kill 812"},
         {"our own Tor",
          [](TestMachine &m) {
              m.listens("/proc/net/tcp", {{"0100007F", 9050, 990, 1}, {"0100007F", 9051, 990, 2}});
@@ -312,6 +340,18 @@ const std::vector<Case> &cases()
              m.remove("/usr/bin/sudo");
          },
          "polkit", Level::unknown, "No known polkit agent", "sudo apt install lxpolkit"},
+        {"no agent that is known, and nobody knows whether sudo may be used",
+         [](TestMachine &m) {
+             m.remove("/proc/900");
+             m.write("/etc/group", "sudo:x:27:bob\n");
+         },
+         "polkit", Level::unknown, "No known polkit agent", "sudo veldmarkctl run --connect"},
+        {"no pkexec, and nobody knows whether sudo may be used",
+         [](TestMachine &m) {
+             m.remove("/usr/bin/pkexec");
+             m.write("/etc/group", "sudo:x:27:bob\n");
+         },
+         "polkit", Level::unknown, "pkexec isn't installed", "sudo apt install pkexec"},
         {"no desktop and no sudo",
          [](TestMachine &m) {
              m.machine.hasDesktop = false;
@@ -548,13 +588,17 @@ private Q_SLOTS:
             QVERIFY2(!finding.text.english().contains(u'%'), qPrintable(finding.text.english()));
         }
         QVERIFY2(isFound, qPrintable(said.join(u'\n')));
+        // What is not known of the others blocks nothing.
+        static const QStringList blocking{QStringLiteral("firewalls"), QStringLiteral("polkit"),
+                                          QStringLiteral("ports")};
         const bool isInDoubt = one->level == Level::unknown
-            && QLatin1String(one->name) == QLatin1String("firewalls");
+            && blocking.contains(QLatin1String(one->name));
         QCOMPARE(canConnect(findings),
                  isInDoubt ? std::nullopt : std::optional(one->level != Level::problem));
     }
 
-    void everyLevelOfEachCheckIsAmongTheCases()
+    // The list is kept by hand; a case of a problem that is taken out is noticed here.
+    void eachCheckThatCanFindAProblemHasACaseOfOne()
     {
         QStringList problems;
         for (const Case &one : cases())
@@ -616,8 +660,25 @@ private Q_SLOTS:
                    {"0100007F", 9150, 4343, 2},
                    {"0100007F", 9051, 4343, 3, "01"}});
         QCOMPARE(canConnect(Doctor::portFindings(m.machine)), std::optional(true));
+        // It listens on the other loopback address.
+        m.listens("/proc/net/tcp6", {{QByteArray(24, '0') + "01000000", 9050, 4343, 4}});
+        QCOMPARE(canConnect(Doctor::portFindings(m.machine)), std::optional(true));
         m.listens("/proc/net/tcp", {{"0100007F", 9051, 4343, 3}});
         QCOMPARE(canConnect(Doctor::portFindings(m.machine)), std::optional(false));
+    }
+
+    // The kernel allows no other beside a listener that has IPv4's.
+    void aListenerBesideOneOfIpv4TakesIpv6Alone()
+    {
+        TestMachine m;
+        m.process(812, "nc", 4343);
+        const TestMachine::Listener wide{QByteArray(32, '0'), 9050, 4343, 2};
+        m.listens("/proc/net/tcp6", {wide});
+        QCOMPARE(canConnect(Doctor::portFindings(m.machine)), std::optional<bool>());
+        m.listens("/proc/net/tcp", {{"0100007F", 9050, 4343, 1}});
+        QCOMPARE(Doctor::portFindings(m.machine).size(), std::size_t(1));
+        m.listens("/proc/net/tcp", {{"0100007F", 9050, 990, 1}}); // our own Tor
+        QCOMPARE(canConnect(Doctor::portFindings(m.machine)), std::optional(true));
     }
 
     void oneServiceIsSpokenOfOnce()
@@ -653,6 +714,14 @@ private Q_SLOTS:
             QVERIFY2(finding.name != QLatin1String("nftables")
                          && finding.name != QLatin1String("polkit"),
                      qPrintable(finding.text.english()));
+        const PlatformProfile &profile = m.machine.profile;
+        m.write(profile.sessionMarker.mid(profile.places.root.size()).toUtf8(), "proxy\n");
+        const Findings left = Doctor::sessionFindings(m.machine);
+        QCOMPARE(left.front().text.english(),
+                 QStringLiteral(
+                     "The network is set up for Tor. It isn't known whether Tor still runs."));
+        QCOMPARE(left.front().command, QStringLiteral("veldmarkctl restore"));
+        QCOMPARE(left.front().button, Finding::Button::restore);
     }
 };
 
