@@ -2,6 +2,7 @@
 
 #include "cli/Console.h"
 #include "platform/PlatformProfile.h"
+#include "system/Identities.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -16,16 +17,11 @@
 #include <cstring>
 #include <iterator>
 
-#include <sys/socket.h>
-#include <sys/un.h>
 #include <unistd.h>
 
 namespace veldmark {
 
 namespace {
-
-constexpr qint64 noteLimitBytes = 4 << 20;
-constexpr int readings = 20; // the program may be writing it at that moment
 
 Text whyNone(const PlatformProfile &profile)
 {
@@ -34,50 +30,11 @@ Text whyNone(const PlatformProfile &profile)
         : Text::tr("Applications are not separated now: they share circuits.");
 }
 
-bool isMine(const Identities::Identity &identity)
-{
-    return geteuid() == 0 || identity.user == geteuid();
-}
-
 ExitStatus fail(const Text &reason, ExitStatus status = ExitStatus::failed)
 {
     Console::printError(reason);
     return status;
 }
-
-// The socket of the identity program.
-class Sending {
-public:
-    explicit Sending(const QString &path) : m_socket(socket(AF_UNIX, SOCK_DGRAM, 0))
-    {
-        sockaddr_un place{};
-        place.sun_family = AF_UNIX;
-        const QByteArray name = QFile::encodeName(path);
-        if (m_socket < 0 || name.size() >= static_cast<qsizetype>(sizeof place.sun_path))
-            return;
-        std::memcpy(place.sun_path, name.constData(), static_cast<std::size_t>(name.size()));
-        m_isThere = ::connect(m_socket, reinterpret_cast<const sockaddr *>(&place), sizeof place)
-            == 0;
-    }
-    Sending(const Sending &) = delete;
-    Sending &operator=(const Sending &) = delete;
-    ~Sending()
-    {
-        if (m_socket >= 0)
-            close(m_socket);
-    }
-    bool isThere() const { return m_isThere; }
-    bool send(const QByteArray &wish) const
-    {
-        return m_isThere
-            && ::send(m_socket, wish.constData(), static_cast<std::size_t>(wish.size()), 0)
-            == wish.size();
-    }
-
-private:
-    int m_socket;
-    bool m_isThere = false;
-};
 
 // The script that runs in the group: REASON PATTERN FILE PROGRAM…. Prints the reason when it gets
 // no identity.
@@ -92,44 +49,6 @@ exec "$@")");
 
 } // namespace
 
-std::optional<Identities> Identities::parse(const QByteArray &text)
-{
-    const QList<QByteArray> lines = text.split('\n');
-    if (lines.size() < 4 || !lines.constLast().isEmpty()
-        || !lines.constFirst().startsWith("identities "))
-        return std::nullopt;
-    if (lines[lines.size() - 2] != "end " + lines.constFirst().mid(11)
-        || (lines[1] != "standing" && lines[1] != "lost"))
-        return std::nullopt;
-    Identities found;
-    found.standing = lines[1] == "standing";
-    static const QRegularExpression line(
-        QStringLiteral("^([0-9]{1,10}) (127(?:\\.[0-9]{1,3}){3}) ([!-~]+)$"));
-    for (const QByteArray &entry : lines.mid(2, lines.size() - 4)) {
-        const auto words = line.match(QString::fromLatin1(entry));
-        if (!words.hasMatch())
-            return std::nullopt;
-        found.all.push_back({static_cast<uid_t>(words.captured(1).toULongLong()), words.captured(2),
-                             words.captured(3)});
-    }
-    return found;
-}
-
-std::optional<Identities> Identities::read(const PlatformProfile &profile)
-{
-    if (profile.identitiesNote.isEmpty() || !Sending(profile.identitiesSocket).isThere())
-        return std::nullopt;
-    for (int reading = 0; reading < readings; ++reading) {
-        QFile file(profile.identitiesNote);
-        if (!file.open(QIODevice::ReadOnly))
-            return std::nullopt;
-        if (const auto found = parse(file.read(noteLimitBytes)))
-            return found;
-        QThread::msleep(5);
-    }
-    return std::nullopt;
-}
-
 QCoro::Task<ExitStatus> showIdentities(Invocation invocation, PlatformProfile profile)
 {
     const auto known = Identities::read(profile);
@@ -139,7 +58,8 @@ QCoro::Task<ExitStatus> showIdentities(Invocation invocation, PlatformProfile pr
     qsizetype width = 0;
     std::vector<Identities::Identity> shown;
     if (standing)
-        std::copy_if(known->all.begin(), known->all.end(), std::back_inserter(shown), isMine);
+        std::copy_if(known->all.begin(), known->all.end(), std::back_inserter(shown),
+                     [](const Identities::Identity &identity) { return identity.isMine(); });
     for (const auto &identity : shown)
         width = std::max(width, identity.application.size());
     for (const auto &identity : shown) {
@@ -183,7 +103,7 @@ QCoro::Task<ExitStatus> renewIdentity(Invocation invocation, PlatformProfile pro
             Text::tr(
                 "No application of yours has that identity; \"veldmarkctl identities\" lists them."),
             ExitStatus::usage);
-    if (!Sending(profile.identitiesSocket).send("new " + invocation.key.toLatin1()))
+    if (!Identities::send(profile, "new " + invocation.key.toLatin1()))
         co_return fail(whyNone(profile));
     for (int waits = 0; waits < 100; ++waits) {
         const auto now = Identities::read(profile);

@@ -6,32 +6,11 @@
 
 #include <qcorotask.h>
 
-#include <optional>
-#include <vector>
-
 #include <sys/types.h>
 
 namespace veldmark {
 
 struct PlatformProfile;
-
-// The identity program's list of applications and their addresses, in the file that the profile
-// names.
-struct Identities {
-    struct Identity {
-        uid_t user = 0;
-        QString address;
-        // as the program writes it: letters, digits and a few signs, others as \xNN
-        QString application;
-    };
-    bool standing = false; // the firewall's table is there
-    std::vector<Identity> all;
-
-    // Absent when the file does not exist or is incomplete, or no process listens on the socket: a
-    // killed program leaves its file behind.
-    static std::optional<Identities> read(const PlatformProfile &profile);
-    static std::optional<Identities> parse(const QByteArray &text);
-};
 
 // `veldmarkctl identities`: this user's identities; for root those of all users.
 QCoro::Task<ExitStatus> showIdentities(Invocation invocation, PlatformProfile profile);
