@@ -1,6 +1,7 @@
 #include "cli/IdentitiesCommand.h"
 
 #include "cli/Console.h"
+#include "instance/InstanceClient.h"
 #include "platform/PlatformProfile.h"
 #include "system/Identities.h"
 
@@ -16,6 +17,7 @@
 #include <cerrno>
 #include <cstring>
 #include <iterator>
+#include <memory>
 
 #include <unistd.h>
 
@@ -36,6 +38,22 @@ ExitStatus fail(const Text &reason, ExitStatus status = ExitStatus::failed)
     return status;
 }
 
+// The circuits of the running instance; none without a connected one.
+QCoro::Task<QJsonArray> presentCircuits(PlatformProfile profile)
+{
+    const auto instance = InstanceClient::connectTo(profile);
+    if (!instance)
+        co_return QJsonArray();
+    const auto last = std::make_shared<QJsonArray>();
+    const InstanceClient::OnState onState = [last](const QJsonObject &state, const QJsonObject &) {
+        *last = state.value(QStringLiteral("circuits")).toArray();
+    };
+    const QJsonObject request{{QStringLiteral("command"), verbOf(Verb::Id::circuits).requested()}};
+    auto asking = instance->run(request, onState);
+    const auto answer = co_await asking;
+    co_return answer ? *last : QJsonArray();
+}
+
 // The script that runs in the group: REASON PATTERN FILE PROGRAM…. Prints the reason when it gets
 // no identity.
 const QString waitInGroup = QStringLiteral(R"(reason=$1 pattern=$2 file=$3 tries=0
@@ -49,10 +67,67 @@ exec "$@")");
 
 } // namespace
 
+QJsonArray exitsOf(const QString &application, const QJsonArray &circuits)
+{
+    struct Exit {
+        QJsonValue ip, country;
+        QStringList sites;
+    };
+    std::vector<Exit> exits; // few
+    for (const QJsonValue &circuit : circuits) {
+        const QJsonObject askedBy = circuit[QStringLiteral("askedBy")].toObject();
+        QStringList sites;
+        for (const QJsonValue &site : circuit[QStringLiteral("sites")].toArray()) {
+            if (askedBy.value(site.toString()).toArray().contains(application))
+                sites << site.toString();
+        }
+        if (sites.isEmpty())
+            continue;
+        const QJsonArray hops = circuit[QStringLiteral("hops")].toArray();
+        Exit exit{QJsonValue::Null, QJsonValue::Null, {}};
+        if (circuit[QStringLiteral("purpose")] != QLatin1String("HS_CLIENT_REND")
+            && !hops.isEmpty()) {
+            exit.ip = hops.last()[QStringLiteral("ip")];
+            exit.country = hops.last()[QStringLiteral("country")];
+        }
+        auto found = std::find_if(exits.begin(), exits.end(), [&exit](const Exit &other) {
+            return other.ip == exit.ip && other.country == exit.country;
+        });
+        if (found == exits.end())
+            found = exits.insert(found, exit);
+        found->sites << sites;
+        found->sites.removeDuplicates();
+    }
+    QJsonArray json;
+    for (const Exit &exit : exits)
+        json.append(QJsonObject{{QStringLiteral("ip"), exit.ip},
+                                {QStringLiteral("country"), exit.country},
+                                {QStringLiteral("sites"), QJsonArray::fromStringList(exit.sites)}});
+    return json;
+}
+
+QString exitLine(const QJsonObject &exit)
+{
+    QStringList place;
+    for (const QString &part : {exit.value(QStringLiteral("country")).toString().toUpper(),
+                                exit.value(QStringLiteral("ip")).toString()}) {
+        if (!part.isEmpty())
+            place << part;
+    }
+    QStringList sites;
+    for (const QJsonValue &site : exit.value(QStringLiteral("sites")).toArray())
+        sites << site.toString();
+    return (place.isEmpty() ? QString() : place.join(u' ') + QStringLiteral(": "))
+        + sites.join(QStringLiteral(", "));
+}
+
 QCoro::Task<ExitStatus> showIdentities(Invocation invocation, PlatformProfile profile)
 {
     const auto known = Identities::read(profile);
     const bool standing = known && known->standing;
+    QJsonArray circuits;
+    if (standing)
+        circuits = co_await presentCircuits(profile);
     QJsonArray json;
     QStringList lines;
     qsizetype width = 0;
@@ -63,13 +138,17 @@ QCoro::Task<ExitStatus> showIdentities(Invocation invocation, PlatformProfile pr
     for (const auto &identity : shown)
         width = std::max(width, identity.application.size());
     for (const auto &identity : shown) {
+        const QJsonArray exits = exitsOf(identity.application, circuits);
         json.append(QJsonObject{{QStringLiteral("application"), identity.application},
                                 {QStringLiteral("address"), identity.address},
-                                {QStringLiteral("user"), static_cast<qint64>(identity.user)}});
+                                {QStringLiteral("user"), static_cast<qint64>(identity.user)},
+                                {QStringLiteral("exits"), exits}});
         lines << identity.application.leftJustified(width) + QStringLiteral("  ") + identity.address
                 + (geteuid() == 0
                        ? QStringLiteral("  ") + Text::tr("user %1").arg(identity.user).translated()
                        : QString());
+        for (const QJsonValue &exit : exits)
+            lines << QStringLiteral("    ") + exitLine(exit.toObject());
     }
     if (invocation.json) {
         const QJsonObject all{{QStringLiteral("separated"), standing},

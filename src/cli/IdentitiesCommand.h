@@ -2,6 +2,7 @@
 
 #include "cli/Arguments.h"
 
+#include <QJsonArray>
 #include <QString>
 
 #include <qcorotask.h>
@@ -12,8 +13,16 @@ namespace veldmark {
 
 struct PlatformProfile;
 
-// `veldmarkctl identities`: this user's identities; for root those of all users.
+// `veldmarkctl identities`: this user's identities; for root those of all users. With their exits
+// and sites, where an instance is connected.
 QCoro::Task<ExitStatus> showIdentities(Invocation invocation, PlatformProfile profile);
+
+// The exits that an application uses now, each an object with "ip", "country" and "sites".
+// `circuits`: as `circuits --json` has them. For onion services, which have no exit, the first two
+// are null.
+QJsonArray exitsOf(const QString &application, const QJsonArray &circuits);
+// Such an exit for people: "DE 192.0.2.7: a.example, b.example".
+QString exitLine(const QJsonObject &exit);
 
 // `veldmarkctl renew APP`: gives the application another address.
 QCoro::Task<ExitStatus> renewIdentity(Invocation invocation, PlatformProfile profile);

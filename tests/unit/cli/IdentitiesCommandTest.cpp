@@ -3,6 +3,8 @@
 #include "platform/PlatformProfile.h"
 #include "support/TestProgram.h"
 
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
@@ -13,6 +15,38 @@ class IdentitiesCommandTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void anApplicationHasItsExitsAndSites()
+    {
+        const QJsonArray circuits = QJsonDocument::fromJson(R"([
+            {"purpose":"CONFLUX","sites":["a.example","b.example","c.example"],
+             "askedBy":{"a.example":["mail"],"b.example":["web","mail"]},
+             "hops":[{"ip":"192.0.2.1","country":"us"},{"ip":"192.0.2.7","country":"de"}]},
+            {"purpose":"CONFLUX","sites":["a.example","d.example"],
+             "askedBy":{"a.example":["mail"],"d.example":["mail"]},
+             "hops":[{"ip":"192.0.2.2","country":"us"},{"ip":"192.0.2.7","country":"de"}]},
+            {"purpose":"HS_CLIENT_REND","sites":["x.onion"],"askedBy":{"x.onion":["mail"]},
+             "hops":[{"ip":"192.0.2.9","country":"fr"}]},
+            {"purpose":"GENERAL","sites":["e.example"],"askedBy":{"e.example":["mail"]},
+             "hops":[{"ip":null,"country":null}]},
+            {"purpose":"GENERAL","sites":["f.example"],"hops":[{"ip":"192.0.2.8","country":"se"}]},
+            {"purpose":"GENERAL","sites":["g.example"],"askedBy":{"g.example":["mai"]},"hops":[]}])")
+                                        .array();
+        const QJsonArray mail = exitsOf(QStringLiteral("mail"), circuits);
+        QCOMPARE(
+            QJsonDocument(mail).toJson(QJsonDocument::Compact),
+            QByteArray(
+                "[{\"country\":\"de\",\"ip\":\"192.0.2.7\",\"sites\":[\"a.example\",\"b.example\",\"d.example\"]},"
+                "{\"country\":null,\"ip\":null,\"sites\":[\"x.onion\",\"e.example\"]}]"));
+        QCOMPARE(exitLine(mail[0].toObject()),
+                 QStringLiteral("DE 192.0.2.7: a.example, b.example, d.example"));
+        QCOMPARE(exitLine(mail[1].toObject()), QStringLiteral("x.onion, e.example"));
+        const QJsonArray web = exitsOf(QStringLiteral("web"), circuits);
+        QCOMPARE(web.size(), 1);
+        QCOMPARE(exitLine(web[0].toObject()), QStringLiteral("DE 192.0.2.7: b.example"));
+        QVERIFY(exitsOf(QStringLiteral("other"), circuits).isEmpty());
+        QVERIFY(exitsOf(QStringLiteral("mail"), {}).isEmpty());
+    }
+
     void aProgramIsParsedWithItsOwnWords()
     {
         const auto asked = parseArguments({QStringLiteral("run-as"), QStringLiteral("bank"),
