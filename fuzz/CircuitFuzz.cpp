@@ -1,4 +1,5 @@
-// Circuit and stream lines, as a table and as a picture. The lines of streams follow an empty line.
+// Circuit and stream lines, as a table and as a picture. The lines of streams follow an empty line,
+// and after another one Tor's events about streams.
 #include "fuzz/Require.h"
 
 #include "circuits/CircuitGraph.h"
@@ -14,9 +15,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     const QStringList circuitLines = blocks.constFirst().split(u'\n');
     const QStringList streamLines = blocks.value(1).split(u'\n');
 
+    SeenStreams seen;
+    for (const QString &event : blocks.value(2).split(u'\n'))
+        seen.take(event, [](const QString &address) { return address; });
     SiteHistory history;
     const RelayCache cache;
-    const CircuitTable table = CircuitTable::assemble(circuitLines, streamLines, history, cache);
+    const CircuitTable table = CircuitTable::assemble(circuitLines, streamLines, history, cache,
+                                                      seen);
     REQUIRE(table.circuits.size() <= static_cast<std::size_t>(circuitLines.size()));
     QSet<QString> ids;
     for (const CircuitInfo &circuit : table.circuits) {
@@ -24,6 +29,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         ids.insert(circuit.id);
         REQUIRE(QSet<QString>(circuit.sites.begin(), circuit.sites.end()).size()
                 == circuit.sites.size());
+        for (auto asker = circuit.askers.begin(); asker != circuit.askers.end(); ++asker)
+            REQUIRE(circuit.sites.contains(asker.key()) && !asker->isEmpty());
         circuit.toJson();
     }
     for (auto known = history.keyBegin(); known != history.keyEnd(); ++known)
@@ -31,7 +38,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     for (const RelayInfo &relay : table.unresolved)
         REQUIRE(isPrintableWord(relay.fingerprint)); // it becomes a part of a command
     // Another refresh with the same lines changes nothing.
-    REQUIRE(CircuitTable::assemble(circuitLines, streamLines, history, cache).circuits
+    REQUIRE(CircuitTable::assemble(circuitLines, streamLines, history, cache, seen).circuits
             == table.circuits);
 
     const CircuitGraph graph = CircuitGraph::build(table.circuits);

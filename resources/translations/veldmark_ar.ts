@@ -1075,6 +1075,10 @@
             <numerusform>%n مسار نشط</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Asked for by %1</source>
+        <translation>طلبها ⁨%1⁩</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::DoctorModel</name>

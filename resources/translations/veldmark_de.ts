@@ -1067,6 +1067,10 @@
             <numerusform>%n aktive Wege</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Asked for by %1</source>
+        <translation>Angefragt von %1</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::DoctorModel</name>

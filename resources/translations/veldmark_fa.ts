@@ -1065,6 +1065,10 @@
             <numerusform>%n مسیر فعال</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Asked for by %1</source>
+        <translation>درخواست از ⁨%1⁩</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::DoctorModel</name>

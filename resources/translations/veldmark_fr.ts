@@ -1067,6 +1067,10 @@
             <numerusform>%n chemins actifs</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Asked for by %1</source>
+        <translation>Demandé par %1</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::DoctorModel</name>

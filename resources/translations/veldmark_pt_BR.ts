@@ -1067,6 +1067,10 @@
             <numerusform>%n caminhos ativos</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Asked for by %1</source>
+        <translation>Solicitado por %1</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::DoctorModel</name>

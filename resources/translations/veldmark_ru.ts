@@ -1069,6 +1069,10 @@
             <numerusform>%n активных путей</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Asked for by %1</source>
+        <translation>Кто запросил: %1</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::DoctorModel</name>

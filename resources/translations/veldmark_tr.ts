@@ -1065,6 +1065,10 @@
             <numerusform>%n etkin yol</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Asked for by %1</source>
+        <translation>İsteyen: %1</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::DoctorModel</name>

@@ -1069,6 +1069,10 @@
             <numerusform>%n активних шляхів</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Asked for by %1</source>
+        <translation>Хто запитав: %1</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::DoctorModel</name>

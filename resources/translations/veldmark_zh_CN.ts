@@ -1065,6 +1065,10 @@
             <numerusform>%n 条活动路径</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Asked for by %1</source>
+        <translation>由 %1 请求</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::DoctorModel</name>

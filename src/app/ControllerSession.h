@@ -33,6 +33,10 @@ public:
     {
         return m_applications.displayName(path);
     }
+    InstalledApplication applicationOfIdentity(const QString &id) const override
+    {
+        return veldmark::applicationOfIdentity(id);
+    }
     void store(const Choices &choices) override;
     void connectToTor() override;
     void takeOffer() override;

@@ -43,6 +43,11 @@ QJsonObject CircuitInfo::toJson() const
     };
     if (roundTrip)
         object.insert(QStringLiteral("rtt"), static_cast<qint64>(roundTrip->count()));
+    QJsonObject askedBy;
+    for (auto asker = askers.begin(); asker != askers.end(); ++asker)
+        askedBy.insert(asker.key(), QJsonArray::fromStringList(asker.value()));
+    if (!askedBy.isEmpty())
+        object.insert(QStringLiteral("askedBy"), askedBy);
     return object;
 }
 
@@ -51,7 +56,7 @@ size_t qHash(const CircuitInfo &circuit, size_t seed)
     return qHashMulti(seed, circuit.id, qHashRange(circuit.hops.begin(), circuit.hops.end()),
                       circuit.purpose, circuit.created.has_value(),
                       circuit.created ? circuit.created->toMSecsSinceEpoch() : 0, circuit.sites,
-                      circuit.confluxID, circuit.roundTrip.has_value(),
+                      circuit.askers, circuit.confluxID, circuit.roundTrip.has_value(),
                       circuit.roundTrip ? circuit.roundTrip->count() : 0, circuit.onionService,
                       circuit.isOneHopTunnel, circuit.isInternal);
 }

@@ -11,8 +11,9 @@
 #include <vector>
 
 // The room of Tor's circuits: these records, CircuitParser, which makes them from Tor's replies,
-// CircuitTable, which joins one refresh into a list, and CircuitGraph with GraphLayout, which lay
-// the list out as a graph. Everything here is a value or a pure function; nothing connects to Tor.
+// SeenStreams, which remembers who asked for a site, CircuitTable, which joins one refresh into a
+// list, and CircuitGraph with GraphLayout, which lay the list out as a graph. Everything here is a
+// value or a pure function; nothing connects to Tor.
 namespace veldmark {
 
 // One relay on a circuit's path.
@@ -38,6 +39,9 @@ struct CircuitInfo {
     QString purpose; // "GENERAL", "CONFLUX" for a linked leg of a conflux set, or Tor's own word
     std::optional<QDateTime> created; // UTC, milliseconds
     QStringList sites;                // host names and addresses seen on this circuit, each once
+    // site → the applications that asked for it, each once. A site is left out while no application
+    // is known for it.
+    QHash<QString, QStringList> askers;
 
     // Further facts from Tor.
     QString confluxID; // equal for the legs of one conflux set; empty on other circuits
@@ -51,7 +55,7 @@ struct CircuitInfo {
     friend bool operator==(const CircuitInfo &, const CircuitInfo &) = default;
 
     // Keys id, hops, purpose, created (ISO 8601 in UTC with milliseconds, or null), sites. "rtt" in
-    // microseconds only when Tor has measured it.
+    // microseconds only when Tor has measured it, "askedBy" only when an application is known.
     QJsonObject toJson() const;
 };
 

@@ -188,13 +188,13 @@ std::optional<CircuitInfo> circuit(QStringView line)
 
 std::optional<StreamInfo> stream(QStringView line)
 {
-    nextPiece(line, u' '); // the stream's own number
+    const QStringView id = nextPiece(line, u' ');
     nextPiece(line, u' '); // its status
     const QStringView circuitID = nextPiece(line, u' ');
     const QStringView target = nextPiece(line, u' ');
     if (target.isEmpty() || circuitID == u"0")
         return std::nullopt;
-    return StreamInfo{circuitID.toString(), host(target)};
+    return StreamInfo{id.toString(), circuitID.toString(), host(target)};
 }
 
 QString host(QStringView target)

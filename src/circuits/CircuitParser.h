@@ -10,6 +10,7 @@ namespace veldmark::CircuitParser {
 
 // A stream and the circuit that carries it.
 struct StreamInfo {
+    QString id; // Tor's number
     QString circuitID;
     QString host; // name or address, without the port
     friend bool operator==(const StreamInfo &, const StreamInfo &) = default;

@@ -42,20 +42,34 @@ QString sharingKey(const CircuitInfo &circuit)
 
 // An ordered list of sites without duplicates. A busy circuit may have thousands, hence the set.
 struct Sites {
-    QStringList names;
+    SiteList list;
     QSet<QString> known;
 
-    void add(const QString &site)
+    void add(const QString &site, const QString &application = {})
     {
-        if (site.isEmpty() || known.contains(site))
+        if (site.isEmpty())
             return;
-        known.insert(site);
-        names.append(site);
+        if (!known.contains(site)) {
+            known.insert(site);
+            list.names.append(site);
+        }
+        if (application.isEmpty())
+            return;
+        if (QStringList &askers = list.askers[site]; !askers.contains(application))
+            askers.append(application);
+    }
+    void add(const SiteList &former)
+    {
+        for (const QString &site : former.names) {
+            add(site);
+            for (const QString &application : former.askers.value(site))
+                add(site, application);
+        }
     }
 };
 
 void joinSites(std::vector<CircuitInfo> &circuits, const QStringList &streamLines,
-               SiteHistory &history)
+               SiteHistory &history, const SeenStreams &seen)
 {
     QHash<QString, QString> keys; // circuit id → sharing key
     QHash<QString, Sites> sites;  // sharing key → sites
@@ -64,22 +78,32 @@ void joinSites(std::vector<CircuitInfo> &circuits, const QStringList &streamLine
         keys.insert(circuit.id, key);
         Sites &shared = sites[key];
         shared.add(circuit.onionService);
-        for (const QString &site : history.value(circuit.id))
-            shared.add(site);
+        shared.add(history.value(circuit.id));
     }
     for (const QString &line : streamLines) {
         const auto stream = CircuitParser::stream(line);
         if (!stream)
             continue;
         const auto key = keys.constFind(stream->circuitID);
-        if (key != keys.constEnd())
+        if (key == keys.constEnd())
+            continue;
+        if (const SeenStreams::Stream *known = seen.find(stream->id))
+            sites[*key].add(known->site, known->application);
+        else
             sites[*key].add(stream->host);
     }
+    seen.visit([&keys, &sites](const SeenStreams::Stream &stream) {
+        const auto key = keys.constFind(stream.circuitID);
+        if (key != keys.constEnd())
+            sites[*key].add(stream.site, stream.application);
+    });
     history.clear();
     for (CircuitInfo &circuit : circuits) {
-        circuit.sites = sites.value(keys.value(circuit.id)).names;
+        const SiteList list = sites.value(keys.value(circuit.id)).list;
+        circuit.sites = list.names;
+        circuit.askers = list.askers;
         if (!circuit.sites.isEmpty())
-            history.insert(circuit.id, circuit.sites);
+            history.insert(circuit.id, list);
     }
 }
 
@@ -119,11 +143,12 @@ bool comesBefore(const CircuitInfo &left, const CircuitInfo &right)
 } // namespace
 
 CircuitTable CircuitTable::assemble(const QStringList &circuitLines, const QStringList &streamLines,
-                                    SiteHistory &history, const RelayCache &cache)
+                                    SiteHistory &history, const RelayCache &cache,
+                                    const SeenStreams &seen)
 {
     CircuitTable table;
     table.circuits = keptCircuits(circuitLines);
-    joinSites(table.circuits, streamLines, history);
+    joinSites(table.circuits, streamLines, history, seen);
     fillRelays(table.circuits, cache);
     table.unresolved = missingRelays(table.circuits, cache);
     std::stable_sort(table.circuits.begin(), table.circuits.end(), comesBefore);

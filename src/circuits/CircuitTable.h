@@ -1,12 +1,18 @@
 #pragma once
 
 #include "circuits/CircuitInfo.h"
+#include "circuits/SeenStreams.h"
 
 namespace veldmark {
 
+// The sites seen on a circuit, and who asked for them (CircuitInfo::askers).
+struct SiteList {
+    QStringList names;
+    QHash<QString, QStringList> askers;
+};
 // Circuit id → the sites seen on it since it was first listed. A circuit keeps its sites after
 // their streams have closed.
-using SiteHistory = QHash<QString, QStringList>;
+using SiteHistory = QHash<QString, SiteList>;
 // Fingerprint → known facts about the relay. Only `ip` and `country` are used.
 using RelayCache = QHash<QString, RelayInfo>;
 
@@ -23,9 +29,11 @@ struct CircuitTable {
 
     // `circuitLines` and `streamLines` are the data blocks "circuit-status" and "stream-status".
     // Removes closed circuits from `history` and adds the sites seen now. The legs of one conflux
-    // set share their sites: Tor names only one leg as a stream's circuit.
+    // set share their sites: Tor names only one leg as a stream's circuit. A stream in `seen`
+    // counts with the site that it was asked for and with its application, also when it is closed.
     static CircuitTable assemble(const QStringList &circuitLines, const QStringList &streamLines,
-                                 SiteHistory &history, const RelayCache &cache);
+                                 SiteHistory &history, const RelayCache &cache,
+                                 const SeenStreams &seen = {});
 
     // Fills in the address and country of every hop that `cache` knows.
     static void fillRelays(std::vector<CircuitInfo> &circuits, const RelayCache &cache);

@@ -13,11 +13,14 @@
 #include "controller/RealController.h"
 #include "instance/InstanceClient.h"
 #include "instance/InstancePlace.h"
+#include "platform/InstalledApplications.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <functional>
 #include <map>
+#include <memory>
 
 #include <unistd.h>
 
@@ -45,6 +48,18 @@ QJsonObject request(const Invocation &invocation)
     return request;
 }
 
+// Looks up each name once.
+std::function<QString(const QString &id)> applicationNames()
+{
+    const auto known = std::make_shared<QHash<QString, QString>>();
+    return [known](const QString &id) {
+        auto name = known->find(id);
+        if (name == known->end())
+            name = known->insert(id, applicationOfIdentity(id).name);
+        return *name;
+    };
+}
+
 // A program reads the state in English, the user in their own language.
 QJsonObject forReader(const Invocation &invocation, const QJsonObject &state,
                       const QJsonObject &texts)
@@ -59,7 +74,7 @@ bool show(const Invocation &invocation, const QJsonObject &state)
     switch (invocation.verb) {
     case Verb::Id::circuits:
         Console::print(invocation.json ? compact(state.value(QStringLiteral("circuits")))
-                                       : Report::circuits(state));
+                                       : Report::circuits(state, applicationNames()));
         return true;
     case Verb::Id::get: {
         const QJsonValue value = state.value(invocation.key);

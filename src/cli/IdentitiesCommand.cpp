@@ -1,7 +1,9 @@
 #include "cli/IdentitiesCommand.h"
 
 #include "cli/Console.h"
+#include "instance/InstanceClient.h"
 #include "platform/PlatformProfile.h"
+#include "system/Identities.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -15,17 +17,13 @@
 #include <cerrno>
 #include <cstring>
 #include <iterator>
+#include <memory>
 
-#include <sys/socket.h>
-#include <sys/un.h>
 #include <unistd.h>
 
 namespace veldmark {
 
 namespace {
-
-constexpr qint64 noteLimitBytes = 4 << 20;
-constexpr int readings = 20; // the program may be writing it at that moment
 
 Text whyNone(const PlatformProfile &profile)
 {
@@ -34,50 +32,27 @@ Text whyNone(const PlatformProfile &profile)
         : Text::tr("Applications are not separated now: they share circuits.");
 }
 
-bool isMine(const Identities::Identity &identity)
-{
-    return geteuid() == 0 || identity.user == geteuid();
-}
-
 ExitStatus fail(const Text &reason, ExitStatus status = ExitStatus::failed)
 {
     Console::printError(reason);
     return status;
 }
 
-// The socket of the identity program.
-class Sending {
-public:
-    explicit Sending(const QString &path) : m_socket(socket(AF_UNIX, SOCK_DGRAM, 0))
-    {
-        sockaddr_un place{};
-        place.sun_family = AF_UNIX;
-        const QByteArray name = QFile::encodeName(path);
-        if (m_socket < 0 || name.size() >= static_cast<qsizetype>(sizeof place.sun_path))
-            return;
-        std::memcpy(place.sun_path, name.constData(), static_cast<std::size_t>(name.size()));
-        m_isThere = ::connect(m_socket, reinterpret_cast<const sockaddr *>(&place), sizeof place)
-            == 0;
-    }
-    Sending(const Sending &) = delete;
-    Sending &operator=(const Sending &) = delete;
-    ~Sending()
-    {
-        if (m_socket >= 0)
-            close(m_socket);
-    }
-    bool isThere() const { return m_isThere; }
-    bool send(const QByteArray &wish) const
-    {
-        return m_isThere
-            && ::send(m_socket, wish.constData(), static_cast<std::size_t>(wish.size()), 0)
-            == wish.size();
-    }
-
-private:
-    int m_socket;
-    bool m_isThere = false;
-};
+// The circuits of the running instance; none without a connected one.
+QCoro::Task<QJsonArray> presentCircuits(PlatformProfile profile)
+{
+    const auto instance = InstanceClient::connectTo(profile);
+    if (!instance)
+        co_return QJsonArray();
+    const auto last = std::make_shared<QJsonArray>();
+    const InstanceClient::OnState onState = [last](const QJsonObject &state, const QJsonObject &) {
+        *last = state.value(QStringLiteral("circuits")).toArray();
+    };
+    const QJsonObject request{{QStringLiteral("command"), verbOf(Verb::Id::circuits).requested()}};
+    auto asking = instance->run(request, onState);
+    const auto answer = co_await asking;
+    co_return answer ? *last : QJsonArray();
+}
 
 // The script that runs in the group: REASON PATTERN FILE PROGRAM…. Prints the reason when it gets
 // no identity.
@@ -92,64 +67,88 @@ exec "$@")");
 
 } // namespace
 
-std::optional<Identities> Identities::parse(const QByteArray &text)
+QJsonArray exitsOf(const QString &application, const QJsonArray &circuits)
 {
-    const QList<QByteArray> lines = text.split('\n');
-    if (lines.size() < 4 || !lines.constLast().isEmpty()
-        || !lines.constFirst().startsWith("identities "))
-        return std::nullopt;
-    if (lines[lines.size() - 2] != "end " + lines.constFirst().mid(11)
-        || (lines[1] != "standing" && lines[1] != "lost"))
-        return std::nullopt;
-    Identities found;
-    found.standing = lines[1] == "standing";
-    static const QRegularExpression line(
-        QStringLiteral("^([0-9]{1,10}) (127(?:\\.[0-9]{1,3}){3}) ([!-~]+)$"));
-    for (const QByteArray &entry : lines.mid(2, lines.size() - 4)) {
-        const auto words = line.match(QString::fromLatin1(entry));
-        if (!words.hasMatch())
-            return std::nullopt;
-        found.all.push_back({static_cast<uid_t>(words.captured(1).toULongLong()), words.captured(2),
-                             words.captured(3)});
+    struct Exit {
+        QJsonValue ip, country;
+        QStringList sites;
+    };
+    std::vector<Exit> exits; // few
+    for (const QJsonValue &circuit : circuits) {
+        const QJsonObject askedBy = circuit[QStringLiteral("askedBy")].toObject();
+        QStringList sites;
+        for (const QJsonValue &site : circuit[QStringLiteral("sites")].toArray()) {
+            if (askedBy.value(site.toString()).toArray().contains(application))
+                sites << site.toString();
+        }
+        if (sites.isEmpty())
+            continue;
+        const QJsonArray hops = circuit[QStringLiteral("hops")].toArray();
+        Exit exit{QJsonValue::Null, QJsonValue::Null, {}};
+        if (circuit[QStringLiteral("purpose")] != QLatin1String("HS_CLIENT_REND")
+            && !hops.isEmpty()) {
+            exit.ip = hops.last()[QStringLiteral("ip")];
+            exit.country = hops.last()[QStringLiteral("country")];
+        }
+        auto found = std::find_if(exits.begin(), exits.end(), [&exit](const Exit &other) {
+            return other.ip == exit.ip && other.country == exit.country;
+        });
+        if (found == exits.end())
+            found = exits.insert(found, exit);
+        found->sites << sites;
+        found->sites.removeDuplicates();
     }
-    return found;
+    QJsonArray json;
+    for (const Exit &exit : exits)
+        json.append(QJsonObject{{QStringLiteral("ip"), exit.ip},
+                                {QStringLiteral("country"), exit.country},
+                                {QStringLiteral("sites"), QJsonArray::fromStringList(exit.sites)}});
+    return json;
 }
 
-std::optional<Identities> Identities::read(const PlatformProfile &profile)
+QString exitLine(const QJsonObject &exit)
 {
-    if (profile.identitiesNote.isEmpty() || !Sending(profile.identitiesSocket).isThere())
-        return std::nullopt;
-    for (int reading = 0; reading < readings; ++reading) {
-        QFile file(profile.identitiesNote);
-        if (!file.open(QIODevice::ReadOnly))
-            return std::nullopt;
-        if (const auto found = parse(file.read(noteLimitBytes)))
-            return found;
-        QThread::msleep(5);
+    QStringList place;
+    for (const QString &part : {exit.value(QStringLiteral("country")).toString().toUpper(),
+                                exit.value(QStringLiteral("ip")).toString()}) {
+        if (!part.isEmpty())
+            place << part;
     }
-    return std::nullopt;
+    QStringList sites;
+    for (const QJsonValue &site : exit.value(QStringLiteral("sites")).toArray())
+        sites << site.toString();
+    return (place.isEmpty() ? QString() : place.join(u' ') + QStringLiteral(": "))
+        + sites.join(QStringLiteral(", "));
 }
 
 QCoro::Task<ExitStatus> showIdentities(Invocation invocation, PlatformProfile profile)
 {
     const auto known = Identities::read(profile);
     const bool standing = known && known->standing;
+    QJsonArray circuits;
+    if (standing)
+        circuits = co_await presentCircuits(profile);
     QJsonArray json;
     QStringList lines;
     qsizetype width = 0;
     std::vector<Identities::Identity> shown;
     if (standing)
-        std::copy_if(known->all.begin(), known->all.end(), std::back_inserter(shown), isMine);
+        std::copy_if(known->all.begin(), known->all.end(), std::back_inserter(shown),
+                     [](const Identities::Identity &identity) { return identity.isMine(); });
     for (const auto &identity : shown)
         width = std::max(width, identity.application.size());
     for (const auto &identity : shown) {
+        const QJsonArray exits = exitsOf(identity.application, circuits);
         json.append(QJsonObject{{QStringLiteral("application"), identity.application},
                                 {QStringLiteral("address"), identity.address},
-                                {QStringLiteral("user"), static_cast<qint64>(identity.user)}});
+                                {QStringLiteral("user"), static_cast<qint64>(identity.user)},
+                                {QStringLiteral("exits"), exits}});
         lines << identity.application.leftJustified(width) + QStringLiteral("  ") + identity.address
                 + (geteuid() == 0
                        ? QStringLiteral("  ") + Text::tr("user %1").arg(identity.user).translated()
                        : QString());
+        for (const QJsonValue &exit : exits)
+            lines << QStringLiteral("    ") + exitLine(exit.toObject());
     }
     if (invocation.json) {
         const QJsonObject all{{QStringLiteral("separated"), standing},
@@ -183,7 +182,7 @@ QCoro::Task<ExitStatus> renewIdentity(Invocation invocation, PlatformProfile pro
             Text::tr(
                 "No application of yours has that identity; \"veldmarkctl identities\" lists them."),
             ExitStatus::usage);
-    if (!Sending(profile.identitiesSocket).send("new " + invocation.key.toLatin1()))
+    if (!Identities::send(profile, "new " + invocation.key.toLatin1()))
         co_return fail(whyNone(profile));
     for (int waits = 0; waits < 100; ++waits) {
         const auto now = Identities::read(profile);

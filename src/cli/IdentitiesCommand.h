@@ -2,12 +2,10 @@
 
 #include "cli/Arguments.h"
 
+#include <QJsonArray>
 #include <QString>
 
 #include <qcorotask.h>
-
-#include <optional>
-#include <vector>
 
 #include <sys/types.h>
 
@@ -15,26 +13,16 @@ namespace veldmark {
 
 struct PlatformProfile;
 
-// The identity program's list of applications and their addresses, in the file that the profile
-// names.
-struct Identities {
-    struct Identity {
-        uid_t user = 0;
-        QString address;
-        // as the program writes it: letters, digits and a few signs, others as \xNN
-        QString application;
-    };
-    bool standing = false; // the firewall's table is there
-    std::vector<Identity> all;
-
-    // Absent when the file does not exist or is incomplete, or no process listens on the socket: a
-    // killed program leaves its file behind.
-    static std::optional<Identities> read(const PlatformProfile &profile);
-    static std::optional<Identities> parse(const QByteArray &text);
-};
-
-// `veldmarkctl identities`: this user's identities; for root those of all users.
+// `veldmarkctl identities`: this user's identities; for root those of all users. With their exits
+// and sites, where an instance is connected.
 QCoro::Task<ExitStatus> showIdentities(Invocation invocation, PlatformProfile profile);
+
+// The exits that an application uses now, each an object with "ip", "country" and "sites".
+// `circuits`: as `circuits --json` has them. For onion services, which have no exit, the first two
+// are null.
+QJsonArray exitsOf(const QString &application, const QJsonArray &circuits);
+// Such an exit for people: "DE 192.0.2.7: a.example, b.example".
+QString exitLine(const QJsonObject &exit);
 
 // `veldmarkctl renew APP`: gives the application another address.
 QCoro::Task<ExitStatus> renewIdentity(Invocation invocation, PlatformProfile profile);

@@ -207,7 +207,34 @@ QString terminal(const QJsonObject &state)
     return error.isEmpty() ? text(state, "terminalHint") : error;
 }
 
-QString circuits(const QJsonObject &state)
+namespace {
+
+// "NAME: site, site" for each application, the sites of an unknown one without a name.
+QStringList sitesByApplication(const QJsonObject &circuit,
+                               const std::function<QString(const QString &id)> &nameOf)
+{
+    const QJsonObject askedBy = circuit.value(QStringLiteral("askedBy")).toObject();
+    QStringList applications; // in the order of their first sites
+    QHash<QString, QStringList> sites;
+    for (const QJsonValue &site : circuit.value(QStringLiteral("sites")).toArray()) {
+        QStringList names;
+        for (const QJsonValue &id : askedBy.value(site.toString()).toArray())
+            names << (nameOf ? nameOf(id.toString()) : id.toString());
+        const QString application = names.join(QStringLiteral(", "));
+        if (!sites.contains(application))
+            applications << application;
+        sites[application] << site.toString();
+    }
+    QStringList lines;
+    for (const QString &application : std::as_const(applications))
+        lines << (application.isEmpty() ? QString() : application + QStringLiteral(": "))
+                + sites.value(application).join(QStringLiteral(", "));
+    return lines;
+}
+
+} // namespace
+
+QString circuits(const QJsonObject &state, const std::function<QString(const QString &id)> &nameOf)
 {
     const QJsonArray list = state.value(QStringLiteral("circuits")).toArray();
     if (list.isEmpty())
@@ -226,11 +253,8 @@ QString circuits(const QJsonObject &state)
                                                                      : purpose,
                           -8)
                      .arg(path.join(QStringLiteral(" → ")));
-        QStringList sites;
-        for (const QJsonValue &site : circuit.value(QStringLiteral("sites")).toArray())
-            sites << site.toString();
-        if (!sites.isEmpty())
-            lines << QStringLiteral("                → ") + sites.join(QStringLiteral(", "));
+        for (const QString &sites : sitesByApplication(circuit, nameOf))
+            lines << QStringLiteral("                → ") + sites;
     }
     return lines.join(u'\n');
 }

@@ -3,12 +3,16 @@
 #include <QJsonObject>
 #include <QString>
 
+#include <functional>
+
 // veldmarkctl's reports for the user, made from the published state, so that they are the same with
 // and without a running instance. Pure functions; several lines, without a final line break.
 namespace veldmark::Report {
 
 QString status(const QJsonObject &state);
-QString circuits(const QJsonObject &state);
+// `nameOf` turns an application's id into the name that people know.
+QString circuits(const QJsonObject &state,
+                 const std::function<QString(const QString &id)> &nameOf = {});
 // The problem with terminal mode, or what ssh still lacks for it; empty without a problem.
 QString terminal(const QJsonObject &state);
 

@@ -226,6 +226,21 @@ QCoro::Task<Result<QByteArray, ControlPortError>> ControlConnection::receive()
     co_return bytes;
 }
 
+QCoro::Task<Result<QString, ControlPortError>> ControlConnection::nextLine()
+{
+    for (;;) {
+        const auto line = m_framing.nextLine();
+        if (!line)
+            co_return Failure(line.error());
+        if (*line)
+            co_return **line;
+        const auto chunk = co_await receive();
+        if (!chunk)
+            co_return Failure(chunk.error());
+        m_framing.feed(*chunk);
+    }
+}
+
 QCoro::Task<QStringList> ControlConnection::collectEvents(Clock *clock,
                                                           std::chrono::milliseconds duration)
 {

@@ -24,7 +24,7 @@ struct ControlTraffic {
 };
 
 // One connection to Tor's control port, for one call of ControlPort: open(), one or more commands
-// (or a command and then collectEvents()), close(). It is never reopened.
+// (or a command and then nextLine() or collectEvents()), close(). It is never reopened.
 //
 // One task at a time uses it, on the thread that made it. The caller keeps it alive until the
 // awaited task is done; close() and abort() end a wait promptly. It has no time limit of its own:
@@ -58,6 +58,10 @@ public:
 
     // The next 1 to 65,536 bytes.
     [[nodiscard]] QCoro::Task<Result<QByteArray, ControlPortError>> receive();
+
+    // The next line outside of a reply, such as an event. Waits without a limit. Lines that arrived
+    // with an earlier reply come first.
+    [[nodiscard]] QCoro::Task<Result<QString, ControlPortError>> nextLine();
 
     // Every line that arrives within `duration`, or until the connection ends. Closes the
     // connection afterwards. Lines that arrived with an earlier reply come first. At most 64 MiB.

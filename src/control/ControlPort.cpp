@@ -11,6 +11,7 @@ namespace {
 
 using Milliseconds = std::chrono::milliseconds;
 
+const QString hearStreamsCommand = QStringLiteral("SETEVENTS STREAM");
 constexpr uid_t nobody = static_cast<uid_t>(-1); // no process can have it
 
 // The resources of one operation while it runs: its connection and its time limit.
@@ -139,7 +140,7 @@ ControlPort::Outcome<QStringList> ControlPort::captureResolves(QString password,
         co_return Failure(*refused);
     Clock *clock = &m_clock;
     Session session(*clock, m_port, m_torUser, m_lifetime, m_traffic, limit);
-    const auto subscribed = co_await ask(&session, password, QStringLiteral("SETEVENTS STREAM"));
+    const auto subscribed = co_await ask(&session, password, hearStreamsCommand);
     if (!subscribed)
         co_return Failure(subscribed.error());
     // The port still exists, or the connection would be aborted; so the clock still exists.
@@ -150,6 +151,25 @@ ControlPort::Outcome<QStringList> ControlPort::captureResolves(QString password,
     const QStringList lines = co_await session->collectEvents(clock, duration);
     stop.request_stop();
     co_return resolvedHosts(lines);
+}
+
+ControlPort::Outcome<void> ControlPort::hearStreams(QString password, Hearer hear,
+                                                    Milliseconds limit)
+{
+    if (const auto refused = refusal({password}))
+        co_return Failure(*refused);
+    Session session(m_clock, m_port, m_torUser, m_lifetime, m_traffic, limit);
+    const auto subscribed = co_await ask(&session, password, hearStreamsCommand);
+    if (!subscribed)
+        co_return Failure(subscribed.error());
+    session.liftLimit();
+    for (;;) {
+        const auto line = co_await session->nextLine();
+        if (!line)
+            co_return Failure(line.error());
+        if (!hear(*line))
+            co_return Result<void, ControlPortError>{};
+    }
 }
 
 QStringList ControlPort::dataBlock(const QString &key, const Reply &lines)

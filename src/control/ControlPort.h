@@ -22,10 +22,11 @@ struct ControlTraffic;
 
 // Sends requests to Tor over its control port. Every operation opens its own connection to
 // 127.0.0.1, authenticates with the plain control password, and closes the connection in every
-// outcome. Concurrent operations share nothing, and no connection is permanent. Start here, then
-// read ControlConnection (one connection) and ReplyFraming (bytes to replies).
+// outcome. Concurrent operations share nothing. Start here, then read ControlConnection (one
+// connection) and ReplyFraming (bytes to replies).
 //
-// Every operation has a time limit, after which it fails with timedOut. The clock measures the
+// Every operation has a time limit, after which it fails with timedOut. Only hearStreams() goes on
+// as long as its caller and Tor want. The clock measures the
 // limit. A test that moves its own clock in leaps gives the port a second clock that stands still,
 // since a real socket cannot follow the leaps.
 //
@@ -72,6 +73,13 @@ public:
     [[nodiscard]] Outcome<QStringList> captureResolves(
         QString password, std::chrono::milliseconds duration, Work work,
         std::chrono::milliseconds limit = defaultLimit);
+
+    // Listens to Tor's events about streams ("650 STREAM …") and calls `hear` with each line, until
+    // it returns false or the connection ends. `limit` is for the steps before the first event.
+    // Succeeds when `hear` has ended it. `hear` must not destroy the port.
+    using Hearer = std::function<bool(const QString &line)>;
+    [[nodiscard]] Outcome<void> hearStreams(QString password, Hearer hear,
+                                            std::chrono::milliseconds limit = defaultLimit);
 
     // The traffic of all operations so far.
     ControlTraffic traffic() const;

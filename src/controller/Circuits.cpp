@@ -53,8 +53,9 @@ QCoro::Task<void> TorController::refreshCircuits()
         const auto &lines = replies->at(index);
         return lines ? ControlPort::dataBlock(key, *lines) : QStringList();
     };
+    nameStreams();
     CircuitTable table = CircuitTable::assemble(block(0, circuitKey), block(1, streamKey),
-                                                m_siteHistory, m_relayCache);
+                                                m_siteHistory, m_relayCache, m_streams);
     if (!table.unresolved.empty()) {
         const Resolution found = co_await resolveRelays(table.unresolved, attempt);
         if (attempt.isOver())

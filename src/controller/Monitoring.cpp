@@ -41,6 +41,7 @@ std::optional<Text> TorController::failure() const
 void TorController::startMonitoring()
 {
     monitor(next(&TorController::m_monitor));
+    listenToStreams();
 }
 
 void TorController::stopMonitoring()
@@ -129,6 +130,7 @@ QCoro::Task<void> TorController::monitor(Run run)
             co_return;
         if (phase() != ConnectionPhase::connected || !m_controlPassword)
             continue;
+        listenToStreams();
         const bool hasMoved = m_network.addresses.haveMoved(m_services.ownAddresses());
         const bool isStale = std::exchange(m_network.hasSlept, false) || hasMoved;
         if (isStale || m_network.mayBeOffline) {

@@ -164,6 +164,11 @@ void TorController::forgetCircuits()
     circuitError = std::nullopt;
     m_siteHistory.clear();
     m_relayCache.clear();
+    m_streams = {};
+    m_applications.clear();
+    m_listRead = std::nullopt;
+    ++m_hearing;
+    m_isHearing = false;
 }
 
 void TorController::failAttempt(const Text &message)

@@ -475,6 +475,15 @@ private:
         bool isComplete = false; // else asked again at the next refresh
     };
     QCoro::Task<Resolution> resolveRelays(std::vector<RelayInfo> relays, Run attempt);
+    // Streams.cpp
+    // Begins to listen to Tor's events about streams, where applications have addresses of their
+    // own. Does nothing while it listens.
+    void listenToStreams();
+    QCoro::Task<void> hearStreams(Run run);
+    // The user's application that has the address now; empty when none is known to have it.
+    QString applicationAt(const QString &address);
+    void readApplications();
+    void nameStreams(); // whose application was not known when they began
     // Transports.cpp
     QCoro::Task<TransportDownloader::Outcome> fetchTransports();
     void interruptDirectDownload();
@@ -554,6 +563,11 @@ private:
     QStringList m_activeBridgeLines;  // of the running session
     RelayCache m_relayCache;
     SiteHistory m_siteHistory;
+    SeenStreams m_streams;
+    quint64 m_hearing = 0;                      // the connection that listens to them
+    bool m_isHearing = false;                   // it is open, or being opened
+    QHash<QString, QString> m_applications;     // address → application, empty for other users'
+    std::optional<Clock::TimePoint> m_listRead; // when that was read
 };
 
 } // namespace veldmark

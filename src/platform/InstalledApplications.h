@@ -20,4 +20,9 @@ struct InstalledApplication {
 // Applications; windows there use the system's file dialogue instead. Main thread.
 std::vector<InstalledApplication> installedApplications();
 
+// The application with an identity's id (Identities::Identity), hidden from the menu or not. Where
+// no desktop entry has the id, its name is the id, and it has neither path nor icon. The name is
+// one line without control characters, 60 at most. Reads one file. Main thread.
+InstalledApplication applicationOfIdentity(const QString &id);
+
 } // namespace veldmark

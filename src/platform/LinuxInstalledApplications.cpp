@@ -1,6 +1,7 @@
 #include "platform/InstalledApplications.h"
 
 #include <QFile>
+#include <QRegularExpression>
 
 #include <gio/gdesktopappinfo.h>
 
@@ -20,7 +21,43 @@ QString iconOf(GAppInfo *info)
     return QString::fromUtf8(text.get());
 }
 
+// A user can write an entry, and so its name.
+QString shownName(const char *name)
+{
+    QString line = QString::fromUtf8(name).simplified();
+    line.removeIf([](QChar c) { return !c.isPrint() && !c.isSurrogate(); });
+    return line.left(60);
+}
+
+// "snap.NAME.APP" has the entry NAME_APP.desktop.
+QString entryOf(const QString &id)
+{
+    static const QRegularExpression snap(QStringLiteral("\\Asnap\\.([^.]+)\\.([^.]+)\\z"));
+    const auto parts = snap.match(id);
+    return (parts.hasMatch() ? parts.captured(1) + u'_' + parts.captured(2) : id)
+        + QStringLiteral(".desktop");
+}
+
 } // namespace
+
+InstalledApplication applicationOfIdentity(const QString &id)
+{
+    InstalledApplication application{{}, id, {}};
+    // Ids with other characters are a login session's or a name from run-as, or have \xNN.
+    static const QRegularExpression ids(QStringLiteral("\\A[A-Za-z0-9_][A-Za-z0-9_.+-]*\\z"));
+    if (!ids.match(id).hasMatch())
+        return application;
+    GDesktopAppInfo *const info = g_desktop_app_info_new(entryOf(id).toUtf8().constData());
+    if (!info)
+        return application;
+    if (const QString name = shownName(g_app_info_get_display_name(G_APP_INFO(info)));
+        !name.isEmpty())
+        application.name = name;
+    application.path = QFile::decodeName(g_desktop_app_info_get_filename(info));
+    application.icon = iconOf(G_APP_INFO(info));
+    g_object_unref(info);
+    return application;
+}
 
 std::vector<InstalledApplication> installedApplications()
 {

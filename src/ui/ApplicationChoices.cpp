@@ -38,9 +38,7 @@ QVariant ApplicationChoices::data(const QModelIndex &index, int role) const
     case NameRole:
         return application.name;
     case PictureRole:
-        return application.icon.isEmpty() ? QString()
-                                          : QStringLiteral("image://application/")
-                + QString::fromLatin1(QUrl::toPercentEncoding(application.icon));
+        return ApplicationIcons::url(application.icon);
     case ChosenRole:
         return m_session.now().choices.bypassApps.contains(application.path);
     default:
@@ -95,6 +93,13 @@ void ApplicationChoices::toggle(int row)
         m_session.removeBypassApp(path);
     else
         m_session.addBypassApp(path);
+}
+
+QString ApplicationIcons::url(const QString &icon)
+{
+    return icon.isEmpty() ? QString()
+                          : QStringLiteral("image://application/")
+            + QString::fromLatin1(QUrl::toPercentEncoding(icon));
 }
 
 QImage ApplicationIcons::requestImage(const QString &id, QSize *size, const QSize &requestedSize)

@@ -58,6 +58,8 @@ private:
 class ApplicationIcons final : public QQuickImageProvider {
 public:
     ApplicationIcons() : QQuickImageProvider(Image) { }
+    // The URL of an icon's name or file; empty for none.
+    static QString url(const QString &icon);
     QImage requestImage(const QString &id, QSize *size, const QSize &requestedSize) override;
 };
 

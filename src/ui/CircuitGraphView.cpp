@@ -238,9 +238,24 @@ QString CircuitGraphView::hoveredHelp() const
     QString help = node->label + u'\n';
     if (node->relay)
         help += CircuitsModel::placeOf(*node->relay) + u'\n';
+    if (const QString asking = askedBy(*node); !asking.isEmpty())
+        help += asking + u'\n';
     const auto count = static_cast<int>(node->circuitIDs.size());
     return help
         + (count == 1 ? tr("Used by 1 circuit") : tr("Used by %n circuits", nullptr, count));
+}
+
+QString CircuitGraphView::askedBy(const CircuitGraph::Node &node) const
+{
+    if (node.kind != CircuitGraph::Kind::site || !m_model)
+        return {};
+    QStringList applications;
+    for (const CircuitInfo &circuit : m_drawn) {
+        if (node.circuitIDs.contains(circuit.id))
+            applications << circuit.askers.value(node.label);
+    }
+    applications.removeDuplicates();
+    return m_model->askedBy(applications);
 }
 
 QPointF CircuitGraphView::hoveredAt() const

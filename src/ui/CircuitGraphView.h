@@ -84,6 +84,7 @@ private:
     void light(); // decides which circuits and nodes stand out
     const CircuitGraph::Node *nodeAt(QPointF point) const;
     const CircuitGraph::Node *hoveredNode() const;
+    QString askedBy(const CircuitGraph::Node &node) const; // of a site, else empty
     void setHovered(const QString &id);
     void drawGuides(QPainter &painter) const;
     void drawStrands(QPainter &painter, double scale, bool lit);

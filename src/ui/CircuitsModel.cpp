@@ -1,6 +1,7 @@
 #include "ui/CircuitsModel.h"
 
 #include "circuits/CircuitPalette.h"
+#include "ui/ApplicationChoices.h"
 #include "ui/Wording.h"
 
 #include <QLocale>
@@ -24,12 +25,13 @@ QString milliseconds(std::chrono::microseconds time)
 }
 
 QVariantMap step(const QString &symbol, const QString &country, const QString &role,
-                 const QString &title, const QString &detail, const QColor &tint, bool last)
+                 const QString &title, const QString &detail, const QColor &tint, bool last,
+                 const QString &picture = {})
 {
     return {{QStringLiteral("symbol"), symbol}, {QStringLiteral("country"), country},
             {QStringLiteral("role"), role},     {QStringLiteral("title"), title},
             {QStringLiteral("detail"), detail}, {QStringLiteral("tint"), tint},
-            {QStringLiteral("last"), last}};
+            {QStringLiteral("last"), last},     {QStringLiteral("picture"), picture}};
 }
 
 auto rowOf(std::vector<CircuitInfo> &rows, std::size_t from, const QString &id)
@@ -63,6 +65,7 @@ void CircuitsModel::setSeen(bool seen)
         return;
     m_seen = seen;
     if (seen) {
+        m_applications.clear();
         m_ticks.start();
         refresh();
     } else {
@@ -160,6 +163,15 @@ QVariant CircuitsModel::data(const QModelIndex &index, int role) const
         QString text = names.join(QStringLiteral(" → "));
         if (circuit.roundTrip)
             text += QStringLiteral("  ·  ") + milliseconds(*circuit.roundTrip);
+        QStringList asking;
+        for (const QString &site : circuit.sites) {
+            for (const QString &id : circuit.askers.value(site)) {
+                if (const QString name = application(id).name; !asking.contains(name))
+                    asking << name;
+            }
+        }
+        if (!asking.isEmpty())
+            text += QStringLiteral("  ·  ") + asking.join(QStringLiteral(", "));
         return text;
     }
     case ColorRole:
@@ -263,14 +275,48 @@ QVariantList CircuitsModel::steps() const
         path << step({}, hop.country.value_or(QString()), role, hop.nickname, placeOf(hop), tint,
                      i + 1 == hops && circuit->sites.isEmpty());
     }
-    if (!circuit->sites.isEmpty()) {
-        const qsizetype shown = CircuitGraph::shownSites;
-        QString sites = circuit->sites.mid(0, shown).join(QStringLiteral(", "));
-        if (circuit->sites.size() > shown)
-            sites += tr(", +%1 more").arg(circuit->sites.size() - shown);
-        path << step(QStringLiteral("globe"), {}, {}, tr("Sites"), sites, tint, true);
-    }
+    addSites(path, *circuit, tint);
     return path;
+}
+
+void CircuitsModel::addSites(QVariantList &path, const CircuitInfo &circuit,
+                             const QColor &tint) const
+{
+    std::vector<QStringList> askers; // in the order of their first sites
+    QHash<QStringList, QStringList> sites;
+    for (const QString &site : circuit.sites) {
+        const QStringList asking = circuit.askers.value(site);
+        if (!sites.contains(asking))
+            askers.push_back(asking);
+        sites[asking] << site;
+    }
+    for (const QStringList &asking : askers) {
+        const QStringList all = sites.value(asking);
+        const qsizetype shown = CircuitGraph::shownSites;
+        QString names = all.mid(0, shown).join(QStringLiteral(", "));
+        if (all.size() > shown)
+            names += tr(", +%1 more").arg(all.size() - shown);
+        const QString icon = asking.size() == 1 ? application(asking.constFirst()).icon : QString();
+        path << step(QStringLiteral("globe"), {}, askedBy(asking), tr("Sites"), names, tint,
+                     asking == askers.back(), ApplicationIcons::url(icon));
+    }
+}
+
+const InstalledApplication &CircuitsModel::application(const QString &id) const
+{
+    auto known = m_applications.find(id);
+    if (known == m_applications.end())
+        known = m_applications.insert(id, m_session.applicationOfIdentity(id));
+    return *known;
+}
+
+QString CircuitsModel::askedBy(const QStringList &applications) const
+{
+    QStringList names;
+    for (const QString &id : applications)
+        names << application(id).name;
+    return names.isEmpty() ? QString()
+                           : tr("Asked for by %1").arg(names.join(QStringLiteral(", ")));
 }
 
 QColor CircuitsModel::paletteColor(std::size_t index)

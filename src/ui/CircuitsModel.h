@@ -34,7 +34,7 @@ public:
     enum Role {
         IdRole = Qt::UserRole + 1, // Tor's number of the circuit, as text
         TitleRole,                 // "Circuit 12"
-        DetailRole,  // the countries or nicknames of its relays, and the round-trip time
+        DetailRole,  // the countries or nicknames of its relays, the round-trip time, applications
         ColorRole,   // QColor
         FollowedRole // bool
     };
@@ -60,7 +60,8 @@ public:
     Q_INVOKABLE void follow(const QString &id);
     int followedRow() const; // -1: none
     // The path of the followed circuit, each step a map: symbol, country, role, title, detail,
-    // tint, last. Empty when no circuit is followed.
+    // tint, last, picture. Empty when no circuit is followed. The sites of each application are a
+    // step of their own, with its picture's URL (empty without one).
     QVariantList steps() const;
 
     const std::vector<CircuitInfo> &circuits() const { return m_session.now().circuits; }
@@ -74,6 +75,9 @@ public:
     bool seen() const { return m_seen; }
     void setSeen(bool seen); // whether the user can see the list
 
+    // "Asked for by Firefox" for these applications' ids; empty for none.
+    QString askedBy(const QStringList &applications) const;
+
     static QColor paletteColor(std::size_t index);
     // "DE · 192.0.2.7"; "Unknown" for an unknown part.
     static QString placeOf(const RelayInfo &relay);
@@ -84,12 +88,16 @@ Q_SIGNALS:
 private:
     void update();
     void showRows();
+    const InstalledApplication &application(const QString &id) const;
+    void addSites(QVariantList &path, const CircuitInfo &circuit, const QColor &tint) const;
     const CircuitInfo *followedCircuit() const;
 
     Session &m_session;
     std::vector<CircuitInfo> m_shown; // the circuits of the present rows
     QString m_followed;
     QTimer m_ticks{this};
+    // by identity; read again when the list is shown
+    mutable QHash<QString, InstalledApplication> m_applications;
     bool m_seen = false;
     bool m_wasConnected = false;
     bool m_wasOptimizing = false;

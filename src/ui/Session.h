@@ -28,6 +28,8 @@ public:
     virtual std::vector<ExitCountry> exitChoices() const = 0;
     virtual std::vector<InstalledApplication> installedApplications() const = 0; // the present ones
     virtual QString applicationName(const QString &path) const = 0;
+    // The application with an identity's id; reads a file.
+    virtual InstalledApplication applicationOfIdentity(const QString &id) const = 0;
 
     virtual void store(const Choices &choices) = 0;
     virtual void connectToTor() = 0;

@@ -94,6 +94,43 @@ class Separate(LabCase):
                 self.assertEqual(session.interrupt(), 0, session.output)
             self.assert_restored()
 
+    def test_circuits_name_the_application_that_asked(self):
+        """Each site has the application that asked for it, also after a short connection, and no circuit has sites of two."""
+        places = {
+            at.WEB_HOSTS[0]: (f"{self.apps}/app-gnome-org.example.One-1.scope", "org.example.One"),
+            at.WEB_HOSTS[1]: (f"{self.apps}/app-gnome-org.example.Two-1.scope", "org.example.Two"),
+            at.WEB_HOSTS[2]: (f"{self.slice}/session-2.scope", "session-2"),
+        }
+        for separate in "true", "false":
+            self.set("separateApps", separate)
+            with self.product.session() as session:
+                session.wait(is_probed)
+                self.groups("app-gnome-org.example.One-1.scope", "app-gnome-org.example.Two-1.scope")
+                if separate == "true":
+                    self.known(3)
+                for host, (group, _) in places.items():
+                    self.inside(
+                        group,
+                        *("curl", "-sS", "--max-time", "30", "-o", "/dev/null"),
+                        *("--proxy", "socks5h://127.0.0.1:9050", f"http://{host}/ip"),
+                        check=True,
+                    )
+                circuits = json.loads(self.product.run_verb("circuits", "--json", check=True).stdout)
+                if separate == "false":
+                    self.assertTrue(circuits)
+                    self.assertEqual([circuit for circuit in circuits if "askedBy" in circuit], [])
+                else:
+                    asked = [circuit["askedBy"] for circuit in circuits if "askedBy" in circuit]
+                    self.assertEqual(
+                        sorted(asked, key=str), sorted(({host: [name]} for host, (_, name) in places.items()), key=str), circuits
+                    )
+                    text = self.product.run_verb("circuits", check=True).stdout
+                    for host, (_, name) in places.items():
+                        self.assertIn(f"→ {name}: {host}\n", text + "\n")
+                self.remove_groups()
+                self.assertEqual(session.interrupt(), 0, session.output)
+            self.assert_restored()
+
     def test_the_kill_switch_holds_whatever_the_group(self):
         """It also blocks a process that moves between groups, with a socket that it has made in another group."""
         self.groups("app-one-1.scope", "app-two-1.scope")

@@ -120,6 +120,22 @@ private Q_SLOTS:
         QCOMPARE(stage->picture(), before);
     }
 
+    void aSiteUnderThePointerNamesTheApplicationsThatAsked()
+    {
+        show(3);
+        const QString site = QStringLiteral("www.example.org");
+        point(placeOf(site));
+        QCOMPARE(help(), site + QStringLiteral("\nUsed by 2 circuits"));
+        session.circuits[0].askers.insert(site, {QStringLiteral("games")});
+        session.circuits[2].askers.insert(site,
+                                          {QStringLiteral("as:bank"), QStringLiteral("games")});
+        stage->session.show(session);
+        stage->picture();
+        point(placeOf(site));
+        QCOMPARE(help(),
+                 site + QStringLiteral("\nAsked for by Games, as:bank\nUsed by 2 circuits"));
+    }
+
     void whatIsFollowedKeepsStandingOut()
     {
         show(30);

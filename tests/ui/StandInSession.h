@@ -54,6 +54,14 @@ public:
                 return application.name;
         return path.section(u'/', -1);
     }
+    InstalledApplication applicationOfIdentity(const QString &id) const override
+    {
+        lookedUp << id;
+        for (const InstalledApplication &application : installedApplications())
+            if (application.path.endsWith(u'/' + id + QStringLiteral(".desktop")))
+                return application;
+        return {{}, id, {}};
+    }
     void store(const Choices &choices) override
     {
         m_now.choices = choices;
@@ -104,6 +112,7 @@ public:
     }
 
     QStringList asked;
+    mutable QStringList lookedUp; // applications, by identity
 };
 
 class StandInLog final : public LogFeed {

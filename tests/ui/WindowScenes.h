@@ -55,6 +55,12 @@ inline void addCircuitScenes(std::vector<WindowScene> &scenes)
     session.circuits[2].onionService = QStringLiteral("hidden.onion");
     circuits("circuits/onion service", session, QStringLiteral("13"));
     session = Scenes::protectedSession();
+    session.circuits[2].askers = {
+        {QStringLiteral("www.example.org"), {QStringLiteral("letters")}},
+        {QStringLiteral("mail.example.com"), {QStringLiteral("letters"), QStringLiteral("games")}},
+        {QStringLiteral("forum.example.org"), {QStringLiteral("games")}}};
+    circuits("circuits/applications", session, QStringLiteral("13"));
+    session = Scenes::protectedSession();
     session.circuitError = QStringLiteral("Tor closed the control connection.");
     circuits("circuits/not read again", session);
     session.circuitError.reset();

@@ -254,7 +254,9 @@ private Q_SLOTS:
         const auto stream = CircuitParser::stream(line);
         QCOMPARE(stream.has_value(), !circuitID.isNull());
         if (stream)
-            QCOMPARE(*stream, (CircuitParser::StreamInfo{circuitID, host}));
+            QCOMPARE(
+                *stream,
+                (CircuitParser::StreamInfo{line.trimmed().section(u' ', 0, 0), circuitID, host}));
     }
 
     void takesTheHostFromATarget_data()
@@ -399,7 +401,7 @@ private Q_SLOTS:
         const CircuitInfo original = *CircuitParser::circuit(
             u"7 BUILT $AAAA~alpha PURPOSE=CONFLUX_LINKED TIME_CREATED=2024-05-01T10:20:30 "
             u"CONFLUX_ID=AB CONFLUX_RTT=5");
-        std::vector<CircuitInfo> variants(11, original);
+        std::vector<CircuitInfo> variants(12, original);
         variants[1].id = QStringLiteral("8");
         variants[2].hops.front().ip = QString();
         variants[3].hops.front().country = QStringLiteral("de");
@@ -410,10 +412,11 @@ private Q_SLOTS:
         variants[8].roundTrip = 6us;
         variants[9].isInternal = true;
         variants[10].isOneHopTunnel = true;
+        variants[11].askers = {{QStringLiteral("a"), {QStringLiteral("app")}}};
         QSet<CircuitInfo> distinct;
         for (const CircuitInfo &variant : variants)
             distinct.insert(variant);
-        QCOMPARE(distinct.size(), 11);
+        QCOMPARE(distinct.size(), 12);
         QVERIFY(distinct.contains(original));
     }
 

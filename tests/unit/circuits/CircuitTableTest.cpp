@@ -135,7 +135,7 @@ private Q_SLOTS:
             {built("12")}, {QStringLiteral("3 X 12 c:1"), QStringLiteral("4 X 12 a:1")}, history,
             {});
         QCOMPARE(table.circuits.front().sites.join(u' '), QStringLiteral("a b c"));
-        QCOMPARE(history.value(QStringLiteral("12")).join(u' '), QStringLiteral("a b c"));
+        QCOMPARE(history.value(QStringLiteral("12")).names.join(u' '), QStringLiteral("a b c"));
     }
 
     void theLegsOfAConfluxSetShareTheirSites()

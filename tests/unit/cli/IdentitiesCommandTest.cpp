@@ -3,15 +3,11 @@
 #include "platform/PlatformProfile.h"
 #include "support/TestProgram.h"
 
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
-
-#include <cstring>
-
-#include <sys/socket.h>
-#include <sys/un.h>
-#include <unistd.h>
 
 using namespace veldmark;
 
@@ -19,58 +15,36 @@ class IdentitiesCommandTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void readsWhatWasWrittenWhole()
+    void anApplicationHasItsExitsAndSites()
     {
-        const auto known = Identities::parse(
-            "identities 7\nstanding\n1000 127.65.0.1 firefox\n1001 127.65.0.2 as:bank\\x2d\nend 7\n");
-        QVERIFY(known && known->standing);
-        QCOMPARE(known->all.size(), 2U);
-        QCOMPARE(known->all[1].user, 1001U);
-        QCOMPARE(known->all[1].address, QStringLiteral("127.65.0.2"));
-        QCOMPARE(known->all[1].application, QStringLiteral("as:bank\\x2d"));
-        const auto lost = Identities::parse("identities 7\nlost\nend 7\n");
-        QVERIFY(lost && !lost->standing && lost->all.empty());
-    }
-
-    void refusesTheRest_data()
-    {
-        QTest::addColumn<QByteArray>("text");
-        for (const char *text :
-             {"", "\n", "identities 1\nstanding\n", "identities 1\nstanding\nend 2\n",
-              "identities 1\nother\nend 1\n", "identities 1\nstanding\nend 1",
-              "identities 1\nstanding\nx 127.0.0.1 a\nend 1\n",
-              "identities 1\nstanding\n1 10.0.0.1 a\nend 1\n",
-              "identities 1\nstanding\n1 127.0.0.1 a b\nend 1\n",
-              "identities 1\nstanding\n1 127.0.0.1 a\x1b[2J\nend 1\n"})
-            QTest::newRow(text) << QByteArray(text);
-    }
-
-    void refusesTheRest()
-    {
-        QFETCH(QByteArray, text);
-        QVERIFY(!Identities::parse(text));
-    }
-
-    void isNotBelievedOfAProgramThatHasGone()
-    {
-        const QTemporaryDir folder;
-        PlatformProfile profile;
-        profile.identitiesNote = folder.filePath(QStringLiteral("note"));
-        profile.identitiesSocket = folder.filePath(QStringLiteral("socket"));
-        QFile file(profile.identitiesNote);
-        QVERIFY(file.open(QIODevice::WriteOnly)
-                && file.write("identities 1\nstanding\nend 1\n") > 0);
-        file.close();
-        QVERIFY(!Identities::read(profile));
-        const int serving = socket(AF_UNIX, SOCK_DGRAM, 0);
-        sockaddr_un place{};
-        place.sun_family = AF_UNIX;
-        const QByteArray path = QFile::encodeName(profile.identitiesSocket);
-        std::memcpy(place.sun_path, path.constData(), static_cast<std::size_t>(path.size()));
-        QCOMPARE(bind(serving, reinterpret_cast<const sockaddr *>(&place), sizeof place), 0);
-        QVERIFY(Identities::read(profile));
-        close(serving);
-        QVERIFY(!Identities::read(profile));
+        const QJsonArray circuits = QJsonDocument::fromJson(R"([
+            {"purpose":"CONFLUX","sites":["a.example","b.example","c.example"],
+             "askedBy":{"a.example":["mail"],"b.example":["web","mail"]},
+             "hops":[{"ip":"192.0.2.1","country":"us"},{"ip":"192.0.2.7","country":"de"}]},
+            {"purpose":"CONFLUX","sites":["a.example","d.example"],
+             "askedBy":{"a.example":["mail"],"d.example":["mail"]},
+             "hops":[{"ip":"192.0.2.2","country":"us"},{"ip":"192.0.2.7","country":"de"}]},
+            {"purpose":"HS_CLIENT_REND","sites":["x.onion"],"askedBy":{"x.onion":["mail"]},
+             "hops":[{"ip":"192.0.2.9","country":"fr"}]},
+            {"purpose":"GENERAL","sites":["e.example"],"askedBy":{"e.example":["mail"]},
+             "hops":[{"ip":null,"country":null}]},
+            {"purpose":"GENERAL","sites":["f.example"],"hops":[{"ip":"192.0.2.8","country":"se"}]},
+            {"purpose":"GENERAL","sites":["g.example"],"askedBy":{"g.example":["mai"]},"hops":[]}])")
+                                        .array();
+        const QJsonArray mail = exitsOf(QStringLiteral("mail"), circuits);
+        QCOMPARE(
+            QJsonDocument(mail).toJson(QJsonDocument::Compact),
+            QByteArray(
+                "[{\"country\":\"de\",\"ip\":\"192.0.2.7\",\"sites\":[\"a.example\",\"b.example\",\"d.example\"]},"
+                "{\"country\":null,\"ip\":null,\"sites\":[\"x.onion\",\"e.example\"]}]"));
+        QCOMPARE(exitLine(mail[0].toObject()),
+                 QStringLiteral("DE 192.0.2.7: a.example, b.example, d.example"));
+        QCOMPARE(exitLine(mail[1].toObject()), QStringLiteral("x.onion, e.example"));
+        const QJsonArray web = exitsOf(QStringLiteral("web"), circuits);
+        QCOMPARE(web.size(), 1);
+        QCOMPARE(exitLine(web[0].toObject()), QStringLiteral("DE 192.0.2.7: b.example"));
+        QVERIFY(exitsOf(QStringLiteral("other"), circuits).isEmpty());
+        QVERIFY(exitsOf(QStringLiteral("mail"), {}).isEmpty());
     }
 
     void aProgramIsParsedWithItsOwnWords()

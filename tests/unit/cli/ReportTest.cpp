@@ -207,6 +207,23 @@ private Q_SLOTS:
         QCOMPARE(Report::circuits({}), QStringLiteral("No circuits yet."));
     }
 
+    void namesTheApplicationsThatAskedForTheSites()
+    {
+        const QJsonObject state = object(
+            R"({"circuits":[{"id":"7","purpose":"GENERAL","sites":["a.example","192.0.2.1","b.example","c.example"],
+                "hops":[{"nickname":"alpha","country":null,"ip":null}],
+                "askedBy":{"a.example":["mail"],"b.example":["mail","as:bank"],"c.example":["mail"]}}]})");
+        const auto nameOf = [](const QString &id) {
+            return id == QLatin1String("mail") ? QStringLiteral("Letters") : id;
+        };
+        QCOMPARE(Report::circuits(state, nameOf),
+                 QStringLiteral("   7  GENERAL   alpha\n"
+                                "                → Letters: a.example, c.example\n"
+                                "                → 192.0.2.1\n"
+                                "                → Letters, as:bank: b.example"));
+        QVERIFY(Report::circuits(state).contains(QStringLiteral("→ mail: a.example, c.example\n")));
+    }
+
     void printsValuesPlainly()
     {
         QCOMPARE(Report::value(QJsonValue(true)), QStringLiteral("true"));

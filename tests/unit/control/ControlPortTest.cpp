@@ -295,6 +295,64 @@ private Q_SLOTS:
         work->goOn.complete({});
     }
 
+    void hearsEventsAsTheyComeUntilItIsEnough()
+    {
+        Asking a;
+        QStringList heard;
+        const ControlPort::Hearer hear = [&heard](const QString &line) {
+            heard << line;
+            return line != QLatin1String("650 STREAM enough");
+        };
+        auto hearing = a.port.hearStreams(a.tor.password(), hear, 2s);
+        QTRY_VERIFY(a.tor.commands().contains(QStringLiteral("SETEVENTS STREAM")));
+        a.tor.sendEvent("650 STREAM 1 NEW 0 a:1\r\n650 STREAM 1 SENT");
+        QTRY_COMPARE(heard, text({"650 STREAM 1 NEW 0 a:1"}));
+        a.clock.advance(24h); // its limit is for the beginning
+        QVERIFY(!hearing.isReady());
+        a.tor.sendEvent("CONNECT 5 a:1\r\n");
+        QTRY_COMPARE(heard.size(), 2);
+        QCOMPARE(heard.constLast(), QStringLiteral("650 STREAM 1 SENTCONNECT 5 a:1"));
+        a.tor.sendEvent("650 STREAM enough\r\n650 STREAM more\r\n");
+        QTRY_VERIFY(hearing.isReady());
+        QVERIFY(QCoro::waitFor(std::move(hearing)));
+        QCOMPARE(heard.size(), 3);
+        QTRY_COMPARE(a.tor.openConnections(), 0);
+    }
+
+    void hearingEndsWithItsConnection_data()
+    {
+        QTest::addColumn<QByteArray>("answer");
+        QTest::addColumn<Kind>("kind");
+        QTest::newRow("Tor ends it") << QByteArray("250 OK\r\n") << Kind::Closed;
+        QTest::newRow("Tor refuses") << QByteArray("552 Unrecognized event\r\n") << Kind::Tor;
+        QTest::newRow("Tor is silent") << QByteArray() << Kind::TimedOut;
+    }
+    void hearingEndsWithItsConnection()
+    {
+        QFETCH(QByteArray, answer);
+        QFETCH(Kind, kind);
+        Asking a;
+        if (answer.isEmpty())
+            a.tor.ignore("SETEVENTS STREAM");
+        else
+            a.tor.reply("SETEVENTS STREAM", answer);
+        int heard = 0;
+        const ControlPort::Hearer hear = [&heard](const QString &) { return ++heard > 0; };
+        auto hearing = a.port.hearStreams(a.tor.password(), hear, 2s);
+        QTRY_VERIFY(a.tor.commands().contains(QStringLiteral("SETEVENTS STREAM")));
+        if (kind == Kind::Closed) {
+            a.tor.sendEvent("650 STREAM 1\r\n650 STREAM half");
+            QTRY_COMPARE(heard, 1);
+            a.tor.hangUp();
+        }
+        if (kind == Kind::TimedOut)
+            a.clock.advance(2s);
+        QTRY_VERIFY(hearing.isReady());
+        QCOMPARE(QCoro::waitFor(std::move(hearing)).error().kind(), kind);
+        QCOMPARE(heard, kind == Kind::Closed ? 1 : 0);
+        QTRY_COMPARE(a.tor.openConnections(), 0);
+    }
+
     void destroyingThePortEndsItsOperations()
     {
         FakeTor tor;
@@ -304,10 +362,14 @@ private Q_SLOTS:
         auto signal = port->signal(QStringLiteral("SLOW"), tor.password());
         const auto work = std::make_shared<Work>();
         auto capture = port->captureResolves(tor.password(), 5s, workThatSends(tor, {}, work));
-        QTRY_VERIFY(work->started && tor.commands().contains(QStringLiteral("SIGNAL SLOW")));
+        const ControlPort::Hearer hear = [](const QString &) { return true; };
+        auto hearing = port->hearStreams(tor.password(), hear);
+        QTRY_VERIFY(work->started && tor.commands().contains(QStringLiteral("SIGNAL SLOW"))
+                    && tor.commands().count(QStringLiteral("SETEVENTS STREAM")) == 2);
         port.reset();
         clock.reset();
-        QTRY_VERIFY(signal.isReady() && capture.isReady());
+        QTRY_VERIFY(signal.isReady() && capture.isReady() && hearing.isReady());
+        QCOMPARE(QCoro::waitFor(std::move(hearing)).error(), ControlPortError::closed());
         QCOMPARE(QCoro::waitFor(std::move(signal)).error(), ControlPortError::closed());
         QVERIFY(QCoro::waitFor(std::move(capture)).value().isEmpty());
         QTRY_COMPARE(tor.openConnections(), 0);

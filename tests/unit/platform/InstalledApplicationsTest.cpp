@@ -67,6 +67,11 @@ public:
               "[Desktop Entry]\nType=Link\nName=Link\nURL=https://example.org\n");
         write(u"system/applications/broken.desktop"_s, "\xff\xfe[Desktop");
         write(u"system/applications/notes.txt"_s, entry("No entry"));
+        // Out of the menu, so that the list stays short.
+        write(u"home/applications/player_play.desktop"_s, entry("Player", "NoDisplay=true\n"));
+        write(u"home/applications/hostile.desktop"_s,
+              entry("a\\n\\nb\x1b[2J\u202ec" + QByteArray(70, 'x'), "NoDisplay=true\n"));
+        write(u"home/applications/nameless.desktop"_s, entry("\u202e\u2066", "NoDisplay=true\n"));
     }
 
 private Q_SLOTS:
@@ -95,6 +100,60 @@ private Q_SLOTS:
         QCOMPARE(applications[0].icon, u"calc"_s);
         QCOMPARE(applications[1].icon, u"/opt/beta.png"_s);
         QCOMPARE(applications[2].icon, QString());
+    }
+
+    void findsTheApplicationOfAnIdentity()
+    {
+        const InstalledApplication found = applicationOfIdentity(u"alpha"_s);
+        QCOMPARE(found.name, u"Alpha"_s);
+        QCOMPARE(found.icon, u"calc"_s);
+        QCOMPARE(found.path, folder->filePath(u"system/applications/alpha.desktop"_s));
+        QCOMPARE(applicationOfIdentity(u"shadowed"_s).name, u"The user's"_s);
+        QCOMPARE(applicationOfIdentity(u"invisible"_s).name, u"Invisible"_s); // it runs
+                                                                              // nevertheless
+        QCOMPARE(applicationOfIdentity(u"sub-Beta"_s).name, u"beta"_s);
+        QCOMPARE(applicationOfIdentity(u"snap.player.play"_s).name, u"Player"_s);
+    }
+
+    void whatHasNoEntryIsShownByItsId_data()
+    {
+        QTest::addColumn<QString>("id");
+        for (const char *id : {"",
+                               "unknown",
+                               "taken-away",
+                               "broken",
+                               "as:alpha",
+                               "session-2",
+                               "user@",
+                               ".",
+                               "..",
+                               "../applications/alpha",
+                               "/alpha",
+                               "alpha\\x2edesktop",
+                               "alpha\n",
+                               "a b",
+                               "-alpha",
+                               "snap.",
+                               "snap..",
+                               "snap.player",
+                               "snap.player.play.more",
+                               "\xd7\x90"})
+            QTest::newRow(id) << QString::fromUtf8(id);
+        QTest::newRow("long") << QString(100'000, u'a');
+    }
+    void whatHasNoEntryIsShownByItsId()
+    {
+        QFETCH(QString, id);
+        const InstalledApplication found = applicationOfIdentity(id);
+        QCOMPARE(found.name, id);
+        QVERIFY(found.path.isEmpty() && found.icon.isEmpty());
+    }
+
+    // A user's entry may have any name; a terminal and a window show it.
+    void aNameIsOneShortLine()
+    {
+        QCOMPARE(applicationOfIdentity(u"hostile"_s).name, u"a b[2Jc"_s + QString(53, u'x'));
+        QCOMPARE(applicationOfIdentity(u"nameless"_s).name, u"nameless"_s);
     }
 
     static void cleanupTestCase() { delete folder; }

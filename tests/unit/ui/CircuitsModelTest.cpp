@@ -282,6 +282,39 @@ private Q_SLOTS:
         session.show(s);
         QCOMPARE(values(model, "role").at(1), QStringLiteral("Bridge"));
     }
+
+    void eachApplicationsSitesAreAStep()
+    {
+        StandInSession session(profile);
+        CircuitsModel model(session);
+        CircuitInfo c = circuit("7");
+        c.roundTrip = std::chrono::milliseconds(20);
+        for (const char *site : {"a", "192.0.2.1", "b", "c", "d", "e"})
+            c.sites << QString::fromLatin1(site);
+        for (const char *site : {"a", "b", "c", "d"})
+            c.askers.insert(QString::fromLatin1(site), {QStringLiteral("games")});
+        c.askers.insert(QStringLiteral("e"), {QStringLiteral("as:bank"), QStringLiteral("games")});
+        session.show(connectedWith({c, circuit("8")}));
+        QCOMPARE(model.data(model.index(0), CircuitsModel::DetailRole).toString(),
+                 QStringLiteral("DE → DE → DE  ·  20\u00a0ms  ·  Games, as:bank"));
+        QCOMPARE(model.data(model.index(1), CircuitsModel::DetailRole).toString(),
+                 QStringLiteral("DE → DE → DE"));
+        model.follow(QStringLiteral("7"));
+        QCOMPARE(values(model, "role").mid(4),
+                 QStringList({QStringLiteral("Asked for by Games"), QString(),
+                              QStringLiteral("Asked for by as:bank, Games")}));
+        QCOMPARE(values(model, "detail").mid(4),
+                 QStringList({QStringLiteral("a, b, c, +1 more"), QStringLiteral("192.0.2.1"),
+                              QStringLiteral("e")}));
+        QCOMPARE(values(model, "picture").mid(3),
+                 QStringList({QString(), QStringLiteral("image://application/no-such-icon"),
+                              QString(), QString()}));
+        QCOMPARE(values(model, "last").mid(3).join(u' '), QStringLiteral("false false false true"));
+        QCOMPARE(session.lookedUp.count(QStringLiteral("games")), 1); // a file each time
+        model.setSeen(true); // meanwhile it may have been installed
+        model.steps();
+        QCOMPARE(session.lookedUp.count(QStringLiteral("games")), 2);
+    }
 };
 
 VELDMARK_WINDOWED_TEST(CircuitsModelTest)

@@ -136,6 +136,7 @@ Rectangle {
                         detail: modelData.detail
                         tint: modelData.tint
                         last: modelData.last
+                        picture: modelData.picture
                     }
                 }
                 WrappedText {

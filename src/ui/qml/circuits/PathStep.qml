@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Window
 import QtQuick.Layouts
 import Veldmark
 
@@ -6,6 +7,7 @@ import Veldmark
 RowLayout {
     id: step
     required property string symbol  // of the computer and of sites
+    property string picture: ""      // of the application that asked for the sites, a URL
     required property string country // of a relay
     required property string role
     required property string title
@@ -33,13 +35,25 @@ RowLayout {
             border.color: "#6a6a78"
         }
         Symbol {
-            visible: step.symbol !== ""
+            visible: step.symbol !== "" && step.picture === ""
             anchors.left: parent.left
             anchors.leftMargin: 5
             y: 3
             name: step.symbol
             size: 18
             color: Theme.text
+        }
+        Image {
+            visible: step.picture !== ""
+            anchors.left: parent.left
+            anchors.leftMargin: 4
+            y: 2
+            width: 20
+            height: 20
+            sourceSize.width: Math.round(20 * Screen.devicePixelRatio)
+            sourceSize.height: Math.round(20 * Screen.devicePixelRatio)
+            source: step.picture
+            Accessible.ignored: true
         }
         FlagBadge {
             visible: step.symbol === ""
