@@ -452,7 +452,7 @@ private:
     // Asks for the exit alone, after Tor was told to use new circuits.
     QCoro::Task<void> checkExit();
     void forgetExit();
-    void showExit(const ProbeResult &answer);
+    void showExit(const TimedProbe &probe);
     // DNS.cpp
     QCoro::Task<void> repairDNS(Run attempt);
     // BypassApps.cpp
