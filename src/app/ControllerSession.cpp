@@ -75,6 +75,7 @@ void ControllerSession::read()
     next.leak = c.leakStatus.in(next.phase);
     next.dns = c.dnsStatus.in(next.phase);
     next.isChecking = c.isChecking.in(next.phase);
+    next.separated = c.separated.in(next.phase);
     next.latencyMs = c.latencyMs.in(next.phase);
     next.optimizeStatus = c.optimizeStatus.in(next.phase);
     next.isOptimizing = c.isOptimizing.in(next.phase);

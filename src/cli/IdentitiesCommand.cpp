@@ -2,6 +2,7 @@
 
 #include "cli/Console.h"
 #include "platform/PlatformProfile.h"
+#include "system/IdentityProgram.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -16,8 +17,6 @@
 #include <cstring>
 #include <iterator>
 
-#include <sys/socket.h>
-#include <sys/un.h>
 #include <unistd.h>
 
 namespace veldmark {
@@ -44,40 +43,6 @@ ExitStatus fail(const Text &reason, ExitStatus status = ExitStatus::failed)
     Console::printError(reason);
     return status;
 }
-
-// The socket of the identity program.
-class Sending {
-public:
-    explicit Sending(const QString &path) : m_socket(socket(AF_UNIX, SOCK_DGRAM, 0))
-    {
-        sockaddr_un place{};
-        place.sun_family = AF_UNIX;
-        const QByteArray name = QFile::encodeName(path);
-        if (m_socket < 0 || name.size() >= static_cast<qsizetype>(sizeof place.sun_path))
-            return;
-        std::memcpy(place.sun_path, name.constData(), static_cast<std::size_t>(name.size()));
-        m_isThere = ::connect(m_socket, reinterpret_cast<const sockaddr *>(&place), sizeof place)
-            == 0;
-    }
-    Sending(const Sending &) = delete;
-    Sending &operator=(const Sending &) = delete;
-    ~Sending()
-    {
-        if (m_socket >= 0)
-            close(m_socket);
-    }
-    bool isThere() const { return m_isThere; }
-    bool send(const QByteArray &wish) const
-    {
-        return m_isThere
-            && ::send(m_socket, wish.constData(), static_cast<std::size_t>(wish.size()), 0)
-            == wish.size();
-    }
-
-private:
-    int m_socket;
-    bool m_isThere = false;
-};
 
 // The script that runs in the group: REASON PATTERN FILE PROGRAM…. Prints the reason when it gets
 // no identity.
@@ -117,7 +82,7 @@ std::optional<Identities> Identities::parse(const QByteArray &text)
 
 std::optional<Identities> Identities::read(const PlatformProfile &profile)
 {
-    if (profile.identitiesNote.isEmpty() || !Sending(profile.identitiesSocket).isThere())
+    if (profile.identitiesNote.isEmpty() || !IdentityProgram(profile).isThere())
         return std::nullopt;
     for (int reading = 0; reading < readings; ++reading) {
         QFile file(profile.identitiesNote);
@@ -183,7 +148,7 @@ QCoro::Task<ExitStatus> renewIdentity(Invocation invocation, PlatformProfile pro
             Text::tr(
                 "No application of yours has that identity; \"veldmarkctl identities\" lists them."),
             ExitStatus::usage);
-    if (!Sending(profile.identitiesSocket).send("new " + invocation.key.toLatin1()))
+    if (!IdentityProgram(profile).send("new " + invocation.key.toLatin1()))
         co_return fail(whyNone(profile));
     for (int waits = 0; waits < 100; ++waits) {
         const auto now = Identities::read(profile);

@@ -182,7 +182,10 @@ public:
                                      Valid::whileConnected};
     Published<DNSStatus> dnsStatus{this, "dnsStatus", DNSStatus::unknown(), Valid::whileConnected};
     Published<bool> isChecking{this, "isChecking", false, Valid::whileConnected};
-    // Of a request through Tor, in milliseconds.
+    // Whether each application has circuits of its own now; absent where the user does not want
+    // that or the system cannot do it.
+    Published<std::optional<bool>> separated{this, "separated", {}, Valid::whileConnected};
+    // Of a request through Tor by the exit that is shown, in milliseconds.
     Published<std::optional<qint64>> latencyMs{this, "latencyMs", {}, Valid::whileConnected};
     Published<std::optional<Text>> optimizeStatus{
         this, "optimizeStatus", {}, Valid::whileConnected};
@@ -438,6 +441,7 @@ private:
     QCoro::Task<TimedProbe> timedViaTor();
     // KillSwitchWatch.cpp
     void lookAtKillSwitch();
+    void lookAtSeparation();
     // Replaces "blocked" by "not tested" when the rules are not known to block.
     LeakStatus believable(const LeakStatus &found) const;
     // Looks now and every second until stopped or the session ends. The state in m_knownKillSwitch

@@ -69,6 +69,7 @@ struct Snapshot {
     LeakStatus leak;
     DNSStatus dns;
     bool isChecking = false;
+    std::optional<bool> separated; // each application has circuits of its own
     std::optional<qint64> latencyMs;
     std::optional<Text> optimizeStatus;
     bool isOptimizing = false;
