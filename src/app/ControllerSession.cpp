@@ -60,6 +60,9 @@ void ControllerSession::read()
     next.ladder = c.ladder();
     next.climbOffer = c.climbOffer();
     next.isAnothers = c.otherSession().has_value();
+    if (std::exchange(m_sessionMark, c.sessionMark()) != c.sessionMark())
+        ++m_session;
+    next.session = m_session;
     next.hasTorStopped = c.hasTorStopped();
     next.canCancel = c.canCancel();
     next.errorMessage = c.errorMessage();

@@ -275,6 +275,8 @@ public:
         return errorMessage() && errorMessage() == m_bootstrapFailure ? bootstrapProblem()
                                                                       : std::nullopt;
     }
+    // Of the session that was last shown; another mark is another session.
+    const std::optional<SessionMark> &sessionMark() const { return m_sessionMark; }
     // Whether a stale phase shows this object's session, whose Tor has ended.
     bool hasTorStopped() const { return m_torStopped; }
     // Called when the user dismisses the banner.
