@@ -2,6 +2,7 @@
 
 #include <QJsonObject>
 #include <QString>
+#include <QStringList>
 
 // veldmarkctl's reports for the user, made from the published state, so that they are the same with
 // and without a running instance. Pure functions; several lines, without a final line break.
@@ -9,6 +10,10 @@ namespace veldmark::Report {
 
 QString status(const QJsonObject &state);
 QString circuits(const QJsonObject &state);
+// The steps to bridges, in one line each; none in a phase that does not show them.
+QStringList steps(const QJsonObject &state);
+// The offer of bridges with the command that accepts it; empty without one.
+QString offer(const QJsonObject &state);
 // The problem with terminal mode, or what ssh still lacks for it; empty without a problem.
 QString terminal(const QJsonObject &state);
 
