@@ -398,6 +398,26 @@ private Q_SLOTS:
             server->reset();
         settle();
     }
+
+    // The instance has bridges that it could not save.
+    void addsBridgesToThoseOfTheRunningInstance()
+    {
+        Workbench bench;
+        bench.writeFile(bench.folder.filePath(u"blocked"_s));
+        bench.profile.settingsFile = bench.folder.filePath(u"blocked/veldmark.conf"_s);
+        bench.restart();
+        static_cast<void>(bench.controller().customBridges.set(u"192.0.2.9:443"_s));
+        QVERIFY(SettingsStore(bench.profile).string(u"customBridges"_s).isEmpty());
+        auto server = InstanceServer::start(bench.controller());
+        QVERIFY(server);
+        const QString mail = bench.folder.filePath(u"mail"_s);
+        Computer::write(mail, "192.0.2.1:443\n");
+        // that it cannot save them was told before
+        QVERIFY(outcome(Id::addBridges, bench.profile, mail) == ExitStatus::done);
+        QCOMPARE(bench.controller().customBridges(), u"192.0.2.9:443\n192.0.2.1:443"_s);
+        server->reset();
+        settle();
+    }
 };
 
 VELDMARK_TEST(CommandsTest)
