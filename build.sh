@@ -20,7 +20,8 @@ usage: ./build.sh VERB
   coverage which lines of src/ the unit tests run; with names of rooms only theirs
   format   rewrites the sources that are not as clang-format and black write them
   mutate   small mistakes put into a clone of the last commit, one at a time, and which of them no test notices
-           (./build.sh mutate [ROOM...] [--count N] [--seed S]; rooms are also qml, helper and helper_mac)
+           (./build.sh mutate [ROOM...] [--count N] [--seed S]; rooms are also qml, helper and helper_mac; without one it takes the
+           C++ of all rooms but ui, app, cli and launch)
   fuzz     the fuzzers, an hour over all (--minutes M for another time)
   soak     500 connects and disconnects, and two hours of a fast clock, in the private Tor network (--quick: some minutes)
   bench    print the benchmarks

@@ -1392,6 +1392,14 @@
         <source>%1 more</source>
         <translation>%1 غيرها</translation>
     </message>
+    <message>
+        <source>Not checked</source>
+        <translation>لم يُفحص</translation>
+    </message>
+    <message>
+        <source>Direct connections that skip Tor show your real IP (%1), although Strict mode should block them. Disconnect, or run the leak test again.</source>
+        <translation>الاتصالات المباشرة المتجاوزة لـ Tor تكشف عنوان IP الحقيقي الخاص بك (⁨%1⁩)، مع أن الوضع الصارم ينبغي أن يحجبها. افصل الاتصال، أو أعد فحص التسريب.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::ReportModel</name>
@@ -4051,6 +4059,10 @@ a web page. FILE &quot;-&quot; is standard input</source>
     <message>
         <source>%1: %2</source>
         <translation>‏⁨%1⁩: ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>Circuits</source>
+        <translation>الدوائر</translation>
     </message>
 </context>
 <context>

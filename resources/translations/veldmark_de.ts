@@ -1372,6 +1372,14 @@
         <source>%1 more</source>
         <translation>%1 weitere</translation>
     </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Nicht geprüft</translation>
+    </message>
+    <message>
+        <source>Direct connections that skip Tor show your real IP (%1), although Strict mode should block them. Disconnect, or run the leak test again.</source>
+        <translation>Direkte Verbindungen an Tor vorbei zeigen Ihre echte IP (%1), obwohl der strikte Modus sie sperren sollte. Trennen Sie, oder wiederholen Sie den Lecktest.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::ReportModel</name>
@@ -4028,6 +4036,10 @@ einer ganzen E-Mail oder einer Webseite. FILE „-“ ist die Standardeingabe</t
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Circuits</source>
+        <translation>Kanäle</translation>
     </message>
 </context>
 <context>

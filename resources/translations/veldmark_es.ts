@@ -1372,6 +1372,14 @@
         <source>%1 more</source>
         <translation>%1 más</translation>
     </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Sin comprobar</translation>
+    </message>
+    <message>
+        <source>Direct connections that skip Tor show your real IP (%1), although Strict mode should block them. Disconnect, or run the leak test again.</source>
+        <translation>Las conexiones directas, sin pasar por Tor, muestran su IP real (%1), aunque el modo estricto debería bloquearlas. Desconéctese o repita la prueba de fugas.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::ReportModel</name>
@@ -4028,6 +4036,10 @@ entero o una página web. FILE «-» es la entrada estándar</translation>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Circuits</source>
+        <translation>Circuitos</translation>
     </message>
 </context>
 <context>

@@ -1367,6 +1367,14 @@
         <source>%1 more</source>
         <translation>%1 مورد دیگر</translation>
     </message>
+    <message>
+        <source>Not checked</source>
+        <translation>بررسی نشده</translation>
+    </message>
+    <message>
+        <source>Direct connections that skip Tor show your real IP (%1), although Strict mode should block them. Disconnect, or run the leak test again.</source>
+        <translation>اتصال‌های مستقیم بدون Tor نشانی IP واقعی شما (⁨%1⁩) را نشان می‌دهند، با این‌که حالت سخت‌گیرانه باید آن‌ها را مسدود کند. اتصال را قطع کنید یا آزمون نشت را دوباره اجرا کنید.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::ReportModel</name>
@@ -4022,6 +4030,10 @@ a web page. FILE &quot;-&quot; is standard input</source>
     <message>
         <source>%1: %2</source>
         <translation>‏⁨%1⁩: ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>Circuits</source>
+        <translation>مدارها</translation>
     </message>
 </context>
 <context>

@@ -1372,6 +1372,14 @@
         <source>%1 more</source>
         <translation>%1 de plus</translation>
     </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Non vérifié</translation>
+    </message>
+    <message>
+        <source>Direct connections that skip Tor show your real IP (%1), although Strict mode should block them. Disconnect, or run the leak test again.</source>
+        <translation>Les connexions directes sans passer par Tor révèlent votre IP réelle (%1), alors que le mode strict devrait les bloquer. Déconnectez-vous ou relancez le test de fuite.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::ReportModel</name>
@@ -4028,6 +4036,10 @@ page web. « - » comme FILE désigne l’entrée standard</translation>
     <message>
         <source>%1: %2</source>
         <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>Circuits</source>
+        <translation>Circuits</translation>
     </message>
 </context>
 <context>

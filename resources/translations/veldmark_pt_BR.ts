@@ -1372,6 +1372,14 @@
         <source>%1 more</source>
         <translation>mais %1</translation>
     </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Não verificado</translation>
+    </message>
+    <message>
+        <source>Direct connections that skip Tor show your real IP (%1), although Strict mode should block them. Disconnect, or run the leak test again.</source>
+        <translation>Conexões diretas, sem passar pelo Tor, mostram seu IP real (%1), embora o modo estrito devesse bloqueá-las. Desconecte ou repita o teste de vazamento.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::ReportModel</name>
@@ -4028,6 +4036,10 @@ inteiro ou uma página web. FILE &quot;-&quot; é a entrada padrão</translation
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Circuits</source>
+        <translation>Circuitos</translation>
     </message>
 </context>
 <context>

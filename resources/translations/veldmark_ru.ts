@@ -1377,6 +1377,14 @@
         <source>%1 more</source>
         <translation>ещё %1</translation>
     </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Не проверено</translation>
+    </message>
+    <message>
+        <source>Direct connections that skip Tor show your real IP (%1), although Strict mode should block them. Disconnect, or run the leak test again.</source>
+        <translation>Прямые соединения в обход Tor выдают ваш реальный IP (%1), хотя строгий режим должен их блокировать. Отключитесь или повторите тест утечек.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::ReportModel</name>
@@ -4034,6 +4042,10 @@ a web page. FILE &quot;-&quot; is standard input</source>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Circuits</source>
+        <translation>Цепочки</translation>
     </message>
 </context>
 <context>

@@ -1367,6 +1367,14 @@
         <source>%1 more</source>
         <translation>%1 tane daha</translation>
     </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Denetlenmedi</translation>
+    </message>
+    <message>
+        <source>Direct connections that skip Tor show your real IP (%1), although Strict mode should block them. Disconnect, or run the leak test again.</source>
+        <translation>Sıkı kipin engellemesi gerekirken, Tor&apos;u atlayan doğrudan bağlantılar gerçek IP adresinizi gösteriyor (%1). Bağlantıyı kesin ya da sızıntı testini yeniden çalıştırın.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::ReportModel</name>
@@ -4022,6 +4030,10 @@ e-posta ya da web sayfası. FILE &quot;-&quot; standart girdidir</translation>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Circuits</source>
+        <translation>Devreler</translation>
     </message>
 </context>
 <context>

@@ -1377,6 +1377,14 @@
         <source>%1 more</source>
         <translation>ще %1</translation>
     </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Не перевірено</translation>
+    </message>
+    <message>
+        <source>Direct connections that skip Tor show your real IP (%1), although Strict mode should block them. Disconnect, or run the leak test again.</source>
+        <translation>Прямі з’єднання повз Tor показують вашу справжню IP-адресу (%1), хоча суворий режим мав би їх блокувати. Від’єднайтеся або повторіть тест витоків.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::ReportModel</name>
@@ -4034,6 +4042,10 @@ a web page. FILE &quot;-&quot; is standard input</source>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Circuits</source>
+        <translation>Ланцюги</translation>
     </message>
 </context>
 <context>

@@ -1367,6 +1367,14 @@
         <source>%1 more</source>
         <translation>另有 %1 个</translation>
     </message>
+    <message>
+        <source>Not checked</source>
+        <translation>未检查</translation>
+    </message>
+    <message>
+        <source>Direct connections that skip Tor show your real IP (%1), although Strict mode should block them. Disconnect, or run the leak test again.</source>
+        <translation>绕过 Tor 的直接连接会暴露您的真实 IP（%1），而严格模式本应阻断它们。请断开，或再次运行泄露测试。</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::ReportModel</name>
@@ -4021,6 +4029,10 @@ FILE 为“-”时读取标准输入</translation>
     <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>Circuits</source>
+        <translation>线路</translation>
     </message>
 </context>
 <context>

@@ -12,7 +12,10 @@ namespace {
 constexpr qint64 putBackPauseSeconds = 60;
 } // namespace
 
-Alerts::Alerts(Session &session) : m_session(session), m_phase(session.now().phase)
+Alerts::Alerts(Session &session)
+    : m_session(session),
+      m_phase(session.now().phase),
+      m_shownSession(session.now().session)
 {
     QObject::connect(&session, &Session::changed, this, &Alerts::look);
 }
@@ -40,6 +43,13 @@ void Alerts::look()
     if (!std::exchange(m_wasExposed, isExposed) && isExposed
         && m_danger == Verdict::Danger::dnsLeak)
         tellDanger(Verdict::Danger::exposed); // the DNS alert alone told only half of it
+    // What is known of the rules was about another session. What happened to this one's before is
+    // not told.
+    const bool isAnother = std::exchange(m_shownSession, now.session) != now.session;
+    if (isAnother && now.phase == ConnectionPhase::stale) {
+        m_killSwitch = now.killSwitch;
+        m_putBackTold = {};
+    }
     tellPutBack(std::exchange(m_killSwitch, now.killSwitch));
 }
 

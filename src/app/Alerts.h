@@ -27,6 +27,7 @@ private:
 
     Session &m_session;
     ConnectionPhase m_phase;
+    int m_shownSession; // the number that was seen last
     Verdict::Danger m_danger = Verdict::Danger::none;
     std::optional<KillSwitch> m_killSwitch;
     bool m_wasExposed = false;

@@ -60,6 +60,9 @@ void ControllerSession::read()
     next.ladder = c.ladder();
     next.climbOffer = c.climbOffer();
     next.isAnothers = c.otherSession().has_value();
+    if (std::exchange(m_sessionMark, c.sessionMark()) != c.sessionMark())
+        ++m_session;
+    next.session = m_session;
     next.hasTorStopped = c.hasTorStopped();
     next.canCancel = c.canCancel();
     next.errorMessage = c.errorMessage();
@@ -75,6 +78,7 @@ void ControllerSession::read()
     next.leak = c.leakStatus.in(next.phase);
     next.dns = c.dnsStatus.in(next.phase);
     next.isChecking = c.isChecking.in(next.phase);
+    next.separated = c.separated.in(next.phase);
     next.latencyMs = c.latencyMs.in(next.phase);
     next.optimizeStatus = c.optimizeStatus.in(next.phase);
     next.isOptimizing = c.isOptimizing.in(next.phase);

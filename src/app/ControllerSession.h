@@ -5,6 +5,7 @@
 #include "platform/RunningApplications.h"
 #include "report/ReportMaker.h"
 #include "system/ChildProcessRunner.h"
+#include "system/SessionMark.h"
 #include "system/SettingsStore.h"
 #include "ui/Session.h"
 
@@ -76,6 +77,8 @@ private:
 
     TorController &m_controller;
     RunningApplications &m_applications;
+    std::optional<SessionMark> m_sessionMark; // of the session that is shown
+    int m_session = 0;                        // its number in the snapshot
     bool m_scheduled = false;
     bool m_isReadingCircuits = false;
     bool m_circuitsWanted = false; // read once more after the reading under way

@@ -73,6 +73,20 @@ bool isQuestion(int argc, char **argv)
     });
 }
 
+int perform(const PlatformProfile &profile, const CommandLine &line)
+{
+    const RecoveryNotice recoveryNotice(profile);
+    Application program(profile);
+    if (const auto started = program.start(line.has(line.hidden), line.has(line.connectNow));
+        !started) {
+        QTextStream(stderr) << "veldmark: " << started.error().translated() << '\n';
+        QMessageBox::critical(nullptr, QStringLiteral("Veldmark"),
+                              started.error().translated() + RecoveryNotice::advice(profile));
+        return 1;
+    }
+    return QApplication::exec();
+}
+
 int answer(int argc, char **argv)
 {
     QCoreApplication application(argc, argv);
@@ -115,16 +129,5 @@ int main(int argc, char **argv)
         return QApplication::exec();
     }
 
-    const CoroutineEnds coroutineEnds; // goes last: lets the coroutines that still wait run to
-                                       // their ends
-    const RecoveryNotice recoveryNotice(profile);
-    Application program(profile);
-    if (const auto started = program.start(line.has(line.hidden), line.has(line.connectNow));
-        !started) {
-        QTextStream(stderr) << "veldmark: " << started.error().translated() << '\n';
-        QMessageBox::critical(nullptr, QStringLiteral("Veldmark"),
-                              started.error().translated() + RecoveryNotice::advice(profile));
-        return 1;
-    }
-    return QApplication::exec();
+    return runToCoroutineEnds([&] { return perform(profile, line); });
 }

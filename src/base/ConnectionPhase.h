@@ -21,6 +21,13 @@ constexpr bool isChanging(ConnectionPhase phase)
     return phase == ConnectionPhase::connecting || phase == ConnectionPhase::disconnecting;
 }
 
+// Whether the steps to bridges and the offer of them are shown: until Tor has connected, and after
+// a failure.
+constexpr bool showsLadder(ConnectionPhase phase)
+{
+    return phase == ConnectionPhase::connecting || phase == ConnectionPhase::stale;
+}
+
 // Whether a connection begins, lasts or ends, so that the options that it was made with are locked.
 constexpr bool locksOptions(ConnectionPhase phase)
 {

@@ -44,4 +44,12 @@ public:
     Q_DISABLE_COPY_MOVE(CoroutineEnds)
 };
 
+// Runs the rest of a program, which makes its objects and returns the exit status; then the
+// coroutines that still wait run to their ends. Both programs' main() ends with it.
+template <typename Program> int runToCoroutineEnds(const Program &program)
+{
+    const CoroutineEnds coroutineEnds; // goes last
+    return program();
+}
+
 } // namespace veldmark

@@ -10,6 +10,7 @@
 #include "cli/Console.h"
 #include "cli/ProgressLine.h"
 #include "controller/RealController.h"
+#include "instance/InstanceClient.h"
 #include "instance/InstancePlace.h"
 #include "system/SignalWatcher.h"
 
@@ -121,6 +122,25 @@ QStringList problems(const QJsonObject &custom)
     return lines;
 }
 
+// The user's own bridges as the running instance has them: it may have been unable to save them.
+// Without one, as the file has them.
+QCoro::Task<QString> ownBridges(PlatformProfile profile)
+{
+    const QString key = QStringLiteral("customBridges");
+    const QString saved = SettingsStore(profile).string(key);
+    const auto instance = InstanceClient::connectTo(profile);
+    if (!instance)
+        co_return saved;
+    const auto state = std::make_shared<QJsonObject>();
+    const QJsonObject request{{QStringLiteral("command"), verbOf(Verb::Id::status).requested()}};
+    const InstanceClient::OnState onState = [state](const QJsonObject &sent, const QJsonObject &) {
+        *state = sent;
+    };
+    auto asking = instance->run(request, onState);
+    co_await asking;
+    co_return state->value(key).toString(saved);
+}
+
 } // namespace
 
 QStringList Report::bridgeProblems(const QString &text)
@@ -215,7 +235,8 @@ QCoro::Task<ExitStatus> addBridges(Invocation invocation, PlatformProfile profil
         Console::printError(Text::tr("There is no bridge in %1.").arg(invocation.key));
         co_return ExitStatus::failed;
     }
-    QString own = SettingsStore(profile).string(QStringLiteral("customBridges"));
+    auto reading = ownBridges(profile);
+    QString own = co_await reading;
     const ParsedBridgeLines stored = BridgeLines::parse(own);
     QStringList added;
     QStringList told;

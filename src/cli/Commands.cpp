@@ -2,6 +2,7 @@
 
 #include "cli/ApplicationsCommand.h"
 #include "cli/BridgesCommand.h"
+#include "cli/ConnectLines.h"
 #include "cli/Console.h"
 #include "cli/DoctorCommand.h"
 #include "cli/IdentitiesCommand.h"
@@ -115,38 +116,27 @@ void tellOfTerminal(const Invocation &invocation, const QJsonObject &state)
         Console::print(told);
 }
 
-void showConnecting(const QJsonObject &state, ProgressLine &progress, QString &shownProblem)
-{
-    Console::draw(progress.update(state.value(QStringLiteral("bootstrapProgress")).toDouble(),
-                                  state.value(QStringLiteral("statusDetail")).toString()));
-    const QString problem = state.value(QStringLiteral("bootstrapProblem")).toString();
-    if (problem == std::exchange(shownProblem, problem) || problem.isEmpty())
-        return;
-    Console::draw(progress.finish());
-    Console::print(problem);
-}
-
 QCoro::Task<ExitStatus> askInstance(Invocation invocation, PlatformProfile profile,
                                     std::shared_ptr<InstanceClient> instance)
 {
     const auto last = std::make_shared<QJsonObject>();
     const auto progress = std::make_shared<ProgressLine>(Console::isTerminal(), Console::width());
-    const auto problem = std::make_shared<QString>(); // the last one shown
-    const InstanceClient::OnState onState =
-        [invocation, last, progress, problem](const QJsonObject &sent, const QJsonObject &texts) {
-            const QJsonObject state = forReader(invocation, sent, texts);
-            *last = state;
-            if (showsEveryState(invocation))
-                show(invocation, state);
-            else if (invocation.verb == Verb::Id::connect
-                     && state.value(QStringLiteral("phase")) == QLatin1String("connecting"))
-                showConnecting(state, *progress, *problem);
-            else if (invocation.verb == Verb::Id::downloadTransports)
-                Console::draw(
-                    progress->update(state.value(QStringLiteral("transportDownload")).toString()));
-        };
+    const auto connecting = std::make_shared<ConnectLines>();
+    const InstanceClient::OnState onState = [invocation, last, progress, connecting](
+                                                const QJsonObject &sent, const QJsonObject &texts) {
+        const QJsonObject state = forReader(invocation, sent, texts);
+        *last = state;
+        if (showsEveryState(invocation))
+            show(invocation, state);
+        else if (invocation.verb == Verb::Id::connect)
+            connecting->show(state);
+        else if (invocation.verb == Verb::Id::downloadTransports)
+            Console::draw(
+                progress->update(state.value(QStringLiteral("transportDownload")).toString()));
+    };
     auto running = instance->run(request(invocation), onState);
     const auto answer = co_await running;
+    connecting->finish();
     Console::draw(progress->finish());
     if (!answer) {
         Console::printError(answer.error().description());

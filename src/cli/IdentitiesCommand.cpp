@@ -4,6 +4,7 @@
 #include "instance/InstanceClient.h"
 #include "platform/PlatformProfile.h"
 #include "system/Identities.h"
+#include "system/IdentityProgram.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -182,7 +183,7 @@ QCoro::Task<ExitStatus> renewIdentity(Invocation invocation, PlatformProfile pro
             Text::tr(
                 "No application of yours has that identity; \"veldmarkctl identities\" lists them."),
             ExitStatus::usage);
-    if (!Identities::send(profile, "new " + invocation.key.toLatin1()))
+    if (!IdentityProgram(profile).send("new " + invocation.key.toLatin1()))
         co_return fail(whyNone(profile));
     for (int waits = 0; waits < 100; ++waits) {
         const auto now = Identities::read(profile);

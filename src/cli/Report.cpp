@@ -1,11 +1,13 @@
 #include "cli/Report.h"
 
+#include "base/ConnectionPhase.h"
 #include "base/Text.h"
 #include "bridges/Ladder.h"
 
 #include <QDateTime>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QMetaEnum>
 
 #include <array>
 
@@ -22,6 +24,14 @@ QString row(const Text &name, const Text &text)
 QString text(const QJsonObject &state, const char *key)
 {
     return state.value(QLatin1String(key)).toString();
+}
+
+bool isLadderShown(const QJsonObject &state)
+{
+    bool isKnown = false;
+    const int phase = QMetaEnum::fromType<ConnectionPhase>().keyToValue(
+        text(state, "phase").toLatin1().constData(), &isKnown);
+    return isKnown && showsLadder(static_cast<ConnectionPhase>(phase));
 }
 
 // Whether the rules were seen in the kernel.
@@ -62,6 +72,8 @@ Text exitText(const QJsonObject &state)
 {
     const QString address = text(state, "exitIP");
     const QJsonValue verified = state.value(QStringLiteral("torVerified"));
+    if (state.value(QStringLiteral("isChecking")).toBool())
+        return Text::tr("checking…"); // the last result no longer counts
     if (verified.isNull())
         return Text::tr("not checked yet");
     if (address.isEmpty())
@@ -155,10 +167,7 @@ QString status(const QJsonObject &state)
     if (phase == QLatin1String("connected")) {
         report += row(Text::tr("Mode"), modeText(state));
         report += row(Text::tr("Exit"), exitText(state));
-        // an earlier time would promise too much
-        const bool isStalled = state.value(QStringLiteral("stall")).isString();
-        if (const QJsonValue latency = state.value(QStringLiteral("latencyMs"));
-            latency.isDouble() && !isStalled)
+        if (const QJsonValue latency = state.value(QStringLiteral("latencyMs")); latency.isDouble())
             report += row(Text::tr("Latency"), Text::tr("%1 ms through Tor").arg(latency.toInt()));
         report += row(Text::tr("Direct path"), directText(state));
         report += row(Text::tr("DNS"), dnsText(state));
@@ -168,6 +177,9 @@ QString status(const QJsonObject &state)
                                bytes(state.value(QStringLiteral("bytesWritten")).toDouble())));
         if (const QString bridge = text(state, "activeBridge"); !bridge.isEmpty())
             report += row(Text::tr("Bridges"), bridge);
+        if (state.value(QStringLiteral("separated")) == QJsonValue(false))
+            report += row(Text::tr("Circuits"),
+                          Text::tr("Applications are not separated now: they share circuits."));
     } else if (phase == QLatin1String("connecting")) {
         report += row(Text::tr("Progress"),
                       QStringLiteral("%1%").arg(qRound(
@@ -178,13 +190,10 @@ QString status(const QJsonObject &state)
                       isAnothers ? Text::tr("nothing; veldmarkctl restore would end that session")
                                  : Text(QStringLiteral("veldmarkctl restore")));
     }
-    for (const QJsonValue &step : state.value(QStringLiteral("ladder")).toArray())
-        report += row(Text::tr("Tried"), stepText(step.toObject()));
-    if (const QString offer = text(state, "climbOffer"); !offer.isEmpty())
-        report += row(
-            Text::tr("Offer"),
-            Text::joined(
-                {offer, Text::tr("Try them with: %1").arg(QStringLiteral("veldmarkctl climb"))}));
+    for (const QString &step : steps(state))
+        report += row(Text::tr("Tried"), step);
+    if (const QString offered = offer(state); !offered.isEmpty())
+        report += row(Text::tr("Offer"), offered);
     if (!text(state, "killSwitch").isEmpty())
         report += row(Text::tr("Kill switch"), killSwitchText(state));
     const bool isTried = phase == QLatin1String("connecting") || phase == QLatin1String("stale");
@@ -199,6 +208,26 @@ QString status(const QJsonObject &state)
     for (const QJsonValue &problem : state.value(QStringLiteral("settingsProblems")).toArray())
         report += row(Text::tr("Settings"), problem.toString());
     return report;
+}
+
+QStringList steps(const QJsonObject &state)
+{
+    QStringList lines;
+    if (isLadderShown(state)) {
+        for (const QJsonValue &step : state.value(QStringLiteral("ladder")).toArray())
+            lines << stepText(step.toObject()).translated();
+    }
+    return lines;
+}
+
+QString offer(const QJsonObject &state)
+{
+    const QString offered = text(state, "climbOffer");
+    if (offered.isEmpty() || !isLadderShown(state))
+        return {};
+    return Text::joined(
+               {offered, Text::tr("Try them with: %1").arg(QStringLiteral("veldmarkctl climb"))})
+        .translated();
 }
 
 QString terminal(const QJsonObject &state)

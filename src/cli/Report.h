@@ -2,6 +2,7 @@
 
 #include <QJsonObject>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 
@@ -13,6 +14,10 @@ QString status(const QJsonObject &state);
 // `nameOf` turns an application's id into the name that people know.
 QString circuits(const QJsonObject &state,
                  const std::function<QString(const QString &id)> &nameOf = {});
+// The steps to bridges, in one line each; none in a phase that does not show them.
+QStringList steps(const QJsonObject &state);
+// The offer of bridges with the command that accepts it; empty without one.
+QString offer(const QJsonObject &state);
 // The problem with terminal mode, or what ssh still lacks for it; empty without a problem.
 QString terminal(const QJsonObject &state);
 

@@ -41,7 +41,7 @@ void SessionLines::showProgress()
 {
     if (m_controller.phase() == ConnectionPhase::connecting)
         Console::draw(m_progress.update(m_controller.bootstrapProgress(),
-                                        m_controller.statusDetail().translated()));
+                                        m_controller.verdict().detail.translated()));
 }
 
 void SessionLines::showProblem()

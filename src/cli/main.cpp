@@ -20,6 +20,26 @@ QCoro::Task<void> executeAndQuit(Invocation invocation, PlatformProfile profile)
     QCoreApplication::exit(static_cast<int>(status));
 }
 
+int perform(QCoreApplication &application, const Invocation &invocation)
+{
+    const PlatformProfile profile = PlatformProfile::current(Places::fromEnvironment());
+    std::unique_ptr<RunCommand> run;
+    if (invocation.verb == Verb::Id::run) {
+        run = std::make_unique<RunCommand>(profile, invocation.connectNow);
+        QObject::connect(
+            run.get(), &RunCommand::finished, &application,
+            [](ExitStatus status) { QCoreApplication::exit(static_cast<int>(status)); },
+            Qt::QueuedConnection);
+    }
+    QTimer::singleShot(0, &application, [&run, &invocation, &profile] {
+        if (run)
+            run->start();
+        else
+            executeAndQuit(invocation, profile);
+    });
+    return QCoreApplication::exec();
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -48,22 +68,5 @@ int main(int argc, char **argv)
         return static_cast<int>(
             showCompletions(*invocation, PlatformProfile::current(Places::fromEnvironment())));
 
-    // resumes the remaining coroutines after all other objects are destroyed
-    const CoroutineEnds coroutineEnds;
-    const PlatformProfile profile = PlatformProfile::current(Places::fromEnvironment());
-    std::unique_ptr<RunCommand> run;
-    if (invocation->verb == Verb::Id::run) {
-        run = std::make_unique<RunCommand>(profile, invocation->connectNow);
-        QObject::connect(
-            run.get(), &RunCommand::finished, &application,
-            [](ExitStatus status) { QCoreApplication::exit(static_cast<int>(status)); },
-            Qt::QueuedConnection);
-    }
-    QTimer::singleShot(0, &application, [&run, &invocation, &profile] {
-        if (run)
-            run->start();
-        else
-            executeAndQuit(*invocation, profile);
-    });
-    return QCoreApplication::exec();
+    return runToCoroutineEnds([&] { return perform(application, *invocation); });
 }

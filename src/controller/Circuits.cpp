@@ -157,12 +157,10 @@ QCoro::Task<void> TorController::optimizeCircuits()
         if (attempt.isOver())
             co_return; // the next attempt has cleared the fields that this one set
         if ((timed.answer || round == optimizeAttempts) && identity == m_identity)
-            showExit(timed.answer); // no answer to the last attempt is a result, too
+            showExit(timed); // no answer to the last attempt is a result, too
         const qint64 elapsedMs = timed.elapsed.count();
-        if (timed.answer && elapsedMs < slowPathMs) {
-            latencyMs = elapsedMs;
+        if (timed.answer && elapsedMs < slowPathMs)
             break;
-        }
         optimizeStatus = timed.answer
             ? Text::tr("Slow path (%1 ms), finding a faster one…").arg(elapsedMs)
             : Text::tr("Path not responding, finding another…");

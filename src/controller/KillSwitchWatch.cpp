@@ -1,6 +1,7 @@
 #include "controller/TorController.h"
 
 #include "platform/PlatformProfile.h"
+#include "system/IdentityProgram.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -99,6 +100,15 @@ void TorController::lookAtKillSwitch()
         errorMessage = std::nullopt;
 }
 
+void TorController::lookAtSeparation()
+{
+    const auto found = IdentityProgram::separates(m_services.profile);
+    if (!separateApps())
+        separated = std::nullopt;
+    else if (found) // else the last look still counts
+        separated = found;
+}
+
 std::optional<Text> TorController::killSwitchMessage() const
 {
     if (m_torStopped)
@@ -190,6 +200,7 @@ QCoro::Task<void> TorController::watchKillSwitch(Run run)
         if (run.isOver())
             co_return;
         lookAtKillSwitch();
+        lookAtSeparation();
     }
 }
 

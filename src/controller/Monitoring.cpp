@@ -255,8 +255,10 @@ QCoro::Task<void> TorController::runChecks()
     if (attempt.isOver())
         co_return;
     isChecking = false;
-    if (identity != m_identity) // new circuits during the DNS test
-        checkExit();
+    if (identity != m_identity) { // new circuits during the DNS test
+        auto asking = checkExit();
+        co_await asking;
+    }
 }
 
 void TorController::forgetExit()
@@ -264,6 +266,7 @@ void TorController::forgetExit()
     ++m_identity;
     exitIP = std::nullopt;
     torVerified = std::nullopt;
+    latencyMs = std::nullopt;
 }
 
 QCoro::Task<void> TorController::checkExit()
@@ -277,17 +280,18 @@ QCoro::Task<void> TorController::checkExit()
         if (attempt.isOver())
             co_return;
         if (identity == m_identity) {
-            showExit(tor.answer);
+            showExit(tor);
             break;
         }
     }
     isChecking = false;
 }
 
-void TorController::showExit(const ProbeResult &answer)
+void TorController::showExit(const TimedProbe &probe)
 {
-    exitIP = answer ? std::optional(answer->ip) : std::nullopt;
-    torVerified = answer && answer->isTor;
+    exitIP = probe.answer ? std::optional(probe.answer->ip) : std::nullopt;
+    torVerified = probe.answer && probe.answer->isTor;
+    latencyMs = probe.answer ? std::optional<qint64>(probe.elapsed.count()) : std::nullopt;
 }
 
 } // namespace veldmark

@@ -95,6 +95,7 @@ void TorController::enterConnected()
     statusDetail = activeMode() == RoutingMode::strict
         ? Text::tr("All traffic is locked to Tor")
         : Text::tr("Apps that use system proxy settings go through Tor");
+    lookAtSeparation();
     enter(ConnectionPhase::connected);
 }
 
@@ -152,6 +153,7 @@ void TorController::resetSessionInfo()
     torVerified = std::nullopt;
     leakStatus = LeakStatus::notTested();
     latencyMs = std::nullopt;
+    separated = std::nullopt;
     bytesRead = 0;
     bytesWritten = 0;
     dnsStatus = DNSStatus::unknown();

@@ -183,7 +183,10 @@ public:
                                      Valid::whileConnected};
     Published<DNSStatus> dnsStatus{this, "dnsStatus", DNSStatus::unknown(), Valid::whileConnected};
     Published<bool> isChecking{this, "isChecking", false, Valid::whileConnected};
-    // Of a request through Tor, in milliseconds.
+    // Whether each application has circuits of its own now; absent where the user does not want
+    // that or the system cannot do it.
+    Published<std::optional<bool>> separated{this, "separated", {}, Valid::whileConnected};
+    // Of a request through Tor by the exit that is shown, in milliseconds.
     Published<std::optional<qint64>> latencyMs{this, "latencyMs", {}, Valid::whileConnected};
     Published<std::optional<Text>> optimizeStatus{
         this, "optimizeStatus", {}, Valid::whileConnected};
@@ -273,6 +276,8 @@ public:
         return errorMessage() && errorMessage() == m_bootstrapFailure ? bootstrapProblem()
                                                                       : std::nullopt;
     }
+    // Of the session that was last shown; another mark is another session.
+    const std::optional<SessionMark> &sessionMark() const { return m_sessionMark; }
     // Whether a stale phase shows this object's session, whose Tor has ended.
     bool hasTorStopped() const { return m_torStopped; }
     // Called when the user dismisses the banner.
@@ -449,6 +454,7 @@ private:
     QCoro::Task<TimedProbe> timedViaTor();
     // KillSwitchWatch.cpp
     void lookAtKillSwitch();
+    void lookAtSeparation();
     // Replaces "blocked" by "not tested" when the rules are not known to block.
     LeakStatus believable(const LeakStatus &found) const;
     // Looks now and every second until stopped or the session ends. The state in m_knownKillSwitch
@@ -463,7 +469,7 @@ private:
     // Asks for the exit alone, after Tor was told to use new circuits.
     QCoro::Task<void> checkExit();
     void forgetExit();
-    void showExit(const ProbeResult &answer);
+    void showExit(const TimedProbe &probe);
     // DNS.cpp
     QCoro::Task<void> repairDNS(Run attempt);
     // BypassApps.cpp

@@ -1,15 +1,12 @@
 #include "system/Identities.h"
 
 #include "platform/PlatformProfile.h"
+#include "system/IdentityProgram.h"
 
 #include <QFile>
 #include <QRegularExpression>
 #include <QThread>
 
-#include <cstring>
-
-#include <sys/socket.h>
-#include <sys/un.h>
 #include <unistd.h>
 
 namespace veldmark {
@@ -17,40 +14,6 @@ namespace veldmark {
 namespace {
 
 constexpr qint64 identitiesLimitBytes = 4 << 20;
-
-// The socket of the identity program.
-class Sending {
-public:
-    explicit Sending(const QString &path) : m_socket(socket(AF_UNIX, SOCK_DGRAM, 0))
-    {
-        sockaddr_un place{};
-        place.sun_family = AF_UNIX;
-        const QByteArray name = QFile::encodeName(path);
-        if (m_socket < 0 || name.size() >= static_cast<qsizetype>(sizeof place.sun_path))
-            return;
-        std::memcpy(place.sun_path, name.constData(), static_cast<std::size_t>(name.size()));
-        m_isThere = ::connect(m_socket, reinterpret_cast<const sockaddr *>(&place), sizeof place)
-            == 0;
-    }
-    Sending(const Sending &) = delete;
-    Sending &operator=(const Sending &) = delete;
-    ~Sending()
-    {
-        if (m_socket >= 0)
-            close(m_socket);
-    }
-    bool isThere() const { return m_isThere; }
-    bool send(const QByteArray &wish) const
-    {
-        return m_isThere
-            && ::send(m_socket, wish.constData(), static_cast<std::size_t>(wish.size()), 0)
-            == wish.size();
-    }
-
-private:
-    int m_socket;
-    bool m_isThere = false;
-};
 
 } // namespace
 
@@ -84,7 +47,7 @@ std::optional<Identities> Identities::parse(const QByteArray &text)
 
 std::optional<Identities> Identities::read(const PlatformProfile &profile, int readings)
 {
-    if (profile.identitiesNote.isEmpty() || !Sending(profile.identitiesSocket).isThere())
+    if (profile.identitiesNote.isEmpty() || !IdentityProgram(profile).isThere())
         return std::nullopt;
     for (int reading = 0; reading < readings; ++reading) {
         QFile file(profile.identitiesNote);
@@ -96,11 +59,6 @@ std::optional<Identities> Identities::read(const PlatformProfile &profile, int r
             QThread::msleep(5);
     }
     return std::nullopt;
-}
-
-bool Identities::send(const PlatformProfile &profile, const QByteArray &wish)
-{
-    return Sending(profile.identitiesSocket).send(wish);
 }
 
 } // namespace veldmark

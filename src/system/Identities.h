@@ -13,7 +13,7 @@ namespace veldmark {
 struct PlatformProfile;
 
 // The identity program's list of applications and their addresses, in the file that the profile
-// names. Any thread; reads files and a socket.
+// names. Any thread; reads files.
 struct Identities {
     struct Identity {
         uid_t user = 0;
@@ -33,9 +33,6 @@ struct Identities {
     static std::optional<Identities> read(const PlatformProfile &profile,
                                           int readings = mostReadings);
     static std::optional<Identities> parse(const QByteArray &text);
-
-    // Sends the program a wish ("new APPLICATION"). False when no process takes it.
-    static bool send(const PlatformProfile &profile, const QByteArray &wish);
 };
 
 } // namespace veldmark

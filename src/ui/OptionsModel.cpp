@@ -47,13 +47,24 @@ OptionsModel::OptionsModel(Session &session, QObject *parent)
     });
 }
 
+bool OptionsModel::showsSession() const
+{
+    const ConnectionPhase phase = m_session.now().phase;
+    return phase == ConnectionPhase::connected || phase == ConnectionPhase::disconnecting;
+}
+
 bool OptionsModel::strictMode() const
 {
     const Snapshot &now = m_session.now();
-    const bool isSessions = now.phase == ConnectionPhase::connected
-        || now.phase == ConnectionPhase::disconnecting;
-    return isSessions && now.activeMode ? now.activeMode == RoutingMode::strict
-                                        : choices().strictMode;
+    return showsSession() && now.activeMode ? now.activeMode == RoutingMode::strict
+                                            : choices().strictMode;
+}
+
+// The ladder may have led to others than the chosen ones.
+BridgeChoice OptionsModel::bridges() const
+{
+    return showsSession() ? m_session.now().activeBridge.value_or(BridgeChoice::off)
+                          : choices().bridgeChoice;
 }
 
 void OptionsModel::setStrictMode(bool on)
@@ -130,8 +141,7 @@ QStringList OptionsModel::bridgeNames() const
 
 int OptionsModel::bridgeIndex() const
 {
-    const auto found = std::find(allBridgeChoices.begin(), allBridgeChoices.end(),
-                                 choices().bridgeChoice);
+    const auto found = std::find(allBridgeChoices.begin(), allBridgeChoices.end(), bridges());
     return static_cast<int>(found - allBridgeChoices.begin());
 }
 
@@ -146,8 +156,7 @@ void OptionsModel::setBridgeIndex(int index)
 
 bool OptionsModel::needsDownload() const
 {
-    return lacksTransport(choices().bridgeChoice, choices().customBridges,
-                          m_session.now().transports);
+    return lacksTransport(bridges(), choices().customBridges, m_session.now().transports);
 }
 
 QString OptionsModel::bridgeNote() const
@@ -156,7 +165,7 @@ QString OptionsModel::bridgeNote() const
         return tr("No bridges added yet");
     if (needsDownload())
         return tr("Needs bridge programs: click Download");
-    if (choices().bridgeChoice == BridgeChoice::off || customChosen())
+    if (bridges() == BridgeChoice::off || customChosen())
         return {};
     return tr("Built-in bridges from %1").arg(m_session.now().transports.source);
 }

@@ -60,7 +60,7 @@ public:
     QString exitWarning() const;  // empty without a chosen country
 
     QStringList bridgeNames() const;
-    int bridgeIndex() const;
+    int bridgeIndex() const; // while connected, of the session's bridges
     void setBridgeIndex(int index);
     // What the choice lacks, or where its bridges come from; may be empty.
     QString bridgeNote() const;
@@ -68,7 +68,7 @@ public:
     bool needsDownload() const;
     bool canDownload() const { return m_session.now().canDownloadTransports; }
     QString downloadText() const;
-    bool customChosen() const { return choices().bridgeChoice == BridgeChoice::custom; }
+    bool customChosen() const { return bridges() == BridgeChoice::custom; }
     QString customBridges() const { return choices().customBridges; }
     // "3 bridges recognized", or empty; also bridges between other lines count.
     Q_INVOKABLE QString bridgeCount(const QString &text) const;
@@ -100,6 +100,8 @@ Q_SIGNALS:
 
 private:
     const Choices &choices() const { return m_session.now().choices; }
+    bool showsSession() const; // else the choices for the next one
+    BridgeChoice bridges() const;
 
     Session &m_session;
     const std::vector<ExitCountry> m_exits;

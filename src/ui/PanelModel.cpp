@@ -238,7 +238,7 @@ QStringList PanelModel::steps() const
 {
     const Snapshot &now = m_session.now();
     QStringList lines;
-    if (now.phase == ConnectionPhase::connecting || now.phase == ConnectionPhase::stale) {
+    if (showsLadder(now.phase)) {
         for (const LadderStep &step : now.ladder)
             lines << Ladder::line(step).translated();
     }
@@ -248,7 +248,7 @@ QStringList PanelModel::steps() const
 QString PanelModel::offer() const
 {
     const Snapshot &now = m_session.now();
-    return now.phase == ConnectionPhase::connecting ? shown(now.climbOffer) : QString();
+    return showsLadder(now.phase) ? shown(now.climbOffer) : QString();
 }
 
 QString PanelModel::exitAddress() const
@@ -268,6 +268,8 @@ QString PanelModel::verification() const
 {
     if (connected() && m_session.now().isChecking)
         return tr("Checking");
+    if (connected() && !m_session.now().torVerified)
+        return tr("Not checked");
     return exitVerified() ? tr("Verified") : tr("Not confirmed");
 }
 
@@ -305,8 +307,11 @@ QString PanelModel::leakHelp() const
                 "A direct connection that skips Tor got no answer, but proxy mode doesn't block such connections");
     else if (leak.kind() == LeakStatus::Kind::exposed)
         traffic
-            = tr("Apps that ignore proxy settings show your real IP (%1). Turn on Strict mode to "
-                 "block them.")
+            = (m_session.now().activeMode == RoutingMode::strict
+                   ? tr(
+                       "Direct connections that skip Tor show your real IP (%1), although Strict mode should block them. Disconnect, or run the leak test again.")
+                   : tr(
+                       "Apps that ignore proxy settings show your real IP (%1). Turn on Strict mode to block them."))
                   .arg(leak.address());
     return traffic + u'\n' + (connected() ? m_session.now().dns : DNSStatus()).text().translated();
 }

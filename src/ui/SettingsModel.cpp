@@ -54,6 +54,13 @@ bool SettingsModel::canSeparateApps() const
     return !m_session.profile().identitiesNote.isEmpty();
 }
 
+QString SettingsModel::separationProblem() const
+{
+    return now().separated == false
+        ? Text::tr("Applications are not separated now: they share circuits.").translated()
+        : QString();
+}
+
 void SettingsModel::setTerminalMode(bool on)
 {
     Choices next = now().choices;

@@ -26,6 +26,7 @@ class SettingsModel : public QObject {
     Q_PROPERTY(bool torLocked READ torLocked NOTIFY changed)
     Q_PROPERTY(bool separateApps READ separateApps WRITE setSeparateApps NOTIFY changed)
     Q_PROPERTY(bool canSeparateApps READ canSeparateApps CONSTANT)
+    Q_PROPERTY(QString separationProblem READ separationProblem NOTIFY changed)
     Q_PROPERTY(QUrl torFolder READ torFolder CONSTANT)
     Q_PROPERTY(QString onComputer READ onComputer CONSTANT)
     Q_PROPERTY(bool lyrebird READ lyrebird NOTIFY changed)
@@ -76,7 +77,8 @@ public:
 
     bool separateApps() const { return now().choices.separateApps; }
     void setSeparateApps(bool on);
-    bool canSeparateApps() const; // whether the system can separate applications
+    bool canSeparateApps() const;      // whether the system can separate applications
+    QString separationProblem() const; // in the running session; empty without one
 
     bool lyrebird() const { return now().transports.lyrebird.has_value(); }
     bool snowflake() const { return now().transports.snowflake.has_value(); }

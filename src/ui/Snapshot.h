@@ -55,7 +55,8 @@ struct Snapshot {
     std::vector<LadderStep> ladder;       // what was tried beside the user's choice
     std::optional<Text> climbOffer;       // why bridges are offered
     bool isAnothers = false;              // the session belongs to another process
-    bool hasTorStopped = false;           // the session of a stale phase has lost its Tor
+    int session = 0; // counts the sessions that were shown: another number, another session
+    bool hasTorStopped = false; // the session of a stale phase has lost its Tor
     bool canCancel = false;
     std::optional<Text> errorMessage;
     quint64 bytesRead = 0; // since Tor started
@@ -69,6 +70,7 @@ struct Snapshot {
     LeakStatus leak;
     DNSStatus dns;
     bool isChecking = false;
+    std::optional<bool> separated; // each application has circuits of its own
     std::optional<qint64> latencyMs;
     std::optional<Text> optimizeStatus;
     bool isOptimizing = false;

@@ -475,7 +475,7 @@ class OneInstanceAndBadInput(LabCase):
         state = self.product.status()
         for field in (
             "strictMode allowLocalNetwork separateApps exitCountry customTorPath bridgeChoice customBridges climb ladder climbOffer bypassApps autoConnect "
-            "optimizeSpeed latencyMs optimizeStatus isOptimizing transports activeBridge terminalMode phase activeMode "
+            "optimizeSpeed separated latencyMs optimizeStatus isOptimizing transports activeBridge terminalMode phase activeMode "
             "bootstrapProgress statusDetail exitIP torVerified leakStatus bytesRead bytesWritten isChecking canCancel "
             "errorMessage dnsStatus passwordlessInstalled startupError circuits circuitError transportDownload "
             "terminalError terminalHint settingsProblems"

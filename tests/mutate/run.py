@@ -3,9 +3,9 @@
 
 usage: run.py [ROOM...] [--count N] [--seed S] [--again] [--all] [--list]
 
-ROOM: a room of src/ (its C++), qml, helper or helper_mac (the root helper's parts); without one all rooms of the logic. The seed
-chooses the lines of N mistakes. Each mistake is built in a clone of the last commit in build/mutate, and run against the tests of
-its room; a mistake of the helper, against the tests that touch its part.
+ROOM: a room of src/ (its C++), qml, helper or helper_mac (the root helper's parts); without one all rooms of the logic: no ui, app, cli,
+qml and helper. The seed chooses the lines of N mistakes. Each mistake is built in a clone of the last commit in build/mutate, and run
+against the tests of its room; a mistake of the helper, against the tests that touch its part.
 
 The next mistake replaces one that does not compile. A mistake is noticed when the same case of a test fails twice, or a test takes
 ten times as long as without it. Those tests first run without a mistake. Tests run behind walls.sh, where a mistake can do no harm.
@@ -50,8 +50,11 @@ LOGIC = (
     "log",
     "terminal",
     "doctor",
+    "report",
     "controller",
     "instance",
+    "identify",
+    "controlfilter",
 )
 # The helper's tests that touch a part; a part that is not listed has all tests.
 TOUCHED = {
@@ -83,6 +86,10 @@ TOUCHED = {
     "torrc": "texts session options control",
 }
 HELPERS = ("helper", "helper_mac")
+# Rooms of programs that the helper starts, and the helper's tests that run the whole program.
+RESIDENT = {"identify": "identities|account", "controlfilter": "control"}
+PROGRAMS = ["veldmark_helper", "veldmark-launch", "veldmark-launch-mac", "veldmark-identify", "veldmark-control"]
+# src/launch has no tests of its own: tests/helper and tests/lab run it.
 ROOMS = LOGIC + ("ui", "app", "cli", "qml") + HELPERS
 LONG = r"/(kill-|trouble|cycles|failures|kill$)"
 NO_HELPER = r"^helper/namespace$"  # tests of the tests' own tools
@@ -111,9 +118,10 @@ class Room:
         )
         if name in HELPERS:
             self.tests = [rf"^{name}/", "^helper_mac/" if name == "helper" else ""]
-            self.targets = [
-                ["veldmark_helper", "veldmark-launch", "veldmark-launch-mac", "veldmark-identify", "veldmark-control"]
-            ] * 2
+            self.targets = [PROGRAMS] * 2
+        elif name in RESIDENT:
+            self.tests = [rf"^(unit/{name}/|helper/({RESIDENT[name]})$)", ""]
+            self.targets = [[f"test-{name}", *PROGRAMS], []]
         elif name in ("qml", "ui"):
             self.tests = [r"^(unit/)?ui/(?!WindowsFit-|accessibility)", "^unit/app/"]
             self.targets = [["test-ui", "suite-ui"], ["test-app"]]
@@ -296,7 +304,7 @@ class Proved:
         parts = (
             ("resources/helper", "tests/helper", "tests/helper_mac")
             if room.name in HELPERS
-            else ("src", "tests/unit", "tests/support", "tests/ui")
+            else ("src", "tests/unit", "tests/support", "tests/ui", "tests/helper")
         )
         state = clone.git(PROJECT, "rev-parse", *(f"{clone.commit}:{part}" for part in parts))
         self.note = ROOT / f"times-{hashlib.sha256(state.encode()).hexdigest()[:12]}.json"

@@ -117,6 +117,15 @@ class Runs(unittest.TestCase):
         self.assertEqual([entry[1:] for entry in first], [entry[1:] for entry in second])
         self.assertNotEqual([entry[1:] for entry in first], [entry[1:] for entry in other])
 
+    def test_every_room_with_unit_tests_is_a_room(self):
+        tested = {folder.name for folder in (run.PROJECT / "tests/unit").iterdir() if (folder / "CMakeLists.txt").is_file()}
+        self.assertIn("report", tested)
+        self.assertEqual(tested - set(run.ROOMS), set())
+        self.assertEqual(tested - set(run.LOGIC), {"ui", "app", "cli"})
+        for name in run.RESIDENT:
+            self.assertRegex(f"unit/{name}/ATest", run.Room(name).tests[0])
+            self.assertRegex("helper/" + run.RESIDENT[name].split("|", maxsplit=1)[0], run.Room(name).tests[0])
+
     def test_every_mistake_changes_one_line_of_a_real_file_and_no_other(self):
         files = [file for name in run.ROOMS for file in run.Room(name).files(run.PROJECT)]
         self.assertGreater(len(files), 100)

@@ -190,6 +190,10 @@ std::vector<Scene> panel()
     s = protectedSession();
     add("connected-strict-verified", s);
     s.activeBridge = BridgeChoice::snowflake;
+    s.transports.snowflake = QStringLiteral("/usr/bin/snowflake-client");
+    s.transports.builtin = {
+        {QStringLiteral("snowflake"), {QStringLiteral("snowflake 192.0.2.3:80")}}};
+    s.transports.source = QStringLiteral("Tor Browser");
     add("connected-strict-bridge", s);
     s = protectedSession();
     s.isOptimizing = true;

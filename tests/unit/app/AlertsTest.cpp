@@ -8,6 +8,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <algorithm>
 #include <cstdio>
 
 using namespace veldmark;
@@ -212,6 +213,64 @@ private Q_SLOTS:
             s.killSwitch = rules(state, 3);
             session.show(s);
             QCOMPARE(told.count(), state == State::open ? 1 : 0); // this session's rules failed now
+        }
+    }
+
+    // Its rules were removed and put back before it took the other's place.
+    void isQuietAboutWhatHappenedToASessionThatReplacesAnother()
+    {
+        using State = KillSwitch::State;
+        for (const ConnectionPhase before : {ConnectionPhase::connected, ConnectionPhase::stale}) {
+            StandInSession session(profile);
+            Alerts alerts(session);
+            QSignalSpy told(&alerts, &Alerts::told);
+            const auto isToldOfRules = [&told] {
+                return std::any_of(told.begin(), told.end(), [](const auto &notification) {
+                    return notification.at(0).toString()
+                        == QStringLiteral("Firewall rules were removed");
+                });
+            };
+            session.show(inPhase(before));
+            Snapshot s = inPhase(ConnectionPhase::stale);
+            s.hasTorStopped = false;
+            s.session = 1;
+            s.killSwitch = rules(State::putBack, 1);
+            session.show(s);
+            QVERIFY(!isToldOfRules());
+            s.killSwitch = rules(State::putBack, 2, 1'800'000'030); // and now it happens again
+            session.show(s);
+            QVERIFY(isToldOfRules());
+        }
+    }
+
+    void countsTheSessionsOfTheComputer()
+    {
+        Workbench bench;
+        ControllerSession session(bench.controller(), *bench.settings, bench.applications);
+        Alerts alerts(session);
+        QSignalSpy told(&alerts, &Alerts::told);
+        QVERIFY(bench.connect());
+        QVERIFY(until([&] {
+            return session.now().phase == ConnectionPhase::connected && !session.now().isChecking;
+        }));
+        const int own = session.now().session;
+        bench.noteRules("restored", 1);
+        QVERIFY(bench.tick());
+        QVERIFY(until([&] { return told.count() == 1; })); // this one's are told
+        QCOMPARE(told.at(0).at(0).toString(), QStringLiteral("Firewall rules were removed"));
+        QCOMPARE(session.now().session, own);
+        // Each is begun by hand, and something has happened to its rules.
+        for (int time = 2; time <= 3; ++time) {
+            bench.renewMarker();
+            bench.noteRules("restored", time, 1'800'000'000 + time * 120);
+            bench.clock.advance(std::chrono::seconds(1));
+            QVERIFY(until([&] { return session.now().session == own + time - 1; }));
+            settle();
+            QVERIFY(session.now().phase == ConnectionPhase::stale && session.now().killSwitch);
+            QCOMPARE(session.now().killSwitch->missed, time);
+            QCOMPARE(told.count(), 2);
+            QCOMPARE(told.at(1).at(0).toString(),
+                     QStringLiteral("Another session has replaced this one"));
         }
     }
 

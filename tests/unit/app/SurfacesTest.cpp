@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
 
 using namespace Qt::StringLiterals;
 using namespace veldmark;
@@ -110,6 +111,38 @@ QString toneOf(const PanelModel &panel)
     return u"danger"_s;
 }
 
+// The panel and the report say the same of the exit.
+bool agreeOnTheExit(const PanelModel &panel, const QStringList &report)
+{
+    const QString name = u"  Exit        "_s;
+    const auto found = std::find_if(report.begin(), report.end(),
+                                    [&name](const QString &line) { return line.startsWith(name); });
+    if (found == report.end())
+        return !panel.connected();
+    const QString said = found->sliced(name.size());
+    const QString shown = panel.verification();
+    if (said == u"checking…"_s)
+        return shown == u"Checking"_s;
+    if (said == u"not checked yet"_s)
+        return shown == u"Not checked"_s && panel.exitAddress() == u"Unknown"_s;
+    if (said == u"the check service didn't answer through Tor"_s)
+        return shown == u"Not confirmed"_s && panel.exitAddress() == u"Unknown"_s;
+    return said
+        == panel.exitAddress()
+        + (shown == u"Verified"_s ? u", a Tor exit"_s : u", NOT a Tor exit"_s);
+}
+
+QStringList tried(const QStringList &report)
+{
+    const QString name = u"  Tried       "_s;
+    QStringList steps;
+    for (const QString &line : report) {
+        if (line.startsWith(name))
+            steps << line.sliced(name.size());
+    }
+    return steps;
+}
+
 } // namespace
 
 // One session on every surface: the published state, the command line's report, the panel, the tray
@@ -123,6 +156,7 @@ private Q_SLOTS:
     void sayTheSameOfEverySession()
     {
         int isProtected = 0;
+        int advised = 0;
         std::map<Verdict::Danger, int> dangers;
         for (const Case &one : cases()) {
             Workbench bench;
@@ -147,6 +181,7 @@ private Q_SLOTS:
             QVERIFY2(toneOf(panel) == state.value(u"level"_s).toString(), name);
             QVERIFY2(panel.detail() == state.value(u"statusDetail"_s).toString(), name);
             QVERIFY2(report.at(1).trimmed() == panel.detail(), name);
+            QVERIFY2(agreeOnTheExit(panel, report), name);
 
             // Every word on show, and the facts that it needs.
             QString words = report.join(u'\n') + panel.title() + panel.detail() + panel.leakText()
@@ -167,6 +202,10 @@ private Q_SLOTS:
                 QVERIFY2(!words.contains(claim) || isLocked, name + ": " + claim.toUtf8());
             for (const QString &claim : {u"No leaks"_s, u"that skip Tor are blocked"_s})
                 QVERIFY2(!words.contains(claim) || isLocked, name);
+            // nobody is told to turn on what is on
+            const bool isAdvised = words.contains(u"Turn on Strict mode"_s);
+            QVERIFY2(!isAdvised || !one.strict, name);
+            advised += isAdvised;
             if (words.contains(u"so nothing leaked"_s))
                 QVERIFY2(one.note == "standing", name);
             if (one.strict && one.note == "open") {
@@ -195,7 +234,7 @@ private Q_SLOTS:
                 && (!one.strict || one.note == "standing");
             QVERIFY2(!isWell || told.isEmpty(), name);
         }
-        QVERIFY(isProtected > 0);
+        QVERIFY(isProtected > 0 && advised > 0);
         QCOMPARE(dangers.size(), std::size_t(7)); // all there are
     }
 
@@ -225,7 +264,7 @@ private Q_SLOTS:
                     && panel.symbol() == state.value(u"menuBarSymbol"_s).toString()
                     && toneOf(panel) == state.value(u"level"_s).toString()
                     && panel.detail() == state.value(u"statusDetail"_s).toString()
-                    && report.at(1).trimmed() == panel.detail();
+                    && report.at(1).trimmed() == panel.detail() && agreeOnTheExit(panel, report);
             };
             QVERIFY(agree());
             bench.setBootstrap("PROGRESS=5 SUMMARY=\"Connecting\"");
@@ -244,6 +283,16 @@ private Q_SLOTS:
             }
             QVERIFY(Workbench::finished(connecting));
             QVERIFY(agree());
+            bench.probe.beforeTorAnswer = [&bench] {
+                return bench.clock.sleep(std::chrono::seconds(1));
+            };
+            const auto checking = c.runChecks();
+            QVERIFY(until([&] { return session.now().isChecking; }));
+            QVERIFY(agree());
+            titles.removeLast();
+            bench.clock.advance(std::chrono::seconds(1));
+            bench.probe.beforeTorAnswer = nullptr;
+            QVERIFY(Workbench::finished(checking));
             bench.writeFile(bench.profile.othersNote, "ufw\n");
             bench.hasCircuit = false;
             bench.setCounters("1000", "200");
@@ -278,6 +327,59 @@ private Q_SLOTS:
                      (QStringList{u"Not Protected"_s, open ? up : u"Connecting…"_s, up,
                                   open ? up : u"Nothing Gets Through"_s, up, u"Disconnecting…"_s,
                                   up, stale, stale}));
+        }
+    }
+
+    void sayTheSameOfWhatWasTried()
+    {
+        for (const bool works : {true, false}) {
+            Workbench bench;
+            TorController &c = bench.controller();
+            ControllerSession session(c, *bench.settings, bench.applications);
+            PanelModel panel(session);
+            c.customBridges.set(u"192.0.2.1:443"_s);
+            c.climb.set(Climb::ask);
+            bench.tor.reply("SETCONF UseBridges=1 Bridge=\"192.0.2.1:443\"", "250 OK\r\n");
+            bench.setBootstrap("PROGRESS=5 TAG=conn SUMMARY=\"Connecting\"");
+            int offers = 0;
+            std::set<qsizetype> counts;
+            const auto agree = [&] {
+                settle();
+                const QStringList report = Report::status(publishedState(c)).split(u'\n');
+                const QString offer = panel.offer().isEmpty()
+                    ? QString()
+                    : u"  Offer       "_s + panel.offer() + u" Try them with: veldmarkctl climb"_s;
+                offers += !offer.isEmpty();
+                counts.insert(panel.steps().size());
+                return session.now().phase == c.phase() && tried(report) == panel.steps()
+                    && (offer.isEmpty() ? report.filter(u"  Offer "_s).isEmpty()
+                                        : report.contains(offer));
+            };
+            const auto connecting = c.connect();
+            QVERIFY(until([&] { return bench.clock.sleepers() == 2; }));
+            for (int second = 0; second < 120 && c.phase() == ConnectionPhase::connecting;
+                 ++second) {
+                QVERIFY(agree());
+                if (c.climbOffer())
+                    QVERIFY(c.takeOffer());
+                if (works && c.ladder().size() == 2)
+                    bench.setBootstrap("PROGRESS=100 TAG=done SUMMARY=\"Done\"");
+                const int before = bench.commandCount(Workbench::bootstrapCommand);
+                bench.clock.advance(std::chrono::seconds(1));
+                QVERIFY(until([&] {
+                    return c.phase() != ConnectionPhase::connecting
+                        || (bench.commandCount(Workbench::bootstrapCommand) > before
+                            && bench.clock.sleepers() == 2);
+                }));
+            }
+            QVERIFY(Workbench::finished(connecting));
+            QVERIFY(c.phase() == (works ? ConnectionPhase::connected : ConnectionPhase::stale));
+            QCOMPARE(c.ladder().size(), std::size_t(2)); // the published state keeps it
+            QVERIFY(agree());
+            QVERIFY(offers > 0 && counts == (std::set<qsizetype>{0, 2}));
+            QCOMPARE(panel.steps().size(), works ? 0 : 2);
+            bench.disconnect();
+            QVERIFY(agree());
         }
     }
 

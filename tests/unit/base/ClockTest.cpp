@@ -67,6 +67,21 @@ private Q_SLOTS:
         QCOMPARE(woken, 1);
     }
 
+    void noCoroutineOutlivesAProgram()
+    {
+        const int waiting = Resumption::waiting();
+        int resumed = 0;
+        const int status = runToCoroutineEnds([&resumed] {
+            const ResumeOnce<bool> told;
+            await(told, &resumed);
+            told.complete(true); // no event loop delivers it
+            return 7;
+        });
+        QCOMPARE(status, 7);
+        QCOMPARE(resumed, 1);
+        QCOMPARE(Resumption::waiting(), waiting);
+    }
+
     void theLastTurnResumesWhatWasToldOfItsEnd()
     {
         int resumed = 0;

@@ -1,5 +1,6 @@
 #include "cli/Commands.h"
 
+#include "cli/ConnectLines.h"
 #include "instance/InstancePlace.h"
 #include "instance/InstanceServer.h"
 #include "support/Computer.h"
@@ -8,9 +9,11 @@
 #include "support/TestProgram.h"
 #include "support/Workbench.h"
 
+#include <QJsonArray>
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <functional>
 #include <optional>
 
 #include <unistd.h>
@@ -216,6 +219,80 @@ private Q_SLOTS:
         settle();
     }
 
+    // Who waits for it is who needs the bridges.
+    void aConnectSaysWhatIsTriedAndOffered()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        c.customBridges.set(u"192.0.2.1:443"_s);
+        c.climb.set(Climb::ask);
+        bench.tor.reply("SETCONF UseBridges=1 Bridge=\"192.0.2.1:443\"", "250 OK\r\n");
+        bench.setBootstrap("PROGRESS=5 TAG=conn SUMMARY=\"Connecting\"");
+        auto server = InstanceServer::start(c);
+        QVERIFY(server);
+        Invocation invocation;
+        invocation.verb = Id::connect;
+        const auto ended = std::make_shared<std::optional<ExitStatus>>();
+        QString said;
+        {
+            const Output output;
+            const auto passesUntil = [&](const std::function<bool()> &condition) {
+                for (int second = 0; second < 60 && !condition(); ++second) {
+                    const int before = bench.commandCount(Workbench::bootstrapCommand);
+                    bench.clock.advance(std::chrono::seconds(1));
+                    static_cast<void>(until([&] {
+                        return bench.commandCount(Workbench::bootstrapCommand) > before
+                            && bench.clock.sleepers() == 2;
+                    }));
+                    settle();
+                }
+            };
+            take(invocation, bench.profile, ended);
+            static_cast<void>(until([&] { return bench.clock.sleepers() == 2; }));
+            passesUntil([&c] { return c.climbOffer().has_value(); });
+            static_cast<void>(c.takeOffer());
+            passesUntil([&c] { return c.ladder().size() == 2; });
+            static_cast<void>(
+                until([&output] { return output.text().contains(u"Being tried…"_s); }));
+            bench.setBootstrap("PROGRESS=100 TAG=done SUMMARY=\"Done\"");
+            bench.clock.advance(std::chrono::seconds(1));
+            static_cast<void>(until([&ended] { return ended->has_value(); }));
+            said = output.text();
+        }
+        QVERIFY(*ended == ExitStatus::done);
+        const QString offer
+            = u"\nTor gets nowhere in this network. Veldmark can try bridges: Your bridges. "
+              "Try them with: veldmarkctl climb\n"_s;
+        QVERIFY2(said.count(offer) == 1, qPrintable(said));
+        const qsizetype direct = said.indexOf(u"\nDirect: No answer. ("_s);
+        QVERIFY2(direct > said.indexOf(offer), qPrintable(said));
+        QCOMPARE(said.count(u"Direct: No answer. ("_s), 1); // it is no part of the final report
+        QCOMPARE(said.count(u"\nYour bridges: Being tried…\n"_s), 1);
+        QVERIFY(said.contains(u"\n  Bridges     custom"_s));
+        server->reset();
+        settle();
+    }
+
+    // Its attempt is over.
+    void aConnectThatDoesNotBeginSaysNothingOfAnEarlierOne()
+    {
+        ConnectLines lines;
+        QJsonObject state{
+            {u"phase"_s, u"stale"_s},
+            {u"ladder"_s,
+             QJsonArray{QJsonObject{
+                 {u"rung"_s, u"direct"_s}, {u"result"_s, u"No answer."_s}, {u"seconds"_s, 15}}}}};
+        const auto said = [&lines](const QJsonObject &shown) {
+            const Output output;
+            lines.show(shown);
+            return output.text();
+        };
+        QCOMPARE(said(state), QString());
+        static_cast<void>(said({{u"phase"_s, u"connecting"_s}}));
+        QCOMPARE(said(state), u"Direct: No answer. (15 s)\n"_s); // this attempt has failed
+        QCOMPARE(said(state), QString());
+    }
+
     void aDownloadThroughARunningInstanceEndsWithItsOutcome()
     {
         Workbench bench;
@@ -319,6 +396,26 @@ private Q_SLOTS:
         QVERIFY2(errors.text().contains(u"/none can't be read: "_s), qPrintable(errors.text()));
         if (running)
             server->reset();
+        settle();
+    }
+
+    // The instance has bridges that it could not save.
+    void addsBridgesToThoseOfTheRunningInstance()
+    {
+        Workbench bench;
+        bench.writeFile(bench.folder.filePath(u"blocked"_s));
+        bench.profile.settingsFile = bench.folder.filePath(u"blocked/veldmark.conf"_s);
+        bench.restart();
+        static_cast<void>(bench.controller().customBridges.set(u"192.0.2.9:443"_s));
+        QVERIFY(SettingsStore(bench.profile).string(u"customBridges"_s).isEmpty());
+        auto server = InstanceServer::start(bench.controller());
+        QVERIFY(server);
+        const QString mail = bench.folder.filePath(u"mail"_s);
+        Computer::write(mail, "192.0.2.1:443\n");
+        // that it cannot save them was told before
+        QVERIFY(outcome(Id::addBridges, bench.profile, mail) == ExitStatus::done);
+        QCOMPARE(bench.controller().customBridges(), u"192.0.2.9:443\n192.0.2.1:443"_s);
+        server->reset();
         settle();
     }
 };

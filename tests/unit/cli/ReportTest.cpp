@@ -48,14 +48,34 @@ private Q_SLOTS:
         QVERIFY(!none.contains(QStringLiteral("a Tor exit")));
     }
 
-    // It was measured before.
-    void showsNoLatencyWhileNothingGetsThrough()
+    // The last result no longer counts, as in the windows.
+    void saysThatTheExitIsBeingChecked()
     {
-        QVERIFY(Report::status(object(R"({"phase":"connected","latencyMs":182,"stall":null})"))
-                    .contains(QStringLiteral("182 ms through Tor")));
-        QVERIFY(
-            !Report::status(object(R"({"phase":"connected","latencyMs":182,"stall":"noCircuit"})"))
-                 .contains(QStringLiteral("182 ms")));
+        QJsonObject state = object(
+            R"({"phase":"connected","exitIP":"203.0.113.9","torVerified":true,"isChecking":false})");
+        QVERIFY(Report::status(state).contains(
+            QStringLiteral("\n  Exit        203.0.113.9, a Tor exit\n")));
+        state.insert(QStringLiteral("isChecking"), true);
+        QVERIFY(Report::status(state).contains(QStringLiteral("\n  Exit        checking…\n")));
+    }
+
+    void saysThatApplicationsShareCircuits()
+    {
+        const QString row = QStringLiteral(
+            "\n  Circuits    Applications are not separated now: they share circuits.");
+        QVERIFY(Report::status(object(R"({"phase":"connected","separated":false})")).contains(row));
+        for (const char *state :
+             {R"({"phase":"connected","separated":true})",
+              R"({"phase":"connected","separated":null})", R"({"phase":"connected"})"})
+            QVERIFY2(!Report::status(object(state)).contains(row), state);
+    }
+
+    void showsTheLatency()
+    {
+        QVERIFY(Report::status(object(R"({"phase":"connected","latencyMs":182})"))
+                    .contains(QStringLiteral("\n  Latency     182 ms through Tor\n")));
+        QVERIFY(!Report::status(object(R"({"phase":"connected","latencyMs":null})"))
+                     .contains(QStringLiteral("Latency")));
     }
 
     void showsWhatLeaks()
@@ -189,6 +209,29 @@ private Q_SLOTS:
             object(R"({"phase":"connecting","climbOffer":null,"ladder":[]})"));
         QVERIFY(!without.contains(QStringLiteral("Tried"))
                 && !without.contains(QStringLiteral("Offer")));
+    }
+
+    // As long as the windows.
+    void whatWasTriedIsShownUntilTorHasConnected()
+    {
+        QJsonObject state = object(
+            R"({"climbOffer":"Bridges.","ladder":[{"rung":"direct","result":"No answer.","seconds":15}]})");
+        for (const auto &[phase, isShown] : {std::pair{"connecting", true},
+                                             {"stale", true},
+                                             {"connected", false},
+                                             {"disconnecting", false},
+                                             {"disconnected", false},
+                                             {"of a later version", false}}) {
+            state.insert(QStringLiteral("phase"), QLatin1String(phase));
+            QVERIFY2(Report::status(state).contains(
+                         QStringLiteral("\n  Tried       Direct: No answer. (15 s)"))
+                         == isShown,
+                     phase);
+            QVERIFY2(Report::status(state).contains(QStringLiteral("\n  Offer ")) == isShown,
+                     phase);
+            QCOMPARE(Report::steps(state).size(), isShown ? 1 : 0);
+            QCOMPARE(Report::offer(state).isEmpty(), !isShown);
+        }
     }
 
     void drawsACircuitAsAPath()

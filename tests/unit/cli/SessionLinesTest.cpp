@@ -243,6 +243,10 @@ private Q_SLOTS:
             bench.noteRules("open", 1);
             bench.clock.advance(std::chrono::seconds(2));
             settle();
+            bench.setBootstrap("PROGRESS=10 SUMMARY=\"Handshaking\"");
+            bench.clock.advance(std::chrono::seconds(1));
+            static_cast<void>(until([&] { return bench.controller().bootstrapProgress() > 0.09; }));
+            settle();
             warned = errors.text();
             said = output.text();
         }
@@ -250,6 +254,10 @@ private Q_SLOTS:
                  u"veldmarkctl: Kill Switch Failed: Traffic may leave this computer directly\n"_s);
         QVERIFY(said.contains(u"  5%  Connecting\n"_s));
         QVERIFY(!said.contains(u"Kill switch"_s));
+        // as `veldmarkctl connect` and the windows say it
+        QVERIFY2(said.endsWith(u" 10%  Traffic may leave this computer directly\n"_s),
+                 qPrintable(said));
+        QVERIFY(!said.contains(u"Handshaking"_s));
     }
 };
 

@@ -17,20 +17,22 @@ private Q_SLOTS:
         QVERIFY(bench.connect());
         QCOMPARE(c.exitIP().value(), u"203.0.113.10"_s);
         QVERIFY(c.torVerified().value());
+        QCOMPARE(c.latencyMs().value(), qint64(0));
         bench.probe.torAnswer = IPCheck{true, u"203.0.113.20"_s};
         bench.probe.beforeTorAnswer = [&bench] {
             return bench.clock.sleep(std::chrono::seconds(1));
         };
         const int direct = bench.probe.directProbes;
         const auto renewing = c.newIdentity();
-        QVERIFY(!c.exitIP() && !c.torVerified());
+        QVERIFY(!c.exitIP() && !c.torVerified() && !c.latencyMs());
         QVERIFY(Workbench::finished(renewing));
-        QVERIFY(c.isChecking() && !c.exitIP());
+        QVERIFY(c.isChecking() && !c.exitIP() && !c.latencyMs());
         QVERIFY(c.leakStatus() == LeakStatus::blocked()); // nothing has changed there
         bench.clock.advance(std::chrono::seconds(1));
         QVERIFY(until([&] { return !c.isChecking(); }));
         QCOMPARE(c.exitIP().value(), u"203.0.113.20"_s);
         QVERIFY(c.torVerified().value());
+        QCOMPARE(c.latencyMs().value(), qint64(1000)); // through the new exit
         // the check service must not see the new exit and the real address together
         QCOMPARE(bench.probe.directProbes, direct);
     }

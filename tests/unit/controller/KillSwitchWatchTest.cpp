@@ -1,4 +1,5 @@
 #include "controller/PublishedState.h"
+#include "support/ListeningSocket.h"
 #include "support/TestProgram.h"
 #include "support/Workbench.h"
 
@@ -55,6 +56,48 @@ private Q_SLOTS:
         QCOMPARE(c.title(), u"Protected"_s);
         bench.disconnect();
         QVERIFY(!c.killSwitch());
+    }
+
+    // The same watch looks at the identities.
+    void saysWhetherApplicationsAreSeparated()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        const auto published = [&c] { return publishedState(c).value(u"separated"_s); };
+        QVERIFY(published().isNull());
+        QVERIFY(bench.connect());
+        QCOMPARE(published(), QJsonValue(false)); // the program was not started
+        bench.writeFile(bench.profile.identitiesNote, "identities 1\nstanding\nend 1\n");
+        {
+            const ListeningSocket program(bench.profile.identitiesSocket);
+            QVERIFY(bench.tick());
+            QCOMPARE(published(), QJsonValue(true));
+            bench.writeFile(bench.profile.identitiesNote); // it is being written
+            QVERIFY(bench.tick());
+            QCOMPARE(published(), QJsonValue(true));
+            bench.writeFile(bench.profile.identitiesNote, "identities 2\nlost\nend 2\n");
+            QVERIFY(bench.tick());
+            QCOMPARE(published(), QJsonValue(false));
+            bench.writeFile(bench.profile.identitiesNote, "identities 3\nstanding\nend 3\n");
+            bench.disconnect();
+            QVERIFY(published().isNull() && !c.separated());
+            QVERIFY(bench.connect());
+            QCOMPARE(published(), QJsonValue(true)); // at once
+        }
+        QVERIFY(bench.tick()); // it has ended
+        QCOMPARE(published(), QJsonValue(false));
+        bench.disconnect();
+        c.separateApps.set(false);
+        QVERIFY(bench.connect());
+        QVERIFY(published().isNull());
+    }
+
+    void aSystemThatCannotSeparateThemSaysNothing()
+    {
+        Workbench bench(Workbench::System::macos);
+        QVERIFY(bench.connect());
+        QVERIFY(bench.tick());
+        QVERIFY(!bench.controller().separated());
     }
 
     void proxyModeHasNoneAndShowsNoLeftoverNote()

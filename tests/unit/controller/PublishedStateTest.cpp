@@ -31,7 +31,7 @@ private Q_SLOTS:
         Workbench bench;
         const QStringList fields
             = u"strictMode allowLocalNetwork separateApps exitCountry customTorPath bridgeChoice customBridges climb ladder climbOffer "
-              "bypassApps autoConnect optimizeSpeed latencyMs optimizeStatus isOptimizing transports activeBridge "
+              "bypassApps autoConnect optimizeSpeed separated latencyMs optimizeStatus isOptimizing transports activeBridge "
               "terminalMode phase phaseChanges activeMode bootstrapProgress statusDetail bootstrapProblem killSwitch killSwitchSince exitIP torVerified leakStatus "
               "bytesRead bytesWritten stall denyingFirewalls isChecking otherSession canCancel errorMessage dnsStatus passwordlessInstalled startupError circuits "
               "circuitError transportDownload terminalError terminalHint settingsProblems title menuBarSymbol level"_s

@@ -370,6 +370,43 @@ private Q_SLOTS:
         session.show(s);
         QVERIFY(!options.strictMode());
     }
+
+    // The ladder has led to other bridges than the chosen ones, or the choice was stored for the
+    // next session.
+    void showsTheBridgesOfTheRunningSession()
+    {
+        StandInSession session(profile);
+        OptionsModel options(session);
+        Snapshot s;
+        s.transports.lyrebird = QStringLiteral("/usr/bin/lyrebird");
+        s.transports.builtin = {
+            {QStringLiteral("obfs4"), {QStringLiteral("obfs4 192.0.2.1:443 cert=a")}}};
+        s.transports.source = QStringLiteral("Tor Browser");
+        s.choices.bridgeChoice = BridgeChoice::off;
+        s.activeBridge = BridgeChoice::obfs4;
+        const QString note = QStringLiteral("Built-in bridges from Tor Browser");
+        const QString chosen = QStringLiteral("Off");
+        const QString used = QStringLiteral("obfs4 (built-in)");
+        for (const auto &[phase, isUsed] : {std::pair{ConnectionPhase::connecting, false},
+                                            {ConnectionPhase::connected, true},
+                                            {ConnectionPhase::disconnecting, true},
+                                            {ConnectionPhase::stale, false}}) {
+            s.phase = phase;
+            session.show(s);
+            QCOMPARE(options.bridgeNames().at(options.bridgeIndex()), isUsed ? used : chosen);
+            QCOMPARE(options.bridgeNote(), isUsed ? note : QString());
+        }
+        s.phase = ConnectionPhase::connected;
+        s.activeBridge = BridgeChoice::custom;
+        session.show(s);
+        QVERIFY(options.customChosen());
+        s.transports = {};
+        s.choices.bridgeChoice = BridgeChoice::obfs4; // a session without bridges
+        s.activeBridge.reset();
+        session.show(s);
+        QCOMPARE(options.bridgeNames().at(options.bridgeIndex()), chosen);
+        QVERIFY(!options.needsDownload() && options.bridgeNote().isEmpty());
+    }
 };
 
 VELDMARK_WINDOWED_TEST(OptionsModelTest)

@@ -87,8 +87,7 @@ private Q_SLOTS:
                      isShown ? QStringList({QStringLiteral("Direct: No answer. (15 s)"),
                                             QStringLiteral("obfs4: Being tried…")})
                              : QStringList());
-            QCOMPARE(panel.offer(),
-                     phase == ConnectionPhase::connecting ? s.climbOffer->english() : QString());
+            QCOMPARE(panel.offer(), isShown ? s.climbOffer->english() : QString());
         }
         panel.takeOffer();
         QCOMPARE(session.asked, QStringList(QStringLiteral("takeOffer")));
@@ -452,6 +451,10 @@ private Q_SLOTS:
         s.exitIP.reset();
         session.show(s);
         QCOMPARE(panel.exitAddress(), QStringLiteral("Unknown"));
+        s.torVerified.reset(); // nobody has asked, so it is no bad answer
+        session.show(s);
+        QCOMPARE(panel.verification(), QStringLiteral("Not checked"));
+        QVERIFY(!panel.exitVerified());
         s.isChecking = true;
         session.show(s);
         QCOMPARE(panel.exitAddress(), QStringLiteral("Checking"));
@@ -495,6 +498,21 @@ private Q_SLOTS:
         QCOMPARE(panel.leakText(), QStringLiteral("DNS leak"));
         QCOMPARE(panel.leakHelp(),
                  help + QStringLiteral("\nDNS can go around Tor via: 192.168.1.1 on en0"));
+    }
+
+    // Strict mode is on already, and its switch is locked.
+    void whoIsExposedInStrictModeIsNotToldToTurnItOn()
+    {
+        StandInSession session(profile);
+        PanelModel panel(session);
+        Snapshot s = connected(RoutingMode::strict);
+        s.leak = LeakStatus::exposed(QStringLiteral("198.51.100.1"));
+        session.show(s);
+        QCOMPARE(
+            panel.leakHelp(),
+            QStringLiteral(
+                "Direct connections that skip Tor show your real IP (198.51.100.1), although Strict mode should block them. "
+                "Disconnect, or run the leak test again.\nDNS: not tested yet."));
     }
 
     void saysNoLeaksOnlyWhereTheRulesWereSeen()

@@ -142,6 +142,23 @@ private Q_SLOTS:
         QVERIFY(settings.openAtLogin());
     }
 
+    void saysWhereApplicationsShareCircuitsNevertheless()
+    {
+        StandInSession session(profile);
+        SettingsModel settings(session);
+        Snapshot s;
+        s.phase = ConnectionPhase::connected;
+        for (const std::optional<bool> separated : {std::optional<bool>(), std::optional(true)}) {
+            s.separated = separated;
+            session.show(s);
+            QCOMPARE(settings.separationProblem(), QString());
+        }
+        s.separated = false;
+        session.show(s);
+        QCOMPARE(settings.separationProblem(),
+                 QStringLiteral("Applications are not separated now: they share circuits."));
+    }
+
     void theTorOfAConnectionIsLocked()
     {
         StandInSession session(profile);

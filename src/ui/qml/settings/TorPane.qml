@@ -49,7 +49,8 @@ Pane {
         SwitchRow {
             symbol: "arrow.triangle.branch"
             title: qsTr("Separate applications")
-            subtitle: pane.model.torLocked ? qsTr("Disconnect to change") : qsTr("Each application has circuits of its own")
+            subtitle: pane.model.separationProblem !== "" ? pane.model.separationProblem
+                : pane.model.torLocked ? qsTr("Disconnect to change") : qsTr("Each application has circuits of its own")
             on: pane.model.separateApps
             enabled: !pane.model.torLocked
             onWanted: on => pane.model.separateApps = on
