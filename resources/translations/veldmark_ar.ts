@@ -3877,8 +3877,8 @@ name in the same session has the same ones</source>
         <translation>لم تتم الموافقة على ⁨%1⁩.</translation>
     </message>
     <message>
-        <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
-        <translation>⁨%1⁩ ليس من برامج النظام، ولذلك تلزم الموافقة عليه، ولا توجد طرفية للسؤال فيها. شغّل «⁨sudo veldmarkctl run --connect⁩» في طرفية.</translation>
+        <source>%1 is not a program of the system, so an administrator has to approve it, but this command has no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
+        <translation>⁨%1⁩ ليس من برامج النظام، ولذلك تلزم موافقة مدير النظام عليه، لكن ليس لهذا الأمر طرفية للسؤال فيها. شغّل «⁨sudo veldmarkctl run --connect⁩» في طرفية.</translation>
     </message>
     <message>
         <source>%1 needs the name of a file.</source>

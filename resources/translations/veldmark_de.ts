@@ -3857,8 +3857,8 @@ hat es in derselben Sitzung später dieselben</translation>
         <translation>%1 wurde nicht zugelassen.</translation>
     </message>
     <message>
-        <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
-        <translation>%1 ist kein Programm des Systems und muss zugelassen werden, aber es gibt kein Terminal, in dem danach gefragt werden kann. Führen Sie „sudo veldmarkctl run --connect“ in einem Terminal aus.</translation>
+        <source>%1 is not a program of the system, so an administrator has to approve it, but this command has no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
+        <translation>%1 ist kein Programm des Systems, daher muss ein Administrator es zulassen, aber dieser Befehl hat kein Terminal, in dem er danach fragen kann. Führen Sie „sudo veldmarkctl run --connect“ in einem Terminal aus.</translation>
     </message>
     <message>
         <source>%1 needs the name of a file.</source>

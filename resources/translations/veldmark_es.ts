@@ -3857,8 +3857,8 @@ el mismo nombre en la misma sesión, tiene los mismos</translation>
         <translation>%1 no se aprobó.</translation>
     </message>
     <message>
-        <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
-        <translation>%1 no es un programa del sistema y alguien tiene que aprobarlo, pero no hay ningún terminal donde preguntarlo. Ejecute «sudo veldmarkctl run --connect» en un terminal.</translation>
+        <source>%1 is not a program of the system, so an administrator has to approve it, but this command has no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
+        <translation>%1 no es un programa del sistema, por lo que un administrador tiene que aprobarlo, pero este comando no tiene ningún terminal donde preguntarlo. Ejecute «sudo veldmarkctl run --connect» en un terminal.</translation>
     </message>
     <message>
         <source>%1 needs the name of a file.</source>

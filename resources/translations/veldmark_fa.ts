@@ -3852,8 +3852,8 @@ name in the same session has the same ones</source>
         <translation>⁨%1⁩ تأیید نشد.</translation>
     </message>
     <message>
-        <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
-        <translation>⁨%1⁩ برنامهٔ سیستم نیست و کسی باید آن را تأیید کند، اما پایانه‌ای برای پرسیدن نیست. «⁨sudo veldmarkctl run --connect⁩» را در یک پایانه اجرا کنید.</translation>
+        <source>%1 is not a program of the system, so an administrator has to approve it, but this command has no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
+        <translation>⁨%1⁩ برنامهٔ سیستم نیست و مدیر باید آن را تأیید کند، اما این دستور پایانه‌ای برای پرسیدن ندارد. «⁨sudo veldmarkctl run --connect⁩» را در یک پایانه اجرا کنید.</translation>
     </message>
     <message>
         <source>%1 needs the name of a file.</source>

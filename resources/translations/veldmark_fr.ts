@@ -3857,8 +3857,8 @@ le même nom dans la même session donne les mêmes circuits</translation>
         <translation>%1 n’a pas été approuvé.</translation>
     </message>
     <message>
-        <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
-        <translation>%1 n’est pas un programme du système ; quelqu’un doit donc l’approuver, et il n’y a pas de terminal où le demander. Exécutez « sudo veldmarkctl run --connect » dans un terminal.</translation>
+        <source>%1 is not a program of the system, so an administrator has to approve it, but this command has no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
+        <translation>%1 n’est pas un programme du système ; un administrateur doit donc l’approuver, mais cette commande n’a pas de terminal où le demander. Exécutez « sudo veldmarkctl run --connect » dans un terminal.</translation>
     </message>
     <message>
         <source>%1 needs the name of a file.</source>

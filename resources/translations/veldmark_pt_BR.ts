@@ -3857,8 +3857,8 @@ o mesmo nome na mesma sessão usa os mesmos circuitos</translation>
         <translation>%1 não foi aprovado.</translation>
     </message>
     <message>
-        <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
-        <translation>%1 não é um programa do sistema, por isso alguém precisa aprová-lo, e não há terminal em que perguntar. Execute “sudo veldmarkctl run --connect” em um terminal.</translation>
+        <source>%1 is not a program of the system, so an administrator has to approve it, but this command has no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
+        <translation>%1 não é um programa do sistema, por isso um administrador precisa aprová-lo, mas este comando não tem um terminal em que perguntar. Execute “sudo veldmarkctl run --connect” em um terminal.</translation>
     </message>
     <message>
         <source>%1 needs the name of a file.</source>

@@ -3862,8 +3862,8 @@ name in the same session has the same ones</source>
         <translation>Файл %1 не одобрен.</translation>
     </message>
     <message>
-        <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
-        <translation>%1 — не программа системы, поэтому её нужно одобрить, а терминала, в котором можно об этом спросить, нет. Выполните «sudo veldmarkctl run --connect» в терминале.</translation>
+        <source>%1 is not a program of the system, so an administrator has to approve it, but this command has no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
+        <translation>%1 — не программа системы, поэтому её должен одобрить администратор, но у этой команды нет терминала, в котором можно об этом спросить. Выполните «sudo veldmarkctl run --connect» в терминале.</translation>
     </message>
     <message>
         <source>%1 needs the name of a file.</source>

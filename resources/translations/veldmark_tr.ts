@@ -3852,8 +3852,8 @@ aynı adla yapılan sonraki çalıştırma aynı devreleri kullanır</translatio
         <translation>%1 onaylanmadı.</translation>
     </message>
     <message>
-        <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
-        <translation>%1 sistemin bir programı değil, bu yüzden birinin onu onaylaması gerekiyor ve bunu soracak bir uçbirim yok. Bir uçbirimde “sudo veldmarkctl run --connect” komutunu çalıştırın.</translation>
+        <source>%1 is not a program of the system, so an administrator has to approve it, but this command has no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
+        <translation>%1 sistemin bir programı değil, bu yüzden bir yöneticinin onu onaylaması gerekiyor ama bu komutun bunu soracağı bir uçbirimi yok. Bir uçbirimde “sudo veldmarkctl run --connect” komutunu çalıştırın.</translation>
     </message>
     <message>
         <source>%1 needs the name of a file.</source>

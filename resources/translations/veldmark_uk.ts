@@ -3862,8 +3862,8 @@ name in the same session has the same ones</source>
         <translation>Програму %1 не схвалено.</translation>
     </message>
     <message>
-        <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
-        <translation>%1 — не програма системи, тому її треба схвалити, а термінала, у якому можна про це запитати, немає. Виконайте «sudo veldmarkctl run --connect» у терміналі.</translation>
+        <source>%1 is not a program of the system, so an administrator has to approve it, but this command has no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
+        <translation>%1 — не програма системи, тому її має схвалити адміністратор, але ця команда не має термінала, у якому можна про це запитати. Виконайте «sudo veldmarkctl run --connect» у терміналі.</translation>
     </message>
     <message>
         <source>%1 needs the name of a file.</source>

@@ -3852,8 +3852,8 @@ name in the same session has the same ones</source>
         <translation>%1 未获批准。</translation>
     </message>
     <message>
-        <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
-        <translation>%1 不是系统的程序，需要有人批准，但没有可供询问的终端。请在终端中运行“sudo veldmarkctl run --connect”。</translation>
+        <source>%1 is not a program of the system, so an administrator has to approve it, but this command has no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
+        <translation>%1 不是系统的程序，需要管理员批准，但此命令没有可供询问的终端。请在终端中运行“sudo veldmarkctl run --connect”。</translation>
     </message>
     <message>
         <source>%1 needs the name of a file.</source>

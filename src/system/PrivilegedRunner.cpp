@@ -366,7 +366,7 @@ QCoro::Task<Result<void, HelperError>> PrivilegedRunner::askRoot(
     if (answer == Answer::nobodyThere)
         co_return Failure(HelperError::failed(
             Text::tr(
-                "%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run \"sudo veldmarkctl run --connect\" in a terminal.")
+                "%1 is not a program of the system, so an administrator has to approve it, but this command has no terminal to ask on. Run \"sudo veldmarkctl run --connect\" in a terminal.")
                 .arg(program)));
     co_return Result<void, HelperError>{};
 }

@@ -140,7 +140,7 @@ class Firewall(HelperTest):
             self.assertTrue(self.control_port(int(self.machine.tor_uid)))
             self.assertFalse(self.control_port(4243))
 
-    def test_firewall_is_not_opened_while_somebody_changes_it(self):
+    def test_firewall_is_not_opened_while_another_process_changes_it(self):
         """The watcher may be putting the rules back: a disconnect waits until it has finished."""
         self.machine.connect(strict=1)
         holder = self.machine.hold("/run/veldmark.rules")

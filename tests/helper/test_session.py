@@ -481,7 +481,7 @@ class ResolverFile(HelperTest):
         self.machine.help("disconnect")
         self.assertEqual(self.machine.shell("ls -d /run/nowhere || true"), "")
 
-    def test_somebody_elses_mount_below_ours_stays(self):
+    def test_a_foreign_mount_below_ours_stays(self):
         self.cycle(
             "rm -f /etc/resolv.conf; echo >/etc/resolv.conf; echo 'nameserver 192.0.2.8' >/run/theirs;"
             "mount --bind /run/theirs /etc/resolv.conf"

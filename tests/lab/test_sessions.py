@@ -156,12 +156,10 @@ class Sessions(LabCase):
             return self.lab.host.run(["sudo", "-n", self.root.ctl, *words], user="alice")
 
         self.assertEqual(sudo("set", "customTorPath", "/home/alice/tor").returncode, 0)
-        # Not a program of the system's: whoever types sudo's password sees what it is given for, and is asked.
+        # Not a program of the system's: the user who types sudo's password sees what it is given for, and is asked.
         without = self.lab.host.run(["setsid", "--wait", "sudo", "-n", self.root.ctl, "run", "--connect"], user="alice", timeout=60)
         self.assertEqual(without.returncode, 1)
-        self.assertIn(
-            "/home/alice/tor is not a program of the system, so somebody has to approve it, and there is no", without.stderr
-        )
+        self.assertIn("/home/alice/tor is not a program of the system, so an administrator has to approve it, but", without.stderr)
         digest = hashlib.sha256(self.lab.host.path("/home/alice/tor").read_bytes()).hexdigest()
         for typed, status, words in ((b"no\n", 1, "/home/alice/tor was not approved."), (b"\x03", 0, "")):
             with self.subTest(typed=typed), self.sudo_at_a_terminal("run", "--connect") as (running, terminal):

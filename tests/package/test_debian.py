@@ -366,7 +366,7 @@ class Removed(Case):
         self.assert_network_is_whole()
         self.assertFalse(self.debian.path("/var/lib/veldmark/leaving.sh").exists())
 
-    def test_somebody_elses_account_of_that_name_stays(self):
+    def test_a_foreign_account_of_that_name_stays(self):
         self.debian.shell("useradd --system --comment 'Not yours' _veldmark")
         self.dpkg("--purge", "veldmark", check=True, timeout=120)
         self.assertIn("Not yours", self.debian.shell("getent passwd _veldmark"))

@@ -434,7 +434,7 @@ private Q_SLOTS:
         QCOMPARE(bench.helperRunCount(u"connect"_s), 1);
     }
 
-    void whoeverHearsOfTheConnectionMayEndItAtOnce()
+    void anObserverOfThePhaseMayDisconnectAtOnce()
     {
         Workbench bench;
         TorController &c = bench.controller();

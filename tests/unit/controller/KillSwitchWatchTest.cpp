@@ -302,7 +302,7 @@ private Q_SLOTS:
         QVERIFY(!c.errorMessage());
     }
 
-    void aSessionThatSomebodyElseTurnedOrEndedIsNeverCalledProtected()
+    void aSessionThatAnotherProcessTurnedOrEndedIsNeverCalledProtected()
     {
         for (const bool isEnded : {false, true}) {
             Workbench bench;
@@ -434,7 +434,7 @@ private Q_SLOTS:
         QCOMPARE(c.errorMessage().value(), openDeath);
     }
 
-    void aNetworkThatSomebodyElseRestoresIsNoLongerStale()
+    void aNetworkThatAnotherProcessRestoresIsNoLongerStale()
     {
         Workbench bench;
         TorController &c = bench.controller();

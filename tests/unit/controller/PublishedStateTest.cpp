@@ -184,7 +184,7 @@ private Q_SLOTS:
         QCOMPARE(inUsersLanguage(kept, texts), kept); // a text that the state omits
     }
 
-    void soAreItsListsOfTexts()
+    void itsListsOfTextsAreInTheUsersLanguageToo()
     {
         Workbench bench;
         bench.writeFile(bench.profile.settingsFile, QByteArray("\0\xff=", 3)); // damaged
