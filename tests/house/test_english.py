@@ -6,7 +6,8 @@ import unittest
 from pathlib import Path
 
 PROJECT = Path(__file__).resolve().parents[2]
-WRONG = re.compile(r"whoever|somebody|\bas\s+ever\b", re.IGNORECASE)
+# The noun "lookup" is one word; the verb "look up" is two.
+WRONG = re.compile(r"whoever|somebody|\bas\s+ever\b|\blook[-_ ]ups\b|\blook-up\b|_look_ups?(?![a-z])|(?-i:lookUps)", re.IGNORECASE)
 TOP = "README.md", "CONTRIBUTING.md", "CHANGELOG.md", "CMakeLists.txt", "build.sh", ".ci/run"
 FOLDERS = "bench", "cmake", "docs", "fuzz", "packaging", "resources", "src", "tests", "tools"
 # Translations have their English from src; the fuzzers' inputs are data.
@@ -41,6 +42,11 @@ class English(unittest.TestCase):
             ("Whoever asks\nwaits as\never; as everybody", [(1, "Whoever"), (2, "as\never")]),
             ('tr("so somebody has to approve it"); // as\n// ever', [(1, "somebody"), (1, "as\n ever")]),
             ("def test_not_for_somebody_else(self):\n    pass  # as\n    # ever", [(1, "somebody"), (2, "as\n     ever")]),
+            (
+                "chain look_ups {\na look-up, two look ups, test_look_up_by_name",
+                [(1, "look_ups"), (2, "look-up"), (2, "look ups"), (2, "_look_up")],
+            ),
+            ("programs look up names; it looks up one lookup, and lookups; look_up(name)", []),
             ("void theSessionOfSomebodyElse()", [(1, "Somebody")]),
         ):
             found = wrong(text)
