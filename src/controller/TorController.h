@@ -536,7 +536,7 @@ private:
     quint64 m_circuitReading = 0;     // the last refresh that began
     quint64 m_readCircuits = 0;       // the newest refresh that was answered
     quint64 m_shownCircuits = 0;      // the refresh that `circuits` is from
-    bool m_isSettingUpHelper = false; // password-free mode is being set up or removed
+    bool m_isSettingUpHelper = false; // passwordless mode is being set up or removed
     QStringList m_launching;          // applications that are being opened to bypass Tor
     QStringList m_pendingBridgeLines; // of the connection being set up
     QStringList m_activeBridgeLines;  // of the running session

@@ -205,7 +205,7 @@ json.dump(held, open("/home/alice/descriptors", "w"))
             "a folder": dict(app="/usr", words="no such application"),
             "no entry": dict(app="/usr/local/share/nothing.desktop", words="cannot be read"),
             "a link look-alike": dict(app="/usr/local/bin/-x", words="no such application"),
-            "password-free": dict(
+            "passwordless": dict(
                 app="/usr/local/bin/probe", caller=f"SUDO_UID={USER_UID}", helper=INSTALLED, words="password is needed"
             ),
             "passwordless for another user": dict(

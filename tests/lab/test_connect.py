@@ -280,7 +280,7 @@ class AnOrdinaryUser(LabCase):
         self.assert_restored()
 
     def test_a_hostile_program_does_not_have_an_open_network_called_protected(self):
-        """It is the user's, in password-free mode. It may not lessen the session. It may end it, and takes Tor's place at once."""
+        """It is the user's, in passwordless mode. It may not lessen the session. It may end it, and takes Tor's place at once."""
         self.as_root.run_helper("install-privileged", "--user", self.lab.host.user, check=True)
         self.addCleanup(self.as_root.run_helper, "uninstall-privileged", check=True)
         self.before = self.lab.host.snapshot()

@@ -22,7 +22,7 @@ from veldlab.product import Product, is_probed  # noqa: E402
 
 
 class Sessions(LabCase):
-    """alice has the password-free rule. Root is the other user, and an administrator."""
+    """alice has the passwordless rule. Root is the other user, and an administrator."""
 
     @classmethod
     def setUpClass(cls):

@@ -272,7 +272,7 @@ class Upgraded(Case):
                 self.assertEqual(session.interrupt(), 0, session.output)  # with the later version's helper
             self.assert_network_is_whole()
 
-    def test_the_password_free_copy_is_known_to_be_outdated(self):
+    def test_the_passwordless_copy_is_known_to_be_outdated(self):
         self.debian.run([HELPER, "install-privileged", "--user", "alice"], check=True)
         copy = "/usr/local/libexec/veldmark/veldmark-helper.sh"
         self.debian.run(["cmp", HELPER, copy], check=True)

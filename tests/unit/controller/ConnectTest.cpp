@@ -237,7 +237,7 @@ private Q_SLOTS:
         }
     }
 
-    // The password-free rule allows only the same session again.
+    // The passwordless rule allows only the same session again.
     void aStrictSessionThatIsBegunAgainIsTheSame()
     {
         Workbench bench;
