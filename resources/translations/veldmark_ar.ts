@@ -3015,13 +3015,13 @@
         <translation>سجل Tor؛ ⁨--problems⁩ يعرض التحذيرات والأخطاء فقط</translation>
     </message>
     <message>
-        <source>the transport programs and built-in bridges that were found, and
+        <source>the bridge programs and built-in bridges that were found, and
 which of your own bridge lines are not valid</source>
         <translation>برامج النقل والجسور المدمجة التي عُثر عليها،
 وأسطر جسورك الخاصة غير الصالحة</translation>
     </message>
     <message>
-        <source>fetch the Tor Project&apos;s transport programs and built-in bridges</source>
+        <source>fetch the Tor Project&apos;s bridge programs and built-in bridges</source>
         <translation>تنزيل برامج النقل والجسور المدمجة من مشروع Tor</translation>
     </message>
     <message>

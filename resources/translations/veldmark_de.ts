@@ -2995,13 +2995,13 @@
         <translation>Tors Protokoll; --problems zeigt nur Warnungen und Fehler</translation>
     </message>
     <message>
-        <source>the transport programs and built-in bridges that were found, and
+        <source>the bridge programs and built-in bridges that were found, and
 which of your own bridge lines are not valid</source>
         <translation>die gefundenen Brückenprogramme und eingebauten Brücken, und
 welche Ihrer eigenen Brückenzeilen ungültig sind</translation>
     </message>
     <message>
-        <source>fetch the Tor Project&apos;s transport programs and built-in bridges</source>
+        <source>fetch the Tor Project&apos;s bridge programs and built-in bridges</source>
         <translation>die Brückenprogramme und eingebauten Brücken des Tor-Projekts holen</translation>
     </message>
     <message>

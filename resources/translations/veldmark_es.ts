@@ -2995,13 +2995,13 @@
         <translation>el registro de Tor; --problems muestra solo advertencias y errores</translation>
     </message>
     <message>
-        <source>the transport programs and built-in bridges that were found, and
+        <source>the bridge programs and built-in bridges that were found, and
 which of your own bridge lines are not valid</source>
         <translation>los programas de puente y los puentes integrados que se encontraron, y
 qué líneas de puentes propios no son válidas</translation>
     </message>
     <message>
-        <source>fetch the Tor Project&apos;s transport programs and built-in bridges</source>
+        <source>fetch the Tor Project&apos;s bridge programs and built-in bridges</source>
         <translation>obtener los programas de puente y los puentes integrados del Proyecto Tor</translation>
     </message>
     <message>

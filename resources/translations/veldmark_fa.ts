@@ -2990,13 +2990,13 @@
         <translation>گزارش Tor؛ گزینهٔ ⁨--problems⁩ فقط هشدارها و خطاها را نشان می‌دهد</translation>
     </message>
     <message>
-        <source>the transport programs and built-in bridges that were found, and
+        <source>the bridge programs and built-in bridges that were found, and
 which of your own bridge lines are not valid</source>
         <translation>برنامه‌های پل و پل‌های داخلی پیداشده،
 و خط‌های نامعتبر در پل‌های خودتان</translation>
     </message>
     <message>
-        <source>fetch the Tor Project&apos;s transport programs and built-in bridges</source>
+        <source>fetch the Tor Project&apos;s bridge programs and built-in bridges</source>
         <translation>گرفتن برنامه‌های پل و پل‌های داخلی از پروژهٔ Tor</translation>
     </message>
     <message>

@@ -2995,13 +2995,13 @@
         <translation>le journal de Tor ; --problems n’affiche qu’avertissements et erreurs</translation>
     </message>
     <message>
-        <source>the transport programs and built-in bridges that were found, and
+        <source>the bridge programs and built-in bridges that were found, and
 which of your own bridge lines are not valid</source>
         <translation>les programmes de pont et les ponts intégrés trouvés, et
 vos lignes de ponts qui ne sont pas valides</translation>
     </message>
     <message>
-        <source>fetch the Tor Project&apos;s transport programs and built-in bridges</source>
+        <source>fetch the Tor Project&apos;s bridge programs and built-in bridges</source>
         <translation>récupérer les programmes de pont et les ponts intégrés du Projet Tor</translation>
     </message>
     <message>

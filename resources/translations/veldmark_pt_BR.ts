@@ -2995,13 +2995,13 @@
         <translation>mostra o registro do Tor; --problems mostra só avisos e erros</translation>
     </message>
     <message>
-        <source>the transport programs and built-in bridges that were found, and
+        <source>the bridge programs and built-in bridges that were found, and
 which of your own bridge lines are not valid</source>
         <translation>mostra os programas de ponte e as pontes integradas encontrados, e quais
 das suas próprias linhas de ponte não são válidas</translation>
     </message>
     <message>
-        <source>fetch the Tor Project&apos;s transport programs and built-in bridges</source>
+        <source>fetch the Tor Project&apos;s bridge programs and built-in bridges</source>
         <translation>obtém os programas de ponte e as pontes integradas do Projeto Tor</translation>
     </message>
     <message>

@@ -3000,13 +3000,13 @@
         <translation>журнал Tor; с --problems — только предупреждения и ошибки</translation>
     </message>
     <message>
-        <source>the transport programs and built-in bridges that were found, and
+        <source>the bridge programs and built-in bridges that were found, and
 which of your own bridge lines are not valid</source>
         <translation>найденные программы для мостов и встроенные мосты, а также
 недопустимые строки среди ваших мостов</translation>
     </message>
     <message>
-        <source>fetch the Tor Project&apos;s transport programs and built-in bridges</source>
+        <source>fetch the Tor Project&apos;s bridge programs and built-in bridges</source>
         <translation>загрузить программы для мостов и встроенные мосты Проекта Tor</translation>
     </message>
     <message>

@@ -2990,13 +2990,13 @@
         <translation>Tor&apos;un günlüğü; --problems yalnızca uyarıları ve hataları gösterir</translation>
     </message>
     <message>
-        <source>the transport programs and built-in bridges that were found, and
+        <source>the bridge programs and built-in bridges that were found, and
 which of your own bridge lines are not valid</source>
         <translation>bulunan köprü programları ve yerleşik köprüler ile kendi köprü
 satırlarınızdan geçersiz olanlar</translation>
     </message>
     <message>
-        <source>fetch the Tor Project&apos;s transport programs and built-in bridges</source>
+        <source>fetch the Tor Project&apos;s bridge programs and built-in bridges</source>
         <translation>Tor Projesi&apos;nin köprü programlarını ve yerleşik köprülerini indirir</translation>
     </message>
     <message>

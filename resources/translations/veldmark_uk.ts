@@ -3000,13 +3000,13 @@
         <translation>журнал Tor; --problems показує лише попередження й помилки</translation>
     </message>
     <message>
-        <source>the transport programs and built-in bridges that were found, and
+        <source>the bridge programs and built-in bridges that were found, and
 which of your own bridge lines are not valid</source>
         <translation>знайдені програми для мостів і вбудовані мости, а також
 хибні рядки серед ваших власних мостів</translation>
     </message>
     <message>
-        <source>fetch the Tor Project&apos;s transport programs and built-in bridges</source>
+        <source>fetch the Tor Project&apos;s bridge programs and built-in bridges</source>
         <translation>завантажити програми для мостів і вбудовані мости Проєкту Tor</translation>
     </message>
     <message>

@@ -2990,13 +2990,13 @@
         <translation>Tor 的日志；--problems 仅显示警告和错误</translation>
     </message>
     <message>
-        <source>the transport programs and built-in bridges that were found, and
+        <source>the bridge programs and built-in bridges that were found, and
 which of your own bridge lines are not valid</source>
         <translation>找到的网桥程序和内置网桥，
 以及您自己的网桥行中哪些无效</translation>
     </message>
     <message>
-        <source>fetch the Tor Project&apos;s transport programs and built-in bridges</source>
+        <source>fetch the Tor Project&apos;s bridge programs and built-in bridges</source>
         <translation>获取 Tor 项目的网桥程序和内置网桥</translation>
     </message>
     <message>
