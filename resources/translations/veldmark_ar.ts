@@ -1273,11 +1273,11 @@
         <translation>لا رد</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
         <translation>لم يتلقَّ الاتصال المباشر المتجاوز لـ Tor ردًا، لكن لا يُعرف هل يحجب مفتاح القطع اتصالات كهذه</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
         <translation>لم يتلقَّ الاتصال المباشر المتجاوز لـ Tor ردًا، لكن وضع الوكيل لا يحجب اتصالات كهذه</translation>
     </message>
     <message>

@@ -1253,11 +1253,11 @@
         <translation>Keine Antwort</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
         <translation>Eine direkte Verbindung an Tor vorbei blieb ohne Antwort, aber es ist nicht bekannt, ob der Notschalter solche Verbindungen sperrt</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
         <translation>Eine direkte Verbindung an Tor vorbei blieb ohne Antwort, aber der Proxy-Modus sperrt solche Verbindungen nicht</translation>
     </message>
     <message>

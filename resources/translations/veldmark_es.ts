@@ -1253,11 +1253,11 @@
         <translation>Sin respuesta</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
         <translation>Una conexión directa, sin pasar por Tor, no obtuvo respuesta, pero no se sabe si el bloqueo de emergencia corta esas conexiones</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
         <translation>Una conexión directa, sin pasar por Tor, no obtuvo respuesta, pero el modo proxy no corta esas conexiones</translation>
     </message>
     <message>

@@ -1248,11 +1248,11 @@
         <translation>بی‌پاسخ</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
         <translation>یک اتصال مستقیم بدون Tor پاسخی نگرفت، اما معلوم نیست کیل‌سوییچ چنین اتصال‌هایی را مسدود می‌کند یا نه</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
         <translation>یک اتصال مستقیم بدون Tor پاسخی نگرفت، اما حالت پروکسی چنین اتصال‌هایی را مسدود نمی‌کند</translation>
     </message>
     <message>

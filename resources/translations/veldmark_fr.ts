@@ -1253,11 +1253,11 @@
         <translation>Pas de réponse</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
         <translation>Une connexion directe sans passer par Tor est restée sans réponse, mais on ne sait pas si le kill switch bloque de telles connexions</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
         <translation>Une connexion directe sans passer par Tor est restée sans réponse, mais le mode proxy ne bloque pas de telles connexions</translation>
     </message>
     <message>

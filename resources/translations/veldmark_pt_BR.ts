@@ -1253,11 +1253,11 @@
         <translation>Sem resposta</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
         <translation>Uma conexão direta, sem passar pelo Tor, não teve resposta, mas não se sabe se o kill switch bloqueia conexões assim</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
         <translation>Uma conexão direta, sem passar pelo Tor, não teve resposta, mas o modo proxy não bloqueia conexões assim</translation>
     </message>
     <message>

@@ -1258,11 +1258,11 @@
         <translation>Нет ответа</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
         <translation>Прямое соединение в обход Tor осталось без ответа, но неизвестно, блокирует ли kill switch такие соединения</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
         <translation>Прямое соединение в обход Tor осталось без ответа, но режим прокси не блокирует такие соединения</translation>
     </message>
     <message>

@@ -1248,11 +1248,11 @@
         <translation>Yanıt yok</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
         <translation>Tor&apos;u atlayan doğrudan bir bağlantı yanıt almadı, ama acil kesme anahtarının böyle bağlantıları engelleyip engellemediği bilinmiyor</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
         <translation>Tor&apos;u atlayan doğrudan bir bağlantı yanıt almadı, ama vekil sunucu kipi böyle bağlantıları engellemez</translation>
     </message>
     <message>

@@ -1258,11 +1258,11 @@
         <translation>Немає відповіді</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
         <translation>Пряме з’єднання повз Tor лишилося без відповіді, але невідомо, чи аварійне блокування перекриває такі з’єднання</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
         <translation>Пряме з’єднання повз Tor лишилося без відповіді, але режим проксі не перекриває таких з’єднань</translation>
     </message>
     <message>

@@ -1248,11 +1248,11 @@
         <translation>无应答</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
         <translation>绕过 Tor 的直接连接没有得到应答，但无法确认断网保护是否会阻断此类连接</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
         <translation>绕过 Tor 的直接连接没有得到应答，但代理模式并不阻断此类连接</translation>
     </message>
     <message>
