@@ -1,5 +1,7 @@
 #include "terminal/UserFile.h"
 
+#include "plain/Descriptor.h"
+
 #include <QFile>
 #include <QRandomGenerator>
 
@@ -42,19 +44,6 @@ std::optional<QString> linkTarget(const QString &path)
     }
     return std::nullopt;
 }
-
-class Descriptor {
-public:
-    explicit Descriptor(int number) : m_number(number) { }
-    ~Descriptor() { close(); }
-    Descriptor(const Descriptor &) = delete;
-    Descriptor &operator=(const Descriptor &) = delete;
-    int number() const { return m_number; }
-    bool close() { return m_number < 0 || ::close(std::exchange(m_number, -1)) == 0; }
-
-private:
-    int m_number;
-};
 
 bool writeAll(int descriptor, QByteArrayView content)
 {
@@ -107,7 +96,7 @@ Step putInPlace(const QString &target, const QByteArray &content, const Access &
     const QByteArray place = QFile::encodeName(target);
     QByteArray fresh;
     Descriptor file(createBeside(place, access.isExact ? 0600 : access.mode, fresh));
-    if (file.number() < 0)
+    if (!file)
         return Step::failed;
     const auto giveUp = [&fresh](Step step) {
         const int error = errno;
@@ -131,7 +120,7 @@ Step putInPlace(const QString &target, const QByteArray &content, const Access &
     // way.
     const QByteArray folder = place.first(place.lastIndexOf('/') + 1);
     const Descriptor directory(::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (directory.number() >= 0)
+    if (directory)
         ::fsync(directory.number());
     return Step::done;
 }
