@@ -101,10 +101,6 @@
         <translation>تنزيل</translation>
     </message>
     <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>ينزّل حزمة Tor Expert Bundle الرسمية من مشروع Tor، وفيها برامج الجسور والجسور المدمجة</translation>
-    </message>
-    <message>
         <source>When Tor is blocked</source>
         <translation>عندما يكون Tor محجوبًا</translation>
     </message>
@@ -342,6 +338,17 @@
     </message>
 </context>
 <context>
+    <name>DownloadButton</name>
+    <message>
+        <source>Download</source>
+        <translation>تنزيل</translation>
+    </message>
+    <message>
+        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
+        <translation>ينزّل حزمة Tor Expert Bundle الرسمية من مشروع Tor، وفيها برامج الجسور والجسور المدمجة</translation>
+    </message>
+</context>
+<context>
     <name>Footer</name>
     <message>
         <source>Settings</source>
@@ -537,14 +544,6 @@
         <translation>الجسور</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>تنزيل</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>ينزّل حزمة Tor Expert Bundle الرسمية من مشروع Tor، وفيها برامج الجسور والجسور المدمجة</translation>
-    </message>
-    <message>
         <source>Edit…</source>
         <translation>تحرير…</translation>
     </message>
@@ -602,14 +601,6 @@
     <message>
         <source>Recheck</source>
         <translation>إعادة الفحص</translation>
-    </message>
-    <message>
-        <source>Download</source>
-        <translation>تنزيل</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>ينزّل حزمة Tor Expert Bundle الرسمية من مشروع Tor، وفيها برامج الجسور والجسور المدمجة</translation>
     </message>
 </context>
 <context>
@@ -894,10 +885,6 @@
     <message>
         <source>Firewall rules were removed</source>
         <translation>أُزيلت قواعد جدار الحماية</translation>
-    </message>
-    <message>
-        <source>Another program removed Veldmark&apos;s firewall rules; they are back in place.</source>
-        <translation>أزال برنامج آخر قواعد جدار الحماية الخاصة بـ Veldmark؛ وقد أُعيدت إلى مكانها.</translation>
     </message>
     <message>
         <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>

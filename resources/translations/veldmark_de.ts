@@ -101,10 +101,6 @@
         <translation>Herunterladen</translation>
     </message>
     <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Lädt das offizielle Tor Expert Bundle vom Tor-Projekt, mit Brückenprogrammen und eingebauten Brücken</translation>
-    </message>
-    <message>
         <source>When Tor is blocked</source>
         <translation>Wenn Tor gesperrt ist</translation>
     </message>
@@ -342,6 +338,17 @@
     </message>
 </context>
 <context>
+    <name>DownloadButton</name>
+    <message>
+        <source>Download</source>
+        <translation>Herunterladen</translation>
+    </message>
+    <message>
+        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
+        <translation>Lädt das offizielle Tor Expert Bundle vom Tor-Projekt, mit Brückenprogrammen und eingebauten Brücken</translation>
+    </message>
+</context>
+<context>
     <name>Footer</name>
     <message>
         <source>Settings</source>
@@ -537,14 +544,6 @@
         <translation>Brücken</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>Herunterladen</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Lädt das offizielle Tor Expert Bundle vom Tor-Projekt, mit Brückenprogrammen und eingebauten Brücken</translation>
-    </message>
-    <message>
         <source>Edit…</source>
         <translation>Bearbeiten…</translation>
     </message>
@@ -602,14 +601,6 @@
     <message>
         <source>Recheck</source>
         <translation>Erneut prüfen</translation>
-    </message>
-    <message>
-        <source>Download</source>
-        <translation>Herunterladen</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Lädt das offizielle Tor Expert Bundle vom Tor-Projekt, mit Brückenprogrammen und eingebauten Brücken</translation>
     </message>
 </context>
 <context>
@@ -894,10 +885,6 @@
     <message>
         <source>Firewall rules were removed</source>
         <translation>Firewall-Regeln wurden entfernt</translation>
-    </message>
-    <message>
-        <source>Another program removed Veldmark&apos;s firewall rules; they are back in place.</source>
-        <translation>Ein anderes Programm hat Veldmarks Firewall-Regeln entfernt; sie sind wiederhergestellt.</translation>
     </message>
     <message>
         <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>

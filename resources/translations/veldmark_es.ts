@@ -101,10 +101,6 @@
         <translation>Descargar</translation>
     </message>
     <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Descargar del Proyecto Tor el Tor Expert Bundle oficial, con programas de puente y puentes integrados</translation>
-    </message>
-    <message>
         <source>When Tor is blocked</source>
         <translation>Cuando Tor está bloqueado</translation>
     </message>
@@ -342,6 +338,17 @@
     </message>
 </context>
 <context>
+    <name>DownloadButton</name>
+    <message>
+        <source>Download</source>
+        <translation>Descargar</translation>
+    </message>
+    <message>
+        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
+        <translation>Descargar del Proyecto Tor el Tor Expert Bundle oficial, con programas de puente y puentes integrados</translation>
+    </message>
+</context>
+<context>
     <name>Footer</name>
     <message>
         <source>Settings</source>
@@ -537,14 +544,6 @@
         <translation>Puentes</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>Descargar</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Descargar del Proyecto Tor el Tor Expert Bundle oficial, con programas de puente y puentes integrados</translation>
-    </message>
-    <message>
         <source>Edit…</source>
         <translation>Editar…</translation>
     </message>
@@ -602,14 +601,6 @@
     <message>
         <source>Recheck</source>
         <translation>Volver a comprobar</translation>
-    </message>
-    <message>
-        <source>Download</source>
-        <translation>Descargar</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Descargar del Proyecto Tor el Tor Expert Bundle oficial, con programas de puente y puentes integrados</translation>
     </message>
 </context>
 <context>
@@ -894,10 +885,6 @@
     <message>
         <source>Firewall rules were removed</source>
         <translation>Se quitaron reglas del cortafuegos</translation>
-    </message>
-    <message>
-        <source>Another program removed Veldmark&apos;s firewall rules; they are back in place.</source>
-        <translation>Otro programa quitó las reglas de Veldmark del cortafuegos; ya están puestas de nuevo.</translation>
     </message>
     <message>
         <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>

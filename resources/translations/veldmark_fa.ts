@@ -101,10 +101,6 @@
         <translation>بارگیری</translation>
     </message>
     <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>بستهٔ رسمی Tor Expert Bundle را برای برنامه‌های پل و پل‌های داخلی از پروژهٔ Tor بارگیری می‌کند</translation>
-    </message>
-    <message>
         <source>When Tor is blocked</source>
         <translation>وقتی Tor مسدود است</translation>
     </message>
@@ -342,6 +338,17 @@
     </message>
 </context>
 <context>
+    <name>DownloadButton</name>
+    <message>
+        <source>Download</source>
+        <translation>بارگیری</translation>
+    </message>
+    <message>
+        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
+        <translation>بستهٔ رسمی Tor Expert Bundle را برای برنامه‌های پل و پل‌های داخلی از پروژهٔ Tor بارگیری می‌کند</translation>
+    </message>
+</context>
+<context>
     <name>Footer</name>
     <message>
         <source>Settings</source>
@@ -537,14 +544,6 @@
         <translation>پل‌ها</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>بارگیری</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>بستهٔ رسمی Tor Expert Bundle را برای برنامه‌های پل و پل‌های داخلی از پروژهٔ Tor بارگیری می‌کند</translation>
-    </message>
-    <message>
         <source>Edit…</source>
         <translation>ویرایش…</translation>
     </message>
@@ -602,14 +601,6 @@
     <message>
         <source>Recheck</source>
         <translation>بررسی دوباره</translation>
-    </message>
-    <message>
-        <source>Download</source>
-        <translation>بارگیری</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>بستهٔ رسمی Tor Expert Bundle را برای برنامه‌های پل و پل‌های داخلی از پروژهٔ Tor بارگیری می‌کند</translation>
     </message>
 </context>
 <context>
@@ -894,10 +885,6 @@
     <message>
         <source>Firewall rules were removed</source>
         <translation>قاعده‌های دیوار آتش برداشته شدند</translation>
-    </message>
-    <message>
-        <source>Another program removed Veldmark&apos;s firewall rules; they are back in place.</source>
-        <translation>برنامهٔ دیگری قاعده‌های دیوار آتش Veldmark را برداشت؛ این قاعده‌ها دوباره برقرارند.</translation>
     </message>
     <message>
         <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>

@@ -101,10 +101,6 @@
         <translation>Télécharger</translation>
     </message>
     <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Télécharge le Tor Expert Bundle officiel du Projet Tor, pour les programmes de pont et les ponts intégrés</translation>
-    </message>
-    <message>
         <source>When Tor is blocked</source>
         <translation>Quand Tor est bloqué</translation>
     </message>
@@ -342,6 +338,17 @@
     </message>
 </context>
 <context>
+    <name>DownloadButton</name>
+    <message>
+        <source>Download</source>
+        <translation>Télécharger</translation>
+    </message>
+    <message>
+        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
+        <translation>Télécharge le Tor Expert Bundle officiel du Projet Tor, pour les programmes de pont et les ponts intégrés</translation>
+    </message>
+</context>
+<context>
     <name>Footer</name>
     <message>
         <source>Settings</source>
@@ -537,14 +544,6 @@
         <translation>Ponts</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>Télécharger</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Télécharge le Tor Expert Bundle officiel du Projet Tor, pour les programmes de pont et les ponts intégrés</translation>
-    </message>
-    <message>
         <source>Edit…</source>
         <translation>Modifier…</translation>
     </message>
@@ -602,14 +601,6 @@
     <message>
         <source>Recheck</source>
         <translation>Revérifier</translation>
-    </message>
-    <message>
-        <source>Download</source>
-        <translation>Télécharger</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Télécharge le Tor Expert Bundle officiel du Projet Tor, pour les programmes de pont et les ponts intégrés</translation>
     </message>
 </context>
 <context>
@@ -894,10 +885,6 @@
     <message>
         <source>Firewall rules were removed</source>
         <translation>Des règles de pare-feu ont été supprimées</translation>
-    </message>
-    <message>
-        <source>Another program removed Veldmark&apos;s firewall rules; they are back in place.</source>
-        <translation>Un autre programme a supprimé les règles de pare-feu de Veldmark ; elles ont été rétablies.</translation>
     </message>
     <message>
         <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>

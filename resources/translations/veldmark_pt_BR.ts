@@ -101,10 +101,6 @@
         <translation>Baixar</translation>
     </message>
     <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Baixa o Tor Expert Bundle oficial do Projeto Tor, com programas de ponte e pontes integradas</translation>
-    </message>
-    <message>
         <source>When Tor is blocked</source>
         <translation>Quando o Tor está bloqueado</translation>
     </message>
@@ -342,6 +338,17 @@
     </message>
 </context>
 <context>
+    <name>DownloadButton</name>
+    <message>
+        <source>Download</source>
+        <translation>Baixar</translation>
+    </message>
+    <message>
+        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
+        <translation>Baixa o Tor Expert Bundle oficial do Projeto Tor, com programas de ponte e pontes integradas</translation>
+    </message>
+</context>
+<context>
     <name>Footer</name>
     <message>
         <source>Settings</source>
@@ -537,14 +544,6 @@
         <translation>Pontes</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>Baixar</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Baixa o Tor Expert Bundle oficial do Projeto Tor, com programas de ponte e pontes integradas</translation>
-    </message>
-    <message>
         <source>Edit…</source>
         <translation>Editar…</translation>
     </message>
@@ -602,14 +601,6 @@
     <message>
         <source>Recheck</source>
         <translation>Verificar de novo</translation>
-    </message>
-    <message>
-        <source>Download</source>
-        <translation>Baixar</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Baixa o Tor Expert Bundle oficial do Projeto Tor, com programas de ponte e pontes integradas</translation>
     </message>
 </context>
 <context>
@@ -894,10 +885,6 @@
     <message>
         <source>Firewall rules were removed</source>
         <translation>Regras de firewall removidas</translation>
-    </message>
-    <message>
-        <source>Another program removed Veldmark&apos;s firewall rules; they are back in place.</source>
-        <translation>Outro programa removeu as regras de firewall do Veldmark; elas já foram restauradas.</translation>
     </message>
     <message>
         <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>

@@ -101,10 +101,6 @@
         <translation>Загрузить</translation>
     </message>
     <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Загружает с сайта Проекта Tor официальный Tor Expert Bundle: программы для мостов и встроенные мосты</translation>
-    </message>
-    <message>
         <source>When Tor is blocked</source>
         <translation>Когда Tor заблокирован</translation>
     </message>
@@ -342,6 +338,17 @@
     </message>
 </context>
 <context>
+    <name>DownloadButton</name>
+    <message>
+        <source>Download</source>
+        <translation>Загрузить</translation>
+    </message>
+    <message>
+        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
+        <translation>Загружает с сайта Проекта Tor официальный Tor Expert Bundle: программы для мостов и встроенные мосты</translation>
+    </message>
+</context>
+<context>
     <name>Footer</name>
     <message>
         <source>Settings</source>
@@ -537,14 +544,6 @@
         <translation>Мосты</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>Загрузить</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Загружает с сайта Проекта Tor официальный Tor Expert Bundle: программы для мостов и встроенные мосты</translation>
-    </message>
-    <message>
         <source>Edit…</source>
         <translation>Изменить…</translation>
     </message>
@@ -602,14 +601,6 @@
     <message>
         <source>Recheck</source>
         <translation>Проверить снова</translation>
-    </message>
-    <message>
-        <source>Download</source>
-        <translation>Загрузить</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Загружает с сайта Проекта Tor официальный Tor Expert Bundle: программы для мостов и встроенные мосты</translation>
     </message>
 </context>
 <context>
@@ -894,10 +885,6 @@
     <message>
         <source>Firewall rules were removed</source>
         <translation>Правила брандмауэра были удалены</translation>
-    </message>
-    <message>
-        <source>Another program removed Veldmark&apos;s firewall rules; they are back in place.</source>
-        <translation>Другая программа удалила правила Veldmark в брандмауэре; они восстановлены.</translation>
     </message>
     <message>
         <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>

@@ -101,10 +101,6 @@
         <translation>İndir</translation>
     </message>
     <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Köprü programları ve yerleşik köprüler için Tor Projesi&apos;nin resmî Tor Expert Bundle paketini indirir</translation>
-    </message>
-    <message>
         <source>When Tor is blocked</source>
         <translation>Tor engellendiğinde</translation>
     </message>
@@ -342,6 +338,17 @@
     </message>
 </context>
 <context>
+    <name>DownloadButton</name>
+    <message>
+        <source>Download</source>
+        <translation>İndir</translation>
+    </message>
+    <message>
+        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
+        <translation>Köprü programları ve yerleşik köprüler için Tor Projesi&apos;nin resmî Tor Expert Bundle paketini indirir</translation>
+    </message>
+</context>
+<context>
     <name>Footer</name>
     <message>
         <source>Settings</source>
@@ -537,14 +544,6 @@
         <translation>Köprüler</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>İndir</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Köprü programları ve yerleşik köprüler için Tor Projesi&apos;nin resmî Tor Expert Bundle paketini indirir</translation>
-    </message>
-    <message>
         <source>Edit…</source>
         <translation>Düzenle…</translation>
     </message>
@@ -602,14 +601,6 @@
     <message>
         <source>Recheck</source>
         <translation>Yeniden denetle</translation>
-    </message>
-    <message>
-        <source>Download</source>
-        <translation>İndir</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Köprü programları ve yerleşik köprüler için Tor Projesi&apos;nin resmî Tor Expert Bundle paketini indirir</translation>
     </message>
 </context>
 <context>
@@ -894,10 +885,6 @@
     <message>
         <source>Firewall rules were removed</source>
         <translation>Güvenlik duvarı kuralları kaldırıldı</translation>
-    </message>
-    <message>
-        <source>Another program removed Veldmark&apos;s firewall rules; they are back in place.</source>
-        <translation>Başka bir program Veldmark&apos;ın güvenlik duvarı kurallarını kaldırdı; kurallar yeniden yerinde.</translation>
     </message>
     <message>
         <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>

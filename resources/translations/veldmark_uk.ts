@@ -101,10 +101,6 @@
         <translation>Завантажити</translation>
     </message>
     <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Завантажує від Проєкту Tor офіційний Tor Expert Bundle: програми для мостів і вбудовані мости</translation>
-    </message>
-    <message>
         <source>When Tor is blocked</source>
         <translation>Коли Tor заблоковано</translation>
     </message>
@@ -342,6 +338,17 @@
     </message>
 </context>
 <context>
+    <name>DownloadButton</name>
+    <message>
+        <source>Download</source>
+        <translation>Завантажити</translation>
+    </message>
+    <message>
+        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
+        <translation>Завантажує від Проєкту Tor офіційний Tor Expert Bundle: програми для мостів і вбудовані мости</translation>
+    </message>
+</context>
+<context>
     <name>Footer</name>
     <message>
         <source>Settings</source>
@@ -537,14 +544,6 @@
         <translation>Мости</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>Завантажити</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Завантажує від Проєкту Tor офіційний Tor Expert Bundle: програми для мостів і вбудовані мости</translation>
-    </message>
-    <message>
         <source>Edit…</source>
         <translation>Змінити…</translation>
     </message>
@@ -602,14 +601,6 @@
     <message>
         <source>Recheck</source>
         <translation>Перевірити знову</translation>
-    </message>
-    <message>
-        <source>Download</source>
-        <translation>Завантажити</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Завантажує від Проєкту Tor офіційний Tor Expert Bundle: програми для мостів і вбудовані мости</translation>
     </message>
 </context>
 <context>
@@ -894,10 +885,6 @@
     <message>
         <source>Firewall rules were removed</source>
         <translation>Правила брандмауера було вилучено</translation>
-    </message>
-    <message>
-        <source>Another program removed Veldmark&apos;s firewall rules; they are back in place.</source>
-        <translation>Інша програма вилучила правила Veldmark із брандмауера; їх уже відновлено.</translation>
     </message>
     <message>
         <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>

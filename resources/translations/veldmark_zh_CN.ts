@@ -101,10 +101,6 @@
         <translation>下载</translation>
     </message>
     <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>从 Tor 项目下载官方的 Tor Expert Bundle，以获取网桥程序和内置网桥</translation>
-    </message>
-    <message>
         <source>When Tor is blocked</source>
         <translation>当 Tor 被封锁时</translation>
     </message>
@@ -342,6 +338,17 @@
     </message>
 </context>
 <context>
+    <name>DownloadButton</name>
+    <message>
+        <source>Download</source>
+        <translation>下载</translation>
+    </message>
+    <message>
+        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
+        <translation>从 Tor 项目下载官方的 Tor Expert Bundle，以获取网桥程序和内置网桥</translation>
+    </message>
+</context>
+<context>
     <name>Footer</name>
     <message>
         <source>Settings</source>
@@ -537,14 +544,6 @@
         <translation>网桥</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>下载</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>从 Tor 项目下载官方的 Tor Expert Bundle，以获取网桥程序和内置网桥</translation>
-    </message>
-    <message>
         <source>Edit…</source>
         <translation>编辑…</translation>
     </message>
@@ -602,14 +601,6 @@
     <message>
         <source>Recheck</source>
         <translation>重新检查</translation>
-    </message>
-    <message>
-        <source>Download</source>
-        <translation>下载</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>从 Tor 项目下载官方的 Tor Expert Bundle，以获取网桥程序和内置网桥</translation>
     </message>
 </context>
 <context>
@@ -894,10 +885,6 @@
     <message>
         <source>Firewall rules were removed</source>
         <translation>防火墙规则曾被移除</translation>
-    </message>
-    <message>
-        <source>Another program removed Veldmark&apos;s firewall rules; they are back in place.</source>
-        <translation>另一个程序移除了 Veldmark 的防火墙规则；规则现已恢复。</translation>
     </message>
     <message>
         <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>

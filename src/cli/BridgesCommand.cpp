@@ -228,9 +228,7 @@ QCoro::Task<ExitStatus> addBridges(Invocation invocation, PlatformProfile profil
                     .translated();
     }
     if (stored.lines.size() + added.size() > BridgeLines::mostLines) {
-        Console::printError(
-            Text::tr("At most %1 custom bridges can be used. Remove some under Bridges → Custom….")
-                .arg(BridgeLines::mostLines));
+        Console::printError(BridgeLines::tooManyText());
         co_return ExitStatus::failed;
     }
     if (!added.isEmpty()) {

@@ -46,10 +46,10 @@ Pane {
             symbol: "arrow.down.circle.fill"
             title: qsTr("Tor Expert Bundle")
             subtitle: pane.model.bundleStatus
-            PushButton {
+            DownloadButton {
                 text: pane.model.bundleLoaded ? qsTr("Update") : qsTr("Download")
+                symbol: "" // the row has it
                 enabled: pane.model.canDownload
-                help: qsTr("Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges")
                 onClicked: pane.model.download()
             }
         }
