@@ -13,7 +13,7 @@ namespace {
 
 const QString shell = QStringLiteral("/bin/bash");
 
-std::optional<QByteArray> contentOf(const QString &path)
+std::optional<QByteArray> wholeContentOf(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
@@ -260,7 +260,7 @@ bool PrivilegedRunner::RunData::privilegedHelperOutdated() const
     if (!passwordlessInstalled() || !shipped)
         return false;
     // Two unreadable files count as equal, a readable and an unreadable one as different.
-    return contentOf(*shipped) != contentOf(profile.installedHelper);
+    return wholeContentOf(*shipped) != wholeContentOf(profile.installedHelper);
 }
 
 bool PrivilegedRunner::privilegedHelperOutdated() const
