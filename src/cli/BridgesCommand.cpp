@@ -1,5 +1,6 @@
 #include "cli/BridgesCommand.h"
 
+#include "base/OneLine.h"
 #include "base/ResumeOnce.h"
 #include "bridges/BridgeLines.h"
 #include "bridges/BridgeText.h"
@@ -110,8 +111,7 @@ QStringList problems(const QJsonObject &custom)
     for (const QJsonValue &entry : custom.value(QStringLiteral("invalid")).toArray())
         lines << Text::tr("line %1 is not a bridge line: %2")
                      .arg(entry.toObject().value(QStringLiteral("line")).toInt(),
-                          Console::shortened(
-                              entry.toObject().value(QStringLiteral("text")).toString()))
+                          inOneLine(entry.toObject().value(QStringLiteral("text")).toString()))
                      .translated();
     const QJsonArray surplus = custom.value(QStringLiteral("surplus")).toArray();
     if (!surplus.isEmpty())
@@ -160,7 +160,7 @@ QString Report::bridges(const QJsonObject &all)
               .translated();
     const QJsonObject builtin = all.value(QStringLiteral("builtin")).toObject();
     for (auto count = builtin.begin(); count != builtin.end(); ++count)
-        report += row(Console::shortened(count.key()), QString::number(count.value().toInt()));
+        report += row(inOneLine(count.key()), QString::number(count.value().toInt()));
     if (builtin.isEmpty())
         report += QStringLiteral("\n  ")
             + Text::tr("none; get some with: veldmarkctl download-transports").translated();
@@ -170,11 +170,10 @@ QString Report::bridges(const QJsonObject &all)
     report += QStringLiteral("\nTor Expert Bundle\n  ");
     const Text verification = isSigned ? Text::tr("signature verified")
                                        : Text::tr("signature not verified");
-    report += bundle.isEmpty()
-        ? Text::tr("not downloaded").translated()
-        : QStringLiteral("%1, %2").arg(
-            Console::shortened(bundle.value(QStringLiteral("version")).toString()),
-            verification.translated());
+    report += bundle.isEmpty() ? Text::tr("not downloaded").translated()
+                               : QStringLiteral("%1, %2").arg(
+                                   inOneLine(bundle.value(QStringLiteral("version")).toString()),
+                                   verification.translated());
 
     const QJsonObject custom = all.value(QStringLiteral("custom")).toObject();
     report += u'\n' + Text::tr("Your own bridges").translated() + QStringLiteral("\n  ")

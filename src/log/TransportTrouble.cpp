@@ -1,5 +1,7 @@
 #include "log/TransportTrouble.h"
 
+#include "base/OneLine.h"
+
 #include <QRegularExpression>
 
 namespace veldmark {
@@ -13,16 +15,7 @@ constexpr auto anyCharacter = QRegularExpression::DotMatchesEverythingOption;
 // Another program's words in a sentence.
 QString quoted(const QString &words)
 {
-    QString shown = words.trimmed();
-    if (shown.size() > quoteLimit)
-        shown = shown.left(quoteLimit - 1) + u'…';
-    for (QChar &c : shown) {
-        const bool breaksLine = c.category() == QChar::Separator_Line
-            || c.category() == QChar::Separator_Paragraph;
-        if (!c.isPrint() || breaksLine)
-            c = u'?';
-    }
-    return shown;
+    return inOneLine(words, quoteLimit);
 }
 
 QString withEnd(const QString &sentence)
