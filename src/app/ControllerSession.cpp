@@ -290,7 +290,8 @@ void ControllerSession::makeReport()
 QCoro::Task<void> ControllerSession::report()
 {
     const QPointer<ControllerSession> self(this);
-    const ReportMaker::Given given{publishedState(m_controller), settingNames(m_controller)};
+    const ReportMaker::PublishedFacts given{publishedState(m_controller),
+                                            settingNames(m_controller)};
     auto making = m_reporter.make(given);
     const SupportReport made = co_await making;
     if (!self)

@@ -52,12 +52,12 @@ private:
     QString tailOfHome(const QRegularExpressionMatch &match);
 
     StandIns m_standIns;
-    struct Known {
+    struct KnownSecret {
         qsizetype length;
         Rule rule;
     };
-    std::vector<Known> m_known; // the longest first
-    std::vector<Rule> m_rules;  // in the order of their use
+    std::vector<KnownSecret> m_known; // the longest first
+    std::vector<Rule> m_rules;        // in the order of their use
 };
 
 } // namespace veldmark

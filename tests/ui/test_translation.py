@@ -49,7 +49,7 @@ TRANSLATED = re.compile(r'(?:\btr|\btranslate|QT_TRANSLATE_NOOP)\(\s*(?:"[^"]*",
 # A string after one of these is for programs or programmers.
 FOR_PROGRAMS = re.compile(
     r"(?:qWarning|qFatal|QML_UNCREATABLE|says|contains|startsWith|QLatin1String|QRegularExpression \w+|installing)\("
-    r"(?:QStringLiteral\(|QLatin1String\()?\s*$|[=(] ?u$|\{Package\{$|(?<!Text\()words : \{$|Known\{\"[a-z-]+\", $|reason:@$|qCritical\(\) << $"
+    r"(?:QStringLiteral\(|QLatin1String\()?\s*$|[=(] ?u$|\{Package\{$|(?<!Text\()words : \{$|FirewallName\{\"[a-z-]+\", $|reason:@$|qCritical\(\) << $"
 )
 # Commands, paths, patterns, names and formats.
 NO_WORDS = re.compile(
