@@ -457,7 +457,7 @@ private:
     QCoro::Task<void> repairDNS(Run attempt);
     // BypassApps.cpp
     QString displayedName(const QString &path) const;
-    QCoro::Task<Result<void, Text>> launchOnce(QString path);
+    QCoro::Task<Result<void, Text>> launchOnce(Run session, QString path);
     // Circuits.cpp
     struct Resolution {
         std::vector<RelayInfo> relays;
@@ -504,6 +504,7 @@ private:
     quint64 m_transportSearch = 0;                  // the last search that began
     quint64 m_shownSearch = 0;                      // the search that `transports` is from
     std::vector<ResumeOnce<bool>> m_restoreWaiters; // for the end of a running disconnect
+    quint64 m_fixRun = 0;                           // the last fixDNS() that began
     std::optional<quint64> m_fixedAttempt;          // the m_attempt whose fixDNS() runs
     std::vector<ResumeOnce<bool>> m_fixWaiters;     // later calls of the same session
     quint64 m_killSwitchWatch = 0;                  // the running watch
