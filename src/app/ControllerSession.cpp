@@ -47,9 +47,18 @@ void ControllerSession::read()
     m_scheduled = false;
     const TorController &c = m_controller;
     Snapshot next;
-    next.choices = {c.strictMode(),    c.allowLocalNetwork(), c.exitCountry(),  c.customTorPath(),
-                    c.bridgeChoice(),  c.customBridges(),     c.bypassApps(),   c.autoConnect(),
-                    c.optimizeSpeed(), c.terminalMode(),      c.separateApps(), c.climb()};
+    next.choices = {.strictMode = c.strictMode(),
+                    .allowLocalNetwork = c.allowLocalNetwork(),
+                    .exitCountry = c.exitCountry(),
+                    .customTorPath = c.customTorPath(),
+                    .bridgeChoice = c.bridgeChoice(),
+                    .customBridges = c.customBridges(),
+                    .bypassApps = c.bypassApps(),
+                    .autoConnect = c.autoConnect(),
+                    .optimizeSpeed = c.optimizeSpeed(),
+                    .terminalMode = c.terminalMode(),
+                    .separateApps = c.separateApps(),
+                    .climb = c.climb()};
     next.phase = c.phase();
     next.activeMode = c.activeMode();
     next.activeBridge = c.activeBridge();
