@@ -26,7 +26,6 @@ class SettingsModel : public QObject {
     Q_PROPERTY(bool torLocked READ torLocked NOTIFY changed)
     Q_PROPERTY(bool separateApps READ separateApps WRITE setSeparateApps NOTIFY changed)
     Q_PROPERTY(bool canSeparateApps READ canSeparateApps CONSTANT)
-    Q_PROPERTY(QUrl torFolder READ torFolder CONSTANT)
     Q_PROPERTY(QString onComputer READ onComputer CONSTANT)
     Q_PROPERTY(bool lyrebird READ lyrebird NOTIFY changed)
     Q_PROPERTY(bool snowflake READ snowflake NOTIFY changed)
