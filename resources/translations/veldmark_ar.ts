@@ -109,8 +109,8 @@
         <translation>افصل الاتصال للتغيير</translation>
     </message>
     <message>
-        <source>Bridges that are there can be tried one after the other, without another password</source>
-        <translation>يمكن تجربة الجسور الموجودة واحدًا بعد الآخر دون كلمة مرور أخرى</translation>
+        <source>Tries the available bridges in turn, without another password</source>
+        <translation>يجرّب الجسور المتاحة واحدًا بعد الآخر دون كلمة سر أخرى</translation>
     </message>
 </context>
 <context>
@@ -3142,12 +3142,12 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>أحد أسطر الجسور غير صالح.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your network settings.</source>
-        <translation>كانت ملاحظة بما تجب استعادته تالفة (⁨%1⁩). رُفع الحجب عن الشبكة؛ تحقق من إعدادات شبكتك.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your network settings.</source>
+        <translation>كان سجل لإعدادات الشبكة السابقة تالفًا (⁨%1⁩). رُفع الحجب عن الشبكة؛ تحقق من إعدادات شبكتك.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your proxy settings.</source>
-        <translation>كانت ملاحظة بما تجب استعادته تالفة (⁨%1⁩). رُفع الحجب عن الشبكة؛ تحقق من إعدادات الوكيل.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your proxy settings.</source>
+        <translation>كان سجل لإعدادات الشبكة السابقة تالفًا (⁨%1⁩). رُفع الحجب عن الشبكة؛ تحقق من إعدادات الوكيل.</translation>
     </message>
     <message>
         <source>An administrator password is needed to approve %1.</source>
@@ -3218,8 +3218,8 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>ليس للحساب %1 معرّف مستخدم صالح.</translation>
     </message>
     <message>
-        <source>The account %1 must be one of its own.</source>
-        <translation>يجب أن يكون الحساب %1 حسابًا مخصصًا لهذا الغرض.</translation>
+        <source>The account %1 must be neither root&apos;s nor the caller&apos;s.</source>
+        <translation>يجب ألا يكون الحساب %1 حساب ⁨root⁩ ولا حساب المستخدم الذي يطلب ذلك.</translation>
     </message>
     <message>
         <source>The application could not be started.</source>
@@ -3386,12 +3386,12 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>أُعطي البرنامج المساعد خيارًا لا يعرفه.</translation>
     </message>
     <message>
-        <source>The helper was not given a verb that it knows.</source>
-        <translation>لم يُعطَ البرنامج المساعد أمرًا يعرفه.</translation>
+        <source>The helper does not know this verb.</source>
+        <translation>لا يعرف البرنامج المساعد هذا الأمر.</translation>
     </message>
     <message>
-        <source>The journal cannot be written.</source>
-        <translation>لا يمكن كتابة دفتر التغييرات.</translation>
+        <source>The record of the former network settings cannot be written.</source>
+        <translation>لا يمكن كتابة سجل إعدادات الشبكة السابقة.</translation>
     </message>
     <message>
         <source>The kill switch is not on, so no application needs to bypass it.</source>
@@ -3434,8 +3434,8 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>رُفع الحجب عن الشبكة، لكن تعذرت إعادة تشغيل خدمة Tor الخاصة بالنظام. جرّب: systemctl start %1.</translation>
     </message>
     <message>
-        <source>The network is open, but the firewall could not be given back.</source>
-        <translation>رُفع الحجب عن الشبكة، لكن تعذرت إعادة جدار الحماية إلى النظام.</translation>
+        <source>The network is open, but pf could not be released.</source>
+        <translation>رُفع الحجب عن الشبكة، لكن تعذر تحرير ⁨pf⁩.</translation>
     </message>
     <message>
         <source>The network is open, but the firewall&apos;s main rules could not be put back.</source>
@@ -3538,7 +3538,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>البرنامج ⁨%1⁩ مفقود على هذا النظام.</translation>
     </message>
     <message>
-        <source>The SHA-256 of the program %1 is not the one to approve.</source>
+        <source>The SHA-256 of the program %1 differs from the one to approve.</source>
         <translation>قيمة SHA-256 للبرنامج ⁨%1⁩ ليست القيمة التي كان يُراد الموافقة عليها.</translation>
     </message>
     <message>
@@ -3690,8 +3690,8 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>بما أن Veldmark غير متصل، لم تُمسّ إعدادات DNS.</translation>
     </message>
     <message>
-        <source>sudo does not accept the rule.</source>
-        <translation>لا يقبل sudo القاعدة.</translation>
+        <source>sudo rejects the rule for passwordless mode.</source>
+        <translation>يرفض sudo قاعدة الوضع بلا كلمة سر.</translation>
     </message>
     <message>
         <source>sudo is not installed on this system.</source>
@@ -3807,7 +3807,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>the applications that have circuits of their own, and the loopback address
-by which Tor tells each from the others</source>
+by which Tor distinguishes them</source>
         <translation>التطبيقات التي لها دوائر خاصة بها، وعنوان loopback
 الذي يميّز به Tor كلًّا منها من غيره</translation>
     </message>

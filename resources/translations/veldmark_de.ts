@@ -109,8 +109,8 @@
         <translation>Zum Ändern trennen</translation>
     </message>
     <message>
-        <source>Bridges that are there can be tried one after the other, without another password</source>
-        <translation>Vorhandene Brücken können nacheinander versucht werden, ohne weiteres Passwort</translation>
+        <source>Tries the available bridges in turn, without another password</source>
+        <translation>Versucht die vorhandenen Brücken nacheinander, ohne weiteres Passwort</translation>
     </message>
 </context>
 <context>
@@ -3122,12 +3122,12 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
         <translation>Eine Brückenzeile ist ungültig.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your network settings.</source>
-        <translation>Eine Notiz darüber, was wiederherzustellen ist, war beschädigt (%1). Das Netzwerk ist wieder offen; sehen Sie Ihre Netzwerkeinstellungen nach.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your network settings.</source>
+        <translation>Eine Aufzeichnung der früheren Netzwerkeinstellungen war beschädigt (%1). Das Netzwerk ist wieder offen; sehen Sie Ihre Netzwerkeinstellungen nach.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your proxy settings.</source>
-        <translation>Eine Notiz darüber, was wiederherzustellen ist, war beschädigt (%1). Das Netzwerk ist wieder offen; sehen Sie Ihre Proxy-Einstellungen nach.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your proxy settings.</source>
+        <translation>Eine Aufzeichnung der früheren Netzwerkeinstellungen war beschädigt (%1). Das Netzwerk ist wieder offen; sehen Sie Ihre Proxy-Einstellungen nach.</translation>
     </message>
     <message>
         <source>An administrator password is needed to approve %1.</source>
@@ -3198,8 +3198,8 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
         <translation>Das Konto %1 hat keine gültige Benutzer-ID.</translation>
     </message>
     <message>
-        <source>The account %1 must be one of its own.</source>
-        <translation>Das Konto %1 muss ein eigenes sein.</translation>
+        <source>The account %1 must be neither root&apos;s nor the caller&apos;s.</source>
+        <translation>Das Konto %1 darf weder root noch dem aufrufenden Benutzer gehören.</translation>
     </message>
     <message>
         <source>The application could not be started.</source>
@@ -3366,12 +3366,12 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
         <translation>Das Hilfsprogramm bekam eine Option, die es nicht kennt.</translation>
     </message>
     <message>
-        <source>The helper was not given a verb that it knows.</source>
-        <translation>Das Hilfsprogramm bekam keinen Befehl, den es kennt.</translation>
+        <source>The helper does not know this verb.</source>
+        <translation>Das Hilfsprogramm kennt diesen Befehl nicht.</translation>
     </message>
     <message>
-        <source>The journal cannot be written.</source>
-        <translation>Das Journal kann nicht geschrieben werden.</translation>
+        <source>The record of the former network settings cannot be written.</source>
+        <translation>Die Aufzeichnung der früheren Netzwerkeinstellungen kann nicht geschrieben werden.</translation>
     </message>
     <message>
         <source>The kill switch is not on, so no application needs to bypass it.</source>
@@ -3414,8 +3414,8 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
         <translation>Das Netzwerk ist wieder offen, aber der Tor-Dienst des Systems konnte nicht wieder gestartet werden. Versuchen Sie: systemctl start %1.</translation>
     </message>
     <message>
-        <source>The network is open, but the firewall could not be given back.</source>
-        <translation>Das Netzwerk ist offen, aber die Firewall konnte nicht zurückgegeben werden.</translation>
+        <source>The network is open, but pf could not be released.</source>
+        <translation>Das Netzwerk ist offen, aber pf konnte nicht freigegeben werden.</translation>
     </message>
     <message>
         <source>The network is open, but the firewall&apos;s main rules could not be put back.</source>
@@ -3518,7 +3518,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
         <translation>Das Programm %1 fehlt auf diesem System.</translation>
     </message>
     <message>
-        <source>The SHA-256 of the program %1 is not the one to approve.</source>
+        <source>The SHA-256 of the program %1 differs from the one to approve.</source>
         <translation>Die SHA-256-Summe des Programms %1 ist nicht die, die zugelassen werden soll.</translation>
     </message>
     <message>
@@ -3670,8 +3670,8 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
         <translation>Veldmark ist nicht verbunden, also blieben die DNS-Einstellungen unberührt.</translation>
     </message>
     <message>
-        <source>sudo does not accept the rule.</source>
-        <translation>sudo nimmt die Regel nicht an.</translation>
+        <source>sudo rejects the rule for passwordless mode.</source>
+        <translation>sudo lehnt die Regel für den Betrieb ohne Passwort ab.</translation>
     </message>
     <message>
         <source>sudo is not installed on this system.</source>
@@ -3787,7 +3787,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
     </message>
     <message>
         <source>the applications that have circuits of their own, and the loopback address
-by which Tor tells each from the others</source>
+by which Tor distinguishes them</source>
         <translation>die Anwendungen mit eigenen Kanälen und die Loopback-Adresse, an der Tor
 jede von den anderen unterscheidet</translation>
     </message>

@@ -109,8 +109,8 @@
         <translation>Desconéctese para cambiar</translation>
     </message>
     <message>
-        <source>Bridges that are there can be tried one after the other, without another password</source>
-        <translation>Los puentes disponibles pueden probarse uno tras otro, sin otra contraseña</translation>
+        <source>Tries the available bridges in turn, without another password</source>
+        <translation>Prueba los puentes disponibles uno tras otro, sin otra contraseña</translation>
     </message>
 </context>
 <context>
@@ -3122,12 +3122,12 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
         <translation>Una línea de puente no es válida.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your network settings.</source>
-        <translation>Una nota de lo que hay que restaurar estaba dañada (%1). La red vuelve a estar abierta; revise su configuración de red.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your network settings.</source>
+        <translation>Un registro de la configuración de red anterior estaba dañado (%1). La red vuelve a estar abierta; revise su configuración de red.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your proxy settings.</source>
-        <translation>Una nota de lo que hay que restaurar estaba dañada (%1). La red vuelve a estar abierta; revise su configuración de proxy.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your proxy settings.</source>
+        <translation>Un registro de la configuración de red anterior estaba dañado (%1). La red vuelve a estar abierta; revise su configuración de proxy.</translation>
     </message>
     <message>
         <source>An administrator password is needed to approve %1.</source>
@@ -3198,8 +3198,8 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
         <translation>La cuenta %1 no tiene un id de usuario válido.</translation>
     </message>
     <message>
-        <source>The account %1 must be one of its own.</source>
-        <translation>La cuenta %1 debe ser de uso exclusivo.</translation>
+        <source>The account %1 must be neither root&apos;s nor the caller&apos;s.</source>
+        <translation>La cuenta %1 no debe ser la de root ni la del usuario que lo solicita.</translation>
     </message>
     <message>
         <source>The application could not be started.</source>
@@ -3366,12 +3366,12 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
         <translation>El programa auxiliar recibió una opción que no conoce.</translation>
     </message>
     <message>
-        <source>The helper was not given a verb that it knows.</source>
-        <translation>El programa auxiliar no recibió ningún comando que conozca.</translation>
+        <source>The helper does not know this verb.</source>
+        <translation>El programa auxiliar no conoce este comando.</translation>
     </message>
     <message>
-        <source>The journal cannot be written.</source>
-        <translation>No se puede escribir el diario de cambios.</translation>
+        <source>The record of the former network settings cannot be written.</source>
+        <translation>No se puede escribir el registro de la configuración de red anterior.</translation>
     </message>
     <message>
         <source>The kill switch is not on, so no application needs to bypass it.</source>
@@ -3414,8 +3414,8 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
         <translation>La red vuelve a estar abierta, pero no se pudo iniciar de nuevo el servicio Tor del propio sistema. Pruebe: systemctl start %1.</translation>
     </message>
     <message>
-        <source>The network is open, but the firewall could not be given back.</source>
-        <translation>La red está abierta, pero no se pudo liberar el cortafuegos.</translation>
+        <source>The network is open, but pf could not be released.</source>
+        <translation>La red está abierta, pero no se pudo liberar pf.</translation>
     </message>
     <message>
         <source>The network is open, but the firewall&apos;s main rules could not be put back.</source>
@@ -3518,7 +3518,7 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
         <translation>Falta el programa %1 en este sistema.</translation>
     </message>
     <message>
-        <source>The SHA-256 of the program %1 is not the one to approve.</source>
+        <source>The SHA-256 of the program %1 differs from the one to approve.</source>
         <translation>El SHA-256 del programa %1 no es el que se va a aprobar.</translation>
     </message>
     <message>
@@ -3670,8 +3670,8 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
         <translation>Veldmark no está conectado, así que no se tocó la configuración DNS.</translation>
     </message>
     <message>
-        <source>sudo does not accept the rule.</source>
-        <translation>sudo no acepta la regla.</translation>
+        <source>sudo rejects the rule for passwordless mode.</source>
+        <translation>sudo rechaza la regla del modo sin contraseña.</translation>
     </message>
     <message>
         <source>sudo is not installed on this system.</source>
@@ -3787,7 +3787,7 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
     </message>
     <message>
         <source>the applications that have circuits of their own, and the loopback address
-by which Tor tells each from the others</source>
+by which Tor distinguishes them</source>
         <translation>las aplicaciones que tienen circuitos propios y la dirección de loopback
 por la que Tor distingue cada una de las demás</translation>
     </message>

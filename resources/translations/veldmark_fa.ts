@@ -109,8 +109,8 @@
         <translation>برای تغییر، اتصال را قطع کنید</translation>
     </message>
     <message>
-        <source>Bridges that are there can be tried one after the other, without another password</source>
-        <translation>پل‌های موجود را می‌توان یکی پس از دیگری و بدون گذرواژهٔ دیگر امتحان کرد</translation>
+        <source>Tries the available bridges in turn, without another password</source>
+        <translation>پل‌های موجود را یکی پس از دیگری و بدون گذرواژهٔ دیگر امتحان می‌کند</translation>
     </message>
 </context>
 <context>
@@ -3117,12 +3117,12 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>یک خط پل معتبر نیست.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your network settings.</source>
-        <translation>یادداشتی از آنچه باید بازگردانده شود آسیب دیده بود (⁨%1⁩). شبکه دوباره باز است؛ تنظیمات شبکهٔ خود را بررسی کنید.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your network settings.</source>
+        <translation>ثبتی از تنظیمات پیشین شبکه آسیب دیده بود (⁨%1⁩). شبکه دوباره باز است؛ تنظیمات شبکهٔ خود را بررسی کنید.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your proxy settings.</source>
-        <translation>یادداشتی از آنچه باید بازگردانده شود آسیب دیده بود (⁨%1⁩). شبکه دوباره باز است؛ تنظیمات پروکسی خود را بررسی کنید.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your proxy settings.</source>
+        <translation>ثبتی از تنظیمات پیشین شبکه آسیب دیده بود (⁨%1⁩). شبکه دوباره باز است؛ تنظیمات پروکسی خود را بررسی کنید.</translation>
     </message>
     <message>
         <source>An administrator password is needed to approve %1.</source>
@@ -3193,8 +3193,8 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>حساب %1 شناسهٔ کاربری معتبر ندارد.</translation>
     </message>
     <message>
-        <source>The account %1 must be one of its own.</source>
-        <translation>حساب %1 باید حسابی جداگانه باشد.</translation>
+        <source>The account %1 must be neither root&apos;s nor the caller&apos;s.</source>
+        <translation>حساب %1 نباید حساب ⁨root⁩ یا حساب کاربری باشد که درخواست می‌کند.</translation>
     </message>
     <message>
         <source>The application could not be started.</source>
@@ -3361,12 +3361,12 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>به برنامهٔ کمکی گزینه‌ای داده شد که نمی‌شناسد.</translation>
     </message>
     <message>
-        <source>The helper was not given a verb that it knows.</source>
-        <translation>به برنامهٔ کمکی فرمانی که بشناسد داده نشد.</translation>
+        <source>The helper does not know this verb.</source>
+        <translation>برنامهٔ کمکی این فرمان را نمی‌شناسد.</translation>
     </message>
     <message>
-        <source>The journal cannot be written.</source>
-        <translation>نمی‌توان دفتر ثبت را نوشت.</translation>
+        <source>The record of the former network settings cannot be written.</source>
+        <translation>نمی‌توان ثبت تنظیمات پیشین شبکه را نوشت.</translation>
     </message>
     <message>
         <source>The kill switch is not on, so no application needs to bypass it.</source>
@@ -3409,8 +3409,8 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>شبکه دوباره باز است، اما شروع دوبارهٔ سرویس Tor خود سیستم ممکن نشد. این را امتحان کنید: systemctl start %1.</translation>
     </message>
     <message>
-        <source>The network is open, but the firewall could not be given back.</source>
-        <translation>شبکه باز است، اما پس دادن دیوار آتش ممکن نشد.</translation>
+        <source>The network is open, but pf could not be released.</source>
+        <translation>شبکه باز است، اما آزاد کردن ⁨pf⁩ ممکن نشد.</translation>
     </message>
     <message>
         <source>The network is open, but the firewall&apos;s main rules could not be put back.</source>
@@ -3513,7 +3513,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>برنامهٔ ⁨%1⁩ در این سیستم وجود ندارد.</translation>
     </message>
     <message>
-        <source>The SHA-256 of the program %1 is not the one to approve.</source>
+        <source>The SHA-256 of the program %1 differs from the one to approve.</source>
         <translation>مقدار SHA-256 برنامهٔ ⁨%1⁩ همانی نیست که قرار بود تأیید شود.</translation>
     </message>
     <message>
@@ -3665,8 +3665,8 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>برنامهٔ Veldmark وصل نیست، پس به تنظیمات DNS دست زده نشد.</translation>
     </message>
     <message>
-        <source>sudo does not accept the rule.</source>
-        <translation>برنامهٔ sudo این قاعده را نمی‌پذیرد.</translation>
+        <source>sudo rejects the rule for passwordless mode.</source>
+        <translation>برنامهٔ sudo قاعدهٔ حالت بدون گذرواژه را نمی‌پذیرد.</translation>
     </message>
     <message>
         <source>sudo is not installed on this system.</source>
@@ -3782,7 +3782,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>the applications that have circuits of their own, and the loopback address
-by which Tor tells each from the others</source>
+by which Tor distinguishes them</source>
         <translation>برنامه‌هایی که مدارهای خودشان را دارند، و نشانی loopback که
 با آن Tor هر یک را از بقیه بازمی‌شناسد</translation>
     </message>

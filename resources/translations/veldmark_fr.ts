@@ -109,8 +109,8 @@
         <translation>Déconnecter pour modifier</translation>
     </message>
     <message>
-        <source>Bridges that are there can be tried one after the other, without another password</source>
-        <translation>Les ponts disponibles peuvent être essayés l’un après l’autre, sans nouveau mot de passe</translation>
+        <source>Tries the available bridges in turn, without another password</source>
+        <translation>Essaie les ponts disponibles l’un après l’autre, sans nouveau mot de passe</translation>
     </message>
 </context>
 <context>
@@ -3122,12 +3122,12 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
         <translation>Une ligne de pont n’est pas valide.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your network settings.</source>
-        <translation>Une note sur ce qu’il fallait rétablir était endommagée (%1). Le réseau est de nouveau ouvert ; vérifiez vos paramètres réseau.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your network settings.</source>
+        <translation>Un enregistrement des anciens paramètres réseau était endommagé (%1). Le réseau est de nouveau ouvert ; vérifiez vos paramètres réseau.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your proxy settings.</source>
-        <translation>Une note sur ce qu’il fallait rétablir était endommagée (%1). Le réseau est de nouveau ouvert ; vérifiez vos paramètres de proxy.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your proxy settings.</source>
+        <translation>Un enregistrement des anciens paramètres réseau était endommagé (%1). Le réseau est de nouveau ouvert ; vérifiez vos paramètres de proxy.</translation>
     </message>
     <message>
         <source>An administrator password is needed to approve %1.</source>
@@ -3198,8 +3198,8 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
         <translation>Le compte %1 n’a pas d’identifiant utilisateur valide.</translation>
     </message>
     <message>
-        <source>The account %1 must be one of its own.</source>
-        <translation>Le compte %1 doit être un compte à part.</translation>
+        <source>The account %1 must be neither root&apos;s nor the caller&apos;s.</source>
+        <translation>Le compte %1 ne doit être ni celui de root ni celui de l’utilisateur qui fait la demande.</translation>
     </message>
     <message>
         <source>The application could not be started.</source>
@@ -3366,12 +3366,12 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
         <translation>Le programme auxiliaire a reçu une option qu’il ne connaît pas.</translation>
     </message>
     <message>
-        <source>The helper was not given a verb that it knows.</source>
-        <translation>Le programme auxiliaire n’a reçu aucune commande qu’il connaisse.</translation>
+        <source>The helper does not know this verb.</source>
+        <translation>Le programme auxiliaire ne connaît pas cette commande.</translation>
     </message>
     <message>
-        <source>The journal cannot be written.</source>
-        <translation>Le journal interne ne peut pas être écrit.</translation>
+        <source>The record of the former network settings cannot be written.</source>
+        <translation>L’enregistrement des anciens paramètres réseau ne peut pas être écrit.</translation>
     </message>
     <message>
         <source>The kill switch is not on, so no application needs to bypass it.</source>
@@ -3414,8 +3414,8 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
         <translation>Le réseau est de nouveau ouvert, mais le service Tor du système n’a pas pu être redémarré. Essayez : systemctl start %1.</translation>
     </message>
     <message>
-        <source>The network is open, but the firewall could not be given back.</source>
-        <translation>Le réseau est ouvert, mais le pare-feu n’a pas pu être rendu au système.</translation>
+        <source>The network is open, but pf could not be released.</source>
+        <translation>Le réseau est ouvert, mais pf n’a pas pu être libéré.</translation>
     </message>
     <message>
         <source>The network is open, but the firewall&apos;s main rules could not be put back.</source>
@@ -3518,7 +3518,7 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
         <translation>Le programme %1 est absent de ce système.</translation>
     </message>
     <message>
-        <source>The SHA-256 of the program %1 is not the one to approve.</source>
+        <source>The SHA-256 of the program %1 differs from the one to approve.</source>
         <translation>L’empreinte SHA-256 du programme %1 n’est pas celle à approuver.</translation>
     </message>
     <message>
@@ -3670,8 +3670,8 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
         <translation>Veldmark n’est pas connecté ; les paramètres DNS n’ont donc pas été modifiés.</translation>
     </message>
     <message>
-        <source>sudo does not accept the rule.</source>
-        <translation>sudo n’accepte pas la règle.</translation>
+        <source>sudo rejects the rule for passwordless mode.</source>
+        <translation>sudo rejette la règle du mode sans mot de passe.</translation>
     </message>
     <message>
         <source>sudo is not installed on this system.</source>
@@ -3787,7 +3787,7 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
     </message>
     <message>
         <source>the applications that have circuits of their own, and the loopback address
-by which Tor tells each from the others</source>
+by which Tor distinguishes them</source>
         <translation>les applications qui ont leurs propres circuits, et l’adresse de bouclage
 qui permet à Tor de distinguer chacune des autres</translation>
     </message>

@@ -109,8 +109,8 @@
         <translation>Desconecte para alterar</translation>
     </message>
     <message>
-        <source>Bridges that are there can be tried one after the other, without another password</source>
-        <translation>As pontes disponíveis podem ser testadas uma após a outra, sem outra senha</translation>
+        <source>Tries the available bridges in turn, without another password</source>
+        <translation>Testa as pontes disponíveis uma após a outra, sem outra senha</translation>
     </message>
 </context>
 <context>
@@ -3122,12 +3122,12 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
         <translation>Uma linha de ponte não é válida.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your network settings.</source>
-        <translation>Uma anotação do que restaurar estava danificada (%1). A rede está desbloqueada de novo; confira suas configurações de rede.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your network settings.</source>
+        <translation>Um registro das configurações de rede anteriores estava danificado (%1). A rede está desbloqueada de novo; confira suas configurações de rede.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your proxy settings.</source>
-        <translation>Uma anotação do que restaurar estava danificada (%1). A rede está desbloqueada de novo; confira suas configurações de proxy.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your proxy settings.</source>
+        <translation>Um registro das configurações de rede anteriores estava danificado (%1). A rede está desbloqueada de novo; confira suas configurações de proxy.</translation>
     </message>
     <message>
         <source>An administrator password is needed to approve %1.</source>
@@ -3198,8 +3198,8 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
         <translation>A conta %1 não tem um ID de usuário válido.</translation>
     </message>
     <message>
-        <source>The account %1 must be one of its own.</source>
-        <translation>A conta %1 precisa ser uma conta separada.</translation>
+        <source>The account %1 must be neither root&apos;s nor the caller&apos;s.</source>
+        <translation>A conta %1 não pode ser a do root nem a do usuário que faz o pedido.</translation>
     </message>
     <message>
         <source>The application could not be started.</source>
@@ -3366,12 +3366,12 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
         <translation>O programa auxiliar recebeu uma opção que não conhece.</translation>
     </message>
     <message>
-        <source>The helper was not given a verb that it knows.</source>
-        <translation>O programa auxiliar não recebeu um comando que conheça.</translation>
+        <source>The helper does not know this verb.</source>
+        <translation>O programa auxiliar não conhece este comando.</translation>
     </message>
     <message>
-        <source>The journal cannot be written.</source>
-        <translation>Não é possível gravar o diário de alterações.</translation>
+        <source>The record of the former network settings cannot be written.</source>
+        <translation>Não é possível gravar o registro das configurações de rede anteriores.</translation>
     </message>
     <message>
         <source>The kill switch is not on, so no application needs to bypass it.</source>
@@ -3414,8 +3414,8 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
         <translation>A rede está desbloqueada de novo, mas não foi possível iniciar de novo o serviço Tor do próprio sistema. Tente: systemctl start %1.</translation>
     </message>
     <message>
-        <source>The network is open, but the firewall could not be given back.</source>
-        <translation>A rede está desbloqueada, mas não foi possível devolver o firewall ao sistema.</translation>
+        <source>The network is open, but pf could not be released.</source>
+        <translation>A rede está desbloqueada, mas não foi possível liberar o pf.</translation>
     </message>
     <message>
         <source>The network is open, but the firewall&apos;s main rules could not be put back.</source>
@@ -3518,7 +3518,7 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
         <translation>Falta o programa %1 neste sistema.</translation>
     </message>
     <message>
-        <source>The SHA-256 of the program %1 is not the one to approve.</source>
+        <source>The SHA-256 of the program %1 differs from the one to approve.</source>
         <translation>O SHA-256 do programa %1 não é o que deve ser aprovado.</translation>
     </message>
     <message>
@@ -3670,8 +3670,8 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
         <translation>O Veldmark não está conectado, então as configurações de DNS não foram alteradas.</translation>
     </message>
     <message>
-        <source>sudo does not accept the rule.</source>
-        <translation>O sudo não aceita a regra.</translation>
+        <source>sudo rejects the rule for passwordless mode.</source>
+        <translation>O sudo rejeita a regra do modo sem senha.</translation>
     </message>
     <message>
         <source>sudo is not installed on this system.</source>
@@ -3787,7 +3787,7 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
     </message>
     <message>
         <source>the applications that have circuits of their own, and the loopback address
-by which Tor tells each from the others</source>
+by which Tor distinguishes them</source>
         <translation>mostra os aplicativos que têm circuitos próprios e o endereço de loopback
 pelo qual o Tor distingue cada um dos demais</translation>
     </message>

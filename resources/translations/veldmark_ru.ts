@@ -109,8 +109,8 @@
         <translation>Чтобы изменить, отключитесь</translation>
     </message>
     <message>
-        <source>Bridges that are there can be tried one after the other, without another password</source>
-        <translation>Имеющиеся мосты можно пробовать один за другим, без нового пароля</translation>
+        <source>Tries the available bridges in turn, without another password</source>
+        <translation>Пробует имеющиеся мосты один за другим, без нового пароля</translation>
     </message>
 </context>
 <context>
@@ -3127,12 +3127,12 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>Недопустимая строка моста.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your network settings.</source>
-        <translation>Запись о том, что нужно восстановить, повреждена (%1). Сеть снова открыта; проверьте настройки сети.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your network settings.</source>
+        <translation>Запись о прежних настройках сети повреждена (%1). Сеть снова открыта; проверьте настройки сети.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your proxy settings.</source>
-        <translation>Запись о том, что нужно восстановить, повреждена (%1). Сеть снова открыта; проверьте настройки прокси.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your proxy settings.</source>
+        <translation>Запись о прежних настройках сети повреждена (%1). Сеть снова открыта; проверьте настройки прокси.</translation>
     </message>
     <message>
         <source>An administrator password is needed to approve %1.</source>
@@ -3203,8 +3203,8 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>У учётной записи %1 нет допустимого идентификатора пользователя.</translation>
     </message>
     <message>
-        <source>The account %1 must be one of its own.</source>
-        <translation>Учётная запись %1 должна быть отдельной.</translation>
+        <source>The account %1 must be neither root&apos;s nor the caller&apos;s.</source>
+        <translation>Учётная запись %1 не должна принадлежать ни root, ни пользователю, от которого исходит запрос.</translation>
     </message>
     <message>
         <source>The application could not be started.</source>
@@ -3371,12 +3371,12 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>Вспомогательной программе передан неизвестный ей параметр.</translation>
     </message>
     <message>
-        <source>The helper was not given a verb that it knows.</source>
-        <translation>Вспомогательной программе не передана известная ей команда.</translation>
+        <source>The helper does not know this verb.</source>
+        <translation>Вспомогательной программе эта команда не известна.</translation>
     </message>
     <message>
-        <source>The journal cannot be written.</source>
-        <translation>Не удаётся записать журнал восстановления.</translation>
+        <source>The record of the former network settings cannot be written.</source>
+        <translation>Не удаётся записать сведения о прежних настройках сети.</translation>
     </message>
     <message>
         <source>The kill switch is not on, so no application needs to bypass it.</source>
@@ -3419,8 +3419,8 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>Сеть снова открыта, но снова запустить системную службу Tor не удалось. Попробуйте: systemctl start %1.</translation>
     </message>
     <message>
-        <source>The network is open, but the firewall could not be given back.</source>
-        <translation>Сеть открыта, но освободить брандмауэр не удалось.</translation>
+        <source>The network is open, but pf could not be released.</source>
+        <translation>Сеть открыта, но освободить pf не удалось.</translation>
     </message>
     <message>
         <source>The network is open, but the firewall&apos;s main rules could not be put back.</source>
@@ -3523,7 +3523,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>В этой системе нет программы %1.</translation>
     </message>
     <message>
-        <source>The SHA-256 of the program %1 is not the one to approve.</source>
+        <source>The SHA-256 of the program %1 differs from the one to approve.</source>
         <translation>SHA-256 программы %1 — не тот, который нужно было одобрить.</translation>
     </message>
     <message>
@@ -3675,8 +3675,8 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>Veldmark не подключён, поэтому настройки DNS оставлены без изменений.</translation>
     </message>
     <message>
-        <source>sudo does not accept the rule.</source>
-        <translation>sudo не принимает правило.</translation>
+        <source>sudo rejects the rule for passwordless mode.</source>
+        <translation>sudo отклоняет правило для режима без пароля.</translation>
     </message>
     <message>
         <source>sudo is not installed on this system.</source>
@@ -3792,7 +3792,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>the applications that have circuits of their own, and the loopback address
-by which Tor tells each from the others</source>
+by which Tor distinguishes them</source>
         <translation>приложения со своими цепочками и адрес loopback, по которому Tor отличает
 каждое от остальных</translation>
     </message>

@@ -109,8 +109,8 @@
         <translation>Önce bağlantıyı kesin</translation>
     </message>
     <message>
-        <source>Bridges that are there can be tried one after the other, without another password</source>
-        <translation>Var olan köprüler, başka bir parola istenmeden birbiri ardına denenebilir</translation>
+        <source>Tries the available bridges in turn, without another password</source>
+        <translation>Var olan köprüleri, başka bir parola istemeden birbiri ardına dener</translation>
     </message>
 </context>
 <context>
@@ -3117,12 +3117,12 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
         <translation>Bir köprü satırı geçersiz.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your network settings.</source>
-        <translation>Neyin geri yükleneceğini belirten bir not bozulmuş (%1). Ağdaki engel kaldırıldı; ağ ayarlarınızı denetleyin.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your network settings.</source>
+        <translation>Önceki ağ ayarlarının bir kaydı bozulmuş (%1). Ağdaki engel kaldırıldı; ağ ayarlarınızı denetleyin.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your proxy settings.</source>
-        <translation>Neyin geri yükleneceğini belirten bir not bozulmuş (%1). Ağdaki engel kaldırıldı; vekil sunucu ayarlarınızı denetleyin.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your proxy settings.</source>
+        <translation>Önceki ağ ayarlarının bir kaydı bozulmuş (%1). Ağdaki engel kaldırıldı; vekil sunucu ayarlarınızı denetleyin.</translation>
     </message>
     <message>
         <source>An administrator password is needed to approve %1.</source>
@@ -3193,8 +3193,8 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
         <translation>%1 hesabının geçerli bir kullanıcı numarası yok.</translation>
     </message>
     <message>
-        <source>The account %1 must be one of its own.</source>
-        <translation>%1 hesabı yalnızca bu iş için ayrılmış bir hesap olmalı.</translation>
+        <source>The account %1 must be neither root&apos;s nor the caller&apos;s.</source>
+        <translation>%1 hesabı ne root hesabı ne de istekte bulunan kullanıcının hesabı olmalı.</translation>
     </message>
     <message>
         <source>The application could not be started.</source>
@@ -3361,12 +3361,12 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
         <translation>Yardımcı programa bilmediği bir seçenek verildi.</translation>
     </message>
     <message>
-        <source>The helper was not given a verb that it knows.</source>
-        <translation>Yardımcı programa bildiği bir komut verilmedi.</translation>
+        <source>The helper does not know this verb.</source>
+        <translation>Yardımcı program bu komutu tanımıyor.</translation>
     </message>
     <message>
-        <source>The journal cannot be written.</source>
-        <translation>Geri yükleme kaydı yazılamıyor.</translation>
+        <source>The record of the former network settings cannot be written.</source>
+        <translation>Önceki ağ ayarlarının kaydı yazılamıyor.</translation>
     </message>
     <message>
         <source>The kill switch is not on, so no application needs to bypass it.</source>
@@ -3409,8 +3409,8 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
         <translation>Ağdaki engel kaldırıldı, ama sistemin kendi Tor hizmeti yeniden başlatılamadı. Şunu deneyin: systemctl start %1.</translation>
     </message>
     <message>
-        <source>The network is open, but the firewall could not be given back.</source>
-        <translation>Ağdaki engel kaldırıldı, ama güvenlik duvarı geri verilemedi.</translation>
+        <source>The network is open, but pf could not be released.</source>
+        <translation>Ağdaki engel kaldırıldı, ama pf serbest bırakılamadı.</translation>
     </message>
     <message>
         <source>The network is open, but the firewall&apos;s main rules could not be put back.</source>
@@ -3513,7 +3513,7 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
         <translation>Bu sistemde %1 programı eksik.</translation>
     </message>
     <message>
-        <source>The SHA-256 of the program %1 is not the one to approve.</source>
+        <source>The SHA-256 of the program %1 differs from the one to approve.</source>
         <translation>%1 programının SHA-256 özeti onaylanacak olan değil.</translation>
     </message>
     <message>
@@ -3665,8 +3665,8 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
         <translation>Veldmark bağlı değil, bu yüzden DNS ayarlarına dokunulmadı.</translation>
     </message>
     <message>
-        <source>sudo does not accept the rule.</source>
-        <translation>sudo, kuralı kabul etmiyor.</translation>
+        <source>sudo rejects the rule for passwordless mode.</source>
+        <translation>sudo, parolasız kipin kuralını reddediyor.</translation>
     </message>
     <message>
         <source>sudo is not installed on this system.</source>
@@ -3782,7 +3782,7 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
     </message>
     <message>
         <source>the applications that have circuits of their own, and the loopback address
-by which Tor tells each from the others</source>
+by which Tor distinguishes them</source>
         <translation>kendi devreleri olan uygulamalar ve Tor&apos;un her birini diğerlerinden
 ayırt ettiği geri döngü adresi</translation>
     </message>

@@ -109,8 +109,8 @@
         <translation>Щоб змінити, від’єднайтеся</translation>
     </message>
     <message>
-        <source>Bridges that are there can be tried one after the other, without another password</source>
-        <translation>Наявні мости можна пробувати один за одним, без нового пароля</translation>
+        <source>Tries the available bridges in turn, without another password</source>
+        <translation>Пробує наявні мости один за одним, без нового пароля</translation>
     </message>
 </context>
 <context>
@@ -3127,12 +3127,12 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>Рядок моста хибний.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your network settings.</source>
-        <translation>Запис про те, що слід відновити, було пошкоджено (%1). Мережу знову розблоковано; перевірте налаштування мережі.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your network settings.</source>
+        <translation>Запис про попередні налаштування мережі було пошкоджено (%1). Мережу знову розблоковано; перевірте налаштування мережі.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your proxy settings.</source>
-        <translation>Запис про те, що слід відновити, було пошкоджено (%1). Мережу знову розблоковано; перевірте налаштування проксі.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your proxy settings.</source>
+        <translation>Запис про попередні налаштування мережі було пошкоджено (%1). Мережу знову розблоковано; перевірте налаштування проксі.</translation>
     </message>
     <message>
         <source>An administrator password is needed to approve %1.</source>
@@ -3203,8 +3203,8 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>Обліковий запис %1 не має правильного ідентифікатора користувача.</translation>
     </message>
     <message>
-        <source>The account %1 must be one of its own.</source>
-        <translation>Обліковий запис %1 має бути окремим.</translation>
+        <source>The account %1 must be neither root&apos;s nor the caller&apos;s.</source>
+        <translation>Обліковий запис %1 не повинен належати ні root, ні користувачеві, від якого надійшов запит.</translation>
     </message>
     <message>
         <source>The application could not be started.</source>
@@ -3371,12 +3371,12 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>Допоміжна програма отримала невідомий їй параметр.</translation>
     </message>
     <message>
-        <source>The helper was not given a verb that it knows.</source>
-        <translation>Допоміжна програма не отримала жодної відомої їй команди.</translation>
+        <source>The helper does not know this verb.</source>
+        <translation>Допоміжній програмі ця команда невідома.</translation>
     </message>
     <message>
-        <source>The journal cannot be written.</source>
-        <translation>Не вдається записати журнал відновлення.</translation>
+        <source>The record of the former network settings cannot be written.</source>
+        <translation>Не вдається записати відомості про попередні налаштування мережі.</translation>
     </message>
     <message>
         <source>The kill switch is not on, so no application needs to bypass it.</source>
@@ -3419,8 +3419,8 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>Мережу знову розблоковано, але знову запустити системну службу Tor не вдалося. Спробуйте: systemctl start %1.</translation>
     </message>
     <message>
-        <source>The network is open, but the firewall could not be given back.</source>
-        <translation>Мережу розблоковано, але звільнити брандмауер не вдалося.</translation>
+        <source>The network is open, but pf could not be released.</source>
+        <translation>Мережу розблоковано, але звільнити pf не вдалося.</translation>
     </message>
     <message>
         <source>The network is open, but the firewall&apos;s main rules could not be put back.</source>
@@ -3523,7 +3523,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>У цій системі бракує програми %1.</translation>
     </message>
     <message>
-        <source>The SHA-256 of the program %1 is not the one to approve.</source>
+        <source>The SHA-256 of the program %1 differs from the one to approve.</source>
         <translation>SHA-256 програми %1 — не той, який треба було схвалити.</translation>
     </message>
     <message>
@@ -3675,8 +3675,8 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>Veldmark не під’єднано, тому налаштувань DNS не змінено.</translation>
     </message>
     <message>
-        <source>sudo does not accept the rule.</source>
-        <translation>sudo не приймає правила.</translation>
+        <source>sudo rejects the rule for passwordless mode.</source>
+        <translation>sudo відхиляє правило для режиму без пароля.</translation>
     </message>
     <message>
         <source>sudo is not installed on this system.</source>
@@ -3792,7 +3792,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>the applications that have circuits of their own, and the loopback address
-by which Tor tells each from the others</source>
+by which Tor distinguishes them</source>
         <translation>застосунки, що мають власні ланцюги, і адреса loopback,
 за якою Tor відрізняє кожен від решти</translation>
     </message>

@@ -109,8 +109,8 @@
         <translation>断开后才能更改</translation>
     </message>
     <message>
-        <source>Bridges that are there can be tried one after the other, without another password</source>
-        <translation>可以依次尝试现有的网桥，无需再次输入密码</translation>
+        <source>Tries the available bridges in turn, without another password</source>
+        <translation>依次尝试现有的网桥，无需再次输入密码</translation>
     </message>
 </context>
 <context>
@@ -3117,12 +3117,12 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>有一个网桥行无效。</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your network settings.</source>
-        <translation>一份待还原设置的记录已损坏（%1）。网络已解除阻断；请检查您的网络设置。</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your network settings.</source>
+        <translation>一份先前网络设置的记录已损坏（%1）。网络已解除阻断；请检查您的网络设置。</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your proxy settings.</source>
-        <translation>一份待还原设置的记录已损坏（%1）。网络已解除阻断；请检查您的代理设置。</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your proxy settings.</source>
+        <translation>一份先前网络设置的记录已损坏（%1）。网络已解除阻断；请检查您的代理设置。</translation>
     </message>
     <message>
         <source>An administrator password is needed to approve %1.</source>
@@ -3193,8 +3193,8 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>账户 %1 没有有效的用户 ID。</translation>
     </message>
     <message>
-        <source>The account %1 must be one of its own.</source>
-        <translation>账户 %1 必须是专用账户。</translation>
+        <source>The account %1 must be neither root&apos;s nor the caller&apos;s.</source>
+        <translation>账户 %1 不能是 root 的账户，也不能是发出请求的用户的账户。</translation>
     </message>
     <message>
         <source>The application could not be started.</source>
@@ -3361,12 +3361,12 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>辅助程序收到了它不认识的选项。</translation>
     </message>
     <message>
-        <source>The helper was not given a verb that it knows.</source>
-        <translation>辅助程序没有收到它认识的命令。</translation>
+        <source>The helper does not know this verb.</source>
+        <translation>辅助程序不认识此命令。</translation>
     </message>
     <message>
-        <source>The journal cannot be written.</source>
-        <translation>无法写入操作记录。</translation>
+        <source>The record of the former network settings cannot be written.</source>
+        <translation>无法写入先前网络设置的记录。</translation>
     </message>
     <message>
         <source>The kill switch is not on, so no application needs to bypass it.</source>
@@ -3409,8 +3409,8 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>网络已解除阻断，但未能重新启动系统自带的 Tor 服务。请尝试：systemctl start %1。</translation>
     </message>
     <message>
-        <source>The network is open, but the firewall could not be given back.</source>
-        <translation>网络未被阻断，但未能交还防火墙的控制权。</translation>
+        <source>The network is open, but pf could not be released.</source>
+        <translation>网络未被阻断，但未能释放 pf。</translation>
     </message>
     <message>
         <source>The network is open, but the firewall&apos;s main rules could not be put back.</source>
@@ -3513,7 +3513,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>此系统缺少程序 %1。</translation>
     </message>
     <message>
-        <source>The SHA-256 of the program %1 is not the one to approve.</source>
+        <source>The SHA-256 of the program %1 differs from the one to approve.</source>
         <translation>程序 %1 的 SHA-256 与要批准的不符。</translation>
     </message>
     <message>
@@ -3665,8 +3665,8 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>Veldmark 未连接，因此没有改动 DNS 设置。</translation>
     </message>
     <message>
-        <source>sudo does not accept the rule.</source>
-        <translation>sudo 不接受该规则。</translation>
+        <source>sudo rejects the rule for passwordless mode.</source>
+        <translation>sudo 拒绝了免密码模式的规则。</translation>
     </message>
     <message>
         <source>sudo is not installed on this system.</source>
@@ -3782,7 +3782,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>the applications that have circuits of their own, and the loopback address
-by which Tor tells each from the others</source>
+by which Tor distinguishes them</source>
         <translation>拥有自己线路的应用，以及 Tor 用来
 区分各个应用的回环地址</translation>
     </message>

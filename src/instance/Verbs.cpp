@@ -126,7 +126,7 @@ std::vector<Verb> makeTable()
          .options = {json},
          .help = Text::tr(
              "the applications that have circuits of their own, and the loopback address\n"
-             "by which Tor tells each from the others")},
+             "by which Tor distinguishes them")},
         {.id = Id::renew,
          .name = QStringLiteral("renew"),
          .operands = {QStringLiteral("APP")},

@@ -14,10 +14,10 @@ constexpr const char *sources[] = {
     QT_TRANSLATE_NOOP("veldmark::Text", "A bridge line is not valid."),
     QT_TRANSLATE_NOOP(
         "veldmark::Text",
-        "A note of what to restore was damaged (%1). The network is open again; check your network settings."),
+        "A record of the former network settings was damaged (%1). The network is open again; check your network settings."),
     QT_TRANSLATE_NOOP(
         "veldmark::Text",
-        "A note of what to restore was damaged (%1). The network is open again; check your proxy settings."),
+        "A record of the former network settings was damaged (%1). The network is open again; check your proxy settings."),
     QT_TRANSLATE_NOOP("veldmark::Text", "An administrator password is needed to approve %1."),
     QT_TRANSLATE_NOOP("veldmark::Text",
                       "An administrator password is needed to change the running strict session."),
@@ -41,10 +41,11 @@ constexpr const char *sources[] = {
     QT_TRANSLATE_NOOP("veldmark::Text", "The DNS servers of systemd-resolved cannot be changed."),
     QT_TRANSLATE_NOOP("veldmark::Text", "The DNS settings cannot be changed."),
     QT_TRANSLATE_NOOP("veldmark::Text", "The DNS settings could not be put back."),
-    QT_TRANSLATE_NOOP("veldmark::Text", "The SHA-256 of the program %1 is not the one to approve."),
+    QT_TRANSLATE_NOOP("veldmark::Text",
+                      "The SHA-256 of the program %1 differs from the one to approve."),
     QT_TRANSLATE_NOOP("veldmark::Text", "The account %1 cannot be created."),
     QT_TRANSLATE_NOOP("veldmark::Text", "The account %1 has no valid user id."),
-    QT_TRANSLATE_NOOP("veldmark::Text", "The account %1 must be one of its own."),
+    QT_TRANSLATE_NOOP("veldmark::Text", "The account %1 must be neither root's nor the caller's."),
     QT_TRANSLATE_NOOP("veldmark::Text", "The application could not be started (%1)."),
     QT_TRANSLATE_NOOP("veldmark::Text", "The application could not be started."),
     QT_TRANSLATE_NOOP("veldmark::Text", "The caller's user id is not a number."),
@@ -95,14 +96,13 @@ constexpr const char *sources[] = {
     QT_TRANSLATE_NOOP("veldmark::Text", "The former network settings could not all be restored."),
     QT_TRANSLATE_NOOP("veldmark::Text", "The hashed control password is not valid."),
     QT_TRANSLATE_NOOP("veldmark::Text", "The helper could not be copied to %1."),
+    QT_TRANSLATE_NOOP("veldmark::Text", "The helper does not know this verb."),
     QT_TRANSLATE_NOOP("veldmark::Text", "The helper must run as root."),
     QT_TRANSLATE_NOOP("veldmark::Text",
                       "The helper opens applications only for the user who asks."),
     QT_TRANSLATE_NOOP("veldmark::Text", "The helper stopped unexpectedly."),
     QT_TRANSLATE_NOOP("veldmark::Text", "The helper was given an option that it does not know."),
-    QT_TRANSLATE_NOOP("veldmark::Text", "The helper was not given a verb that it knows."),
     QT_TRANSLATE_NOOP("veldmark::Text", "The home folder cannot be entered."),
-    QT_TRANSLATE_NOOP("veldmark::Text", "The journal cannot be written."),
     QT_TRANSLATE_NOOP("veldmark::Text", "The kill switch could not be switched off (%1)."),
     QT_TRANSLATE_NOOP(
         "veldmark::Text",
@@ -132,8 +132,7 @@ constexpr const char *sources[] = {
     QT_TRANSLATE_NOOP(
         "veldmark::Text",
         "The network is open again, but the system's own Tor service could not be started again. Try: systemctl start %1."),
-    QT_TRANSLATE_NOOP("veldmark::Text",
-                      "The network is open, but the firewall could not be given back."),
+    QT_TRANSLATE_NOOP("veldmark::Text", "The network is open, but pf could not be released."),
     QT_TRANSLATE_NOOP("veldmark::Text",
                       "The network is open, but the firewall's main rules could not be put back."),
     QT_TRANSLATE_NOOP(
@@ -165,6 +164,8 @@ constexpr const char *sources[] = {
     QT_TRANSLATE_NOOP("veldmark::Text", "The program could not be started."),
     QT_TRANSLATE_NOOP("veldmark::Text", "The program given with %1 is not an executable file."),
     QT_TRANSLATE_NOOP("veldmark::Text", "The program veldmark-launch is missing."),
+    QT_TRANSLATE_NOOP("veldmark::Text",
+                      "The record of the former network settings cannot be written."),
     QT_TRANSLATE_NOOP("veldmark::Text", "The session marker cannot be written."),
     QT_TRANSLATE_NOOP("veldmark::Text",
                       "The settings of the network service %1 cannot be changed."),
@@ -218,8 +219,8 @@ constexpr const char *sources[] = {
     QT_TRANSLATE_NOOP("veldmark::Text", "a program (process %1)"),
     QT_TRANSLATE_NOOP("veldmark::Text", "a program of the account with the id %1"),
     QT_TRANSLATE_NOOP("veldmark::Text", "it ended without a message."),
-    QT_TRANSLATE_NOOP("veldmark::Text", "sudo does not accept the rule."),
     QT_TRANSLATE_NOOP("veldmark::Text", "sudo is not installed on this system."),
+    QT_TRANSLATE_NOOP("veldmark::Text", "sudo rejects the rule for passwordless mode."),
 };
 
 // The helper's addition to a sentence when the kill switch stays on.

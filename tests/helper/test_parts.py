@@ -305,7 +305,7 @@ class Environment(InAFolder):
                 check=False,
                 timeout=60,
             )
-            self.assertEqual((done.returncode, done.stderr), (1, "ERROR: The helper was not given a verb that it knows.\n"))
+            self.assertEqual((done.returncode, done.stderr), (1, "ERROR: The helper does not know this verb.\n"))
             self.assertEqual(len(os.listdir(seen)), 1)
 
 

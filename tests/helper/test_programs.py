@@ -64,7 +64,7 @@ class Programs(HelperTest):
         done = self.machine.help(
             "approve", "--program", "/home/alice/tor", "--as", "tor", "--sha256", digest, env=PROMPT, check=False
         )
-        self.assertOneLine(done, "is not the one to approve")
+        self.assertOneLine(done, "differs from the one to approve")
         self.assertEqual(self.machine.shell("ls /var/lib/veldmark/programs"), "")
 
     def test_rule_approves_nothing(self):

@@ -470,7 +470,9 @@ class ResolverFile(HelperTest):
                 self.machine.shell(f"{setup}; mkdir -p /var/lib/veldmark/journal/30-resolver.new/x")
                 before = self.machine.snapshot()
                 try:
-                    self.assertOneLine(self.machine.connect(strict=0, check=False), "The journal cannot be written.")
+                    self.assertOneLine(
+                        self.machine.connect(strict=0, check=False), "The record of the former network settings cannot be written."
+                    )
                     self.assertEqual(self.machine.snapshot(), before)
                 finally:
                     self.machine.shell("rm -r /var/lib/veldmark/journal/30-resolver.new")

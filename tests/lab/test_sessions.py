@@ -174,7 +174,7 @@ class Sessions(LabCase):
             self.shown_until(terminal, "> ")
             self.lab.host.run(["sh", "-c", "echo >>/home/alice/tor"], check=True)
             os.write(terminal, b"yes\n")
-            self.assertIn("The SHA-256 of the program /home/alice/tor is not the one to approve.", self.shown_until(terminal))
+            self.assertIn("The SHA-256 of the program /home/alice/tor differs from the one to approve.", self.shown_until(terminal))
             self.assertEqual(running.wait(30), 1)
         self.assertFalse(self.lab.host.path(MARKER).exists())
         self.assertEqual(self.lab.host.run(["find", "/var/lib/veldmark/programs", "-type", "f"]).stdout, "")

@@ -155,7 +155,8 @@ private Q_SLOTS:
     {
         Workbench bench;
         TorController &c = bench.controller();
-        bench.failHelper(u"connect"_s, u"The journal cannot be written."_s);
+        bench.failHelper(u"connect"_s,
+                         u"The record of the former network settings cannot be written."_s);
         bench.connect();
         const QJsonObject state = publishedState(c);
         const QJsonObject texts = publishedTexts(c);

@@ -25,7 +25,7 @@ Pane {
             symbol: "arrow.triangle.branch"
             title: qsTr("When Tor is blocked")
             subtitle: pane.model.torLocked ? qsTr("Disconnect to change")
-                    : qsTr("Bridges that are there can be tried one after the other, without another password")
+                    : qsTr("Tries the available bridges in turn, without another password")
             enabled: !pane.model.torLocked
             names: pane.model.climbNames
             current: pane.model.climbIndex
