@@ -1,4 +1,4 @@
-// The time of one search for transport programs in the system below FOLDER, as one line of JSON.
+// The time of one search for bridge programs in the system below FOLDER, as one line of JSON.
 // Usage: DiscoveryBench FOLDER. Build it with optimisation.
 #include "bridges/PluggableTransports.h"
 

@@ -10,7 +10,7 @@
     prompt      the time that terminal mode's hook adds to a shell's prompt
     desktop     redrawing the windows; first frame, memory and processor time of the application against a bare tray program
     connect     from the call of connect() to connected, and disconnect, against a bare tor with the same torrc, interleaved
-    discovery   the search for transport programs in a folder of 12,000 files against find, interleaved
+    discovery   the search for bridge programs in a folder of 12,000 files against find, interleaved
     service     memory, processor time and wake-ups of veldmarkctl run, connected, against nyx
 
 A group that needs Tor has a private Tor network, which ends with it. Everything runs on this machine in its own network namespaces.

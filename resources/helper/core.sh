@@ -28,7 +28,7 @@
 #   proxy, gnome, kde, services                 the desktop's proxy settings; macOS's network services
 #   bypass, identify                            applications that bypass Tor; circuits of their own for each application
 #   watcher, owner                              the process that keeps the rules in force; whose session it is
-#   session, privileged, main                   connect and disconnect; password-free mode; which verb runs
+#   session, privileged, main                   connect and disconnect; passwordless mode; which verb runs
 # put_KIND sets a part of the session up after it has noted the former state in the journal entry NUMBER-KIND, and
 # undo_KIND restores that. Functions named print_... are pure: they write text to standard output and change nothing.
 
@@ -55,7 +55,7 @@ SAID=''         # set after the first message
 LOCKED=''       # set while a message must wait until the locks are released
 MESSAGE=''      # the waiting message
 CALLER_UID=''   # the session's user: the uid that sudo or pkexec reports, otherwise 0
-PROMPTED=''     # 1 when an administrator approved this very run, empty under the password-free rule
+PROMPTED=''     # 1 when an administrator approved this very run, empty under the passwordless rule
 BY_DIALOG=''    # 1 when that was in a dialog that showed only the verb
 VERB=''
 SELF=''         # absolute path of this file
@@ -122,7 +122,7 @@ clean_environment() {
   done
 }
 
-# let_in_by_rule: whether sudo may have run this through the password-free rule, which covers only the installed
+# let_in_by_rule: whether sudo may have run this through the passwordless rule, which covers only the installed
 # copy. Another copy runs by a right of the caller's own, by which an administrator allows more than this helper.
 # Unclear cases count as the rule: a copy that is being removed, or one passed as an open file.
 let_in_by_rule() {

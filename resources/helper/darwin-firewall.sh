@@ -215,7 +215,7 @@ undo_firewall() {
     return 3
   fi
   if ! token=$(held_token) || { [[ -n $token ]] && ! pfctl -q -X "$token"; }; then
-    UNDONE="The network is open, but the firewall could not be given back."
+    UNDONE="The network is open, but pf could not be released."
     return 3
   fi
 }

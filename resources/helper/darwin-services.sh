@@ -197,7 +197,7 @@ put_services() {
     if ! read_service "$name"; then
       reason="The settings of the network service $name cannot be read."
     else
-      note_service "$name" "$location" || die "The journal cannot be written."
+      note_service "$name" "$location" || die "The record of the former network settings cannot be written."
       if set_service "$name"; then
         put=1
         continue

@@ -68,7 +68,7 @@ undo_entry() {
   ((done == 0)) || return "$done"
   journal_drop "$name"
   if ((status == 2)); then
-    UNDONE="A note of what to restore was damaged (${name#*-}). The network is open again; check your network settings."
+    UNDONE="A record of the former network settings was damaged (${name#*-}). The network is open again; check your network settings."
     return 2
   fi
 }

@@ -210,7 +210,7 @@ ready_account() {
     read_accounts
   fi
   { is_uid "$TOR_UID" && is_uid "$TOR_GID"; } || die "The account $TOR_ACCOUNT has no valid user id."
-  [[ $TOR_UID != 0 && $TOR_UID != "$CALLER_UID" ]] || die "The account $TOR_ACCOUNT must be one of its own."
+  [[ $TOR_UID != 0 && $TOR_UID != "$CALLER_UID" ]] || die "The account $TOR_ACCOUNT must be neither root's nor the caller's."
 }
 
 # SECONDS UID GID GROUPS COMMAND...: gives up root permanently. The command is killed after SECONDS; 0 means no

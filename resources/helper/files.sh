@@ -43,7 +43,7 @@ journal_put() {
 }
 
 # journal_must NAME LINE...: likewise, or ends the run. journal_once: only when there is no such entry yet.
-journal_must() { journal_put "$@" || die "The journal cannot be written."; }
+journal_must() { journal_put "$@" || die "The record of the former network settings cannot be written."; }
 journal_once() { journal_has "$1" || journal_must "$@"; }
 
 journal_has() { [[ -f $JOURNAL/$1 && ! -L $JOURNAL/$1 ]]; }

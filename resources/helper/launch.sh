@@ -1,6 +1,6 @@
 
 # ---- Opening an application that bypasses Tor --------------------------------------------------------------
-# Only as the caller, and only after a prompt, also in password-free mode: otherwise any program of the user's could
+# Only as the caller, and only after a prompt, also in passwordless mode: otherwise any program of the user's could
 # bypass Tor unnoticed while the kill switch is reported as on. The system's own part defines find_launcher,
 # run_launcher and bypass_stands.
 

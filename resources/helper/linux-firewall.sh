@@ -80,7 +80,7 @@ print_no_early_data() {
 # print_side_chains TOR_UID USER_UID GROUP: the chains for packets that the output and input chains examine further.
 # loopback: packets that stay on this computer. Only packets that open a connection, or answer an opening, are examined: later ones may
 # belong to a socket that its program has already closed.
-# from_loopback, look_ups: a socket that shares the DNS port with Tor's receives no datagram: on input the rule sees which socket a datagram
+# from_loopback, lookups: a socket that shares the DNS port with Tor's receives no datagram: on input the rule sees which socket a datagram
 # would reach. This needs Tor's group. A datagram shorter than a DNS header (12 bytes after the 8 of UDP) ends some versions of Tor, so it
 # is dropped. Other lookups that do not reach Tor are refused, so that applications fail at once when Tor is not running.
 # looked_up: only Tor answers from its DNS port.
@@ -116,10 +116,10 @@ print_side_chains() {
 		drop
 	}
 	chain from_loopback {
-		udp dport $DNS_PORT goto look_ups
+		udp dport $DNS_PORT goto lookups
 		accept
 	}
-	chain look_ups {
+	chain lookups {
 		udp length < 20 drop
 END
   if [[ -n $TOR_PATH ]]; then

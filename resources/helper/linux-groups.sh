@@ -100,8 +100,8 @@ leave_caller() {
 # may end it, and the account alone would be the key to the firewall.
 need_groups() { [[ -z $UNGROUPED ]] || die "The control group for Tor cannot be made."; }
 
-# renew_group: makes Tor's group anew where a session begins. A socket belongs for ever to the group in which it was made, so what the Tor
-# of an earlier session has handed to another program passes nothing any more. A Tor that is left waits for its end in the helper's own
+# renew_group: makes Tor's group anew where a session begins. A socket always belongs to the group in which it was made. So a socket that
+# the Tor of an earlier session has handed to another program passes nothing any more. A Tor that is left waits for its end in the helper's own
 # group. A connect upon a strict session keeps the group: a run that is killed between the group and the rules would cut Tor off.
 renew_group() {
   local round pid

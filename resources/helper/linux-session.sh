@@ -92,7 +92,7 @@ undo_entry() {
   "undo_$kind" || return 1
   journal_drop "$name"
   if ((status == 2)); then
-    UNDONE="A note of what to restore was damaged ($kind). The network is open again; check your proxy settings."
+    UNDONE="A record of the former network settings was damaged ($kind). The network is open again; check your proxy settings."
     return 2
   fi
 }

@@ -130,7 +130,7 @@ ready_account() {
     read_accounts
   fi
   { is_uid "$TOR_UID" && is_uid "$TOR_GID"; } || die "The account $TOR_ACCOUNT has no valid user id."
-  [[ $TOR_UID != 0 && $TOR_UID != "$CALLER_UID" ]] || die "The account $TOR_ACCOUNT must be one of its own."
+  [[ $TOR_UID != 0 && $TOR_UID != "$CALLER_UID" ]] || die "The account $TOR_ACCOUNT must be neither root's nor the caller's."
 }
 
 # as_caller SECONDS COMMAND...: runs it with the caller's rights only, without a way to gain more, in a clean environment and a group of the

@@ -16,7 +16,7 @@ main() {
   [[ $SYSTEM != darwin ]] || find_caller
   case $VERB in
   connect | replace | approve | disconnect | fix-dns | launch | install-privileged | uninstall-privileged) shift ;;
-  *) die "The helper was not given a verb that it knows." ;;
+  *) die "The helper does not know this verb." ;;
   esac
   if (($# == 1)) && [[ $1 == - ]]; then
     read_words

@@ -58,7 +58,7 @@ any_install-privileged() {
     install_file print_file "$OPT_LAUNCH" "$INSTALLED_LAUNCHER" || die "The launcher could not be copied to $INSTALLED."
   fi
   { write_file "$SUDO_DRAFT" 0440 root "$(print_sudo_rule "$uid")"$'\n' &&
-    visudo -c -q -f "$SUDO_DRAFT" >/dev/null; } || die "sudo does not accept the rule."
+    visudo -c -q -f "$SUDO_DRAFT" >/dev/null; } || die "sudo rejects the rule for passwordless mode."
   rm -f -- "$SUDO_DRAFT"
   write_file "$SUDO_RULE" 0440 root "$(print_sudo_rule "$uid")"$'\n' || die "The file $SUDO_RULE cannot be written."
 }

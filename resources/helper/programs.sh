@@ -142,7 +142,7 @@ any_approve() {
   copy_program "$PROGRAM" "$OPT_PROGRAM"
   if [[ $DIGEST != "$OPT_SHA256" ]]; then
     rm -f -- "$NEW_PROGRAM"
-    die "The SHA-256 of the program $OPT_PROGRAM is not the one to approve."
+    die "The SHA-256 of the program $OPT_PROGRAM differs from the one to approve."
   fi
   keep_copy "$OPT_AS"
   [[ $SYSTEM != linux ]] || forget_program "$DIGEST/$OPT_AS" || die "The folder $PROGRAMS cannot be written."

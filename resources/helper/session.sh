@@ -63,7 +63,7 @@ put_marker() {
 }
 
 # ---- The options of a strict session -----------------------------------------------------------------------
-# The password-free rule allows a disconnect of a strict session. It does not allow a connect that weakens the
+# The passwordless rule allows a disconnect of a strict session. It does not allow a connect that weakens the
 # running session: no proxy mode, no open local network, no other password, exit, bridges (in use or
 # in reserve) or programs.
 

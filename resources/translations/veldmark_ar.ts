@@ -101,10 +101,6 @@
         <translation>تنزيل</translation>
     </message>
     <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>ينزّل حزمة Tor Expert Bundle الرسمية من مشروع Tor، وفيها برامج الجسور والجسور المدمجة</translation>
-    </message>
-    <message>
         <source>When Tor is blocked</source>
         <translation>عندما يكون Tor محجوبًا</translation>
     </message>
@@ -113,8 +109,8 @@
         <translation>افصل الاتصال للتغيير</translation>
     </message>
     <message>
-        <source>Bridges that are there can be tried one after the other, without another password</source>
-        <translation>يمكن تجربة الجسور الموجودة واحدًا بعد الآخر دون كلمة مرور أخرى</translation>
+        <source>Tries the available bridges in turn, without another password</source>
+        <translation>يجرّب الجسور المتاحة واحدًا بعد الآخر دون كلمة سر أخرى</translation>
     </message>
 </context>
 <context>
@@ -342,6 +338,17 @@
     </message>
 </context>
 <context>
+    <name>DownloadButton</name>
+    <message>
+        <source>Download</source>
+        <translation>تنزيل</translation>
+    </message>
+    <message>
+        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
+        <translation>ينزّل حزمة Tor Expert Bundle الرسمية من مشروع Tor، وفيها برامج الجسور والجسور المدمجة</translation>
+    </message>
+</context>
+<context>
     <name>Footer</name>
     <message>
         <source>Settings</source>
@@ -537,14 +544,6 @@
         <translation>الجسور</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>تنزيل</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>ينزّل حزمة Tor Expert Bundle الرسمية من مشروع Tor، وفيها برامج الجسور والجسور المدمجة</translation>
-    </message>
-    <message>
         <source>Edit…</source>
         <translation>تحرير…</translation>
     </message>
@@ -602,14 +601,6 @@
     <message>
         <source>Recheck</source>
         <translation>إعادة الفحص</translation>
-    </message>
-    <message>
-        <source>Download</source>
-        <translation>تنزيل</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>ينزّل حزمة Tor Expert Bundle الرسمية من مشروع Tor، وفيها برامج الجسور والجسور المدمجة</translation>
     </message>
 </context>
 <context>
@@ -894,10 +885,6 @@
     <message>
         <source>Firewall rules were removed</source>
         <translation>أُزيلت قواعد جدار الحماية</translation>
-    </message>
-    <message>
-        <source>Another program removed Veldmark&apos;s firewall rules; they are back in place.</source>
-        <translation>أزال برنامج آخر قواعد جدار الحماية الخاصة بـ Veldmark؛ وقد أُعيدت إلى مكانها.</translation>
     </message>
     <message>
         <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>
@@ -1277,11 +1264,11 @@
         <translation>لا رد</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
         <translation>لم يتلقَّ الاتصال المباشر المتجاوز لـ Tor ردًا، لكن لا يُعرف هل يحجب مفتاح القطع اتصالات كهذه</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
         <translation>لم يتلقَّ الاتصال المباشر المتجاوز لـ Tor ردًا، لكن وضع الوكيل لا يحجب اتصالات كهذه</translation>
     </message>
     <message>
@@ -3031,13 +3018,13 @@
         <translation>سجل Tor؛ ⁨--problems⁩ يعرض التحذيرات والأخطاء فقط</translation>
     </message>
     <message>
-        <source>the transport programs and built-in bridges that were found, and
+        <source>the bridge programs and built-in bridges that were found, and
 which of your own bridge lines are not valid</source>
         <translation>برامج النقل والجسور المدمجة التي عُثر عليها،
 وأسطر جسورك الخاصة غير الصالحة</translation>
     </message>
     <message>
-        <source>fetch the Tor Project&apos;s transport programs and built-in bridges</source>
+        <source>fetch the Tor Project&apos;s bridge programs and built-in bridges</source>
         <translation>تنزيل برامج النقل والجسور المدمجة من مشروع Tor</translation>
     </message>
     <message>
@@ -3171,12 +3158,12 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>أحد أسطر الجسور غير صالح.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your network settings.</source>
-        <translation>كانت ملاحظة بما تجب استعادته تالفة (⁨%1⁩). رُفع الحجب عن الشبكة؛ تحقق من إعدادات شبكتك.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your network settings.</source>
+        <translation>كان سجل لإعدادات الشبكة السابقة تالفًا (⁨%1⁩). رُفع الحجب عن الشبكة؛ تحقق من إعدادات شبكتك.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your proxy settings.</source>
-        <translation>كانت ملاحظة بما تجب استعادته تالفة (⁨%1⁩). رُفع الحجب عن الشبكة؛ تحقق من إعدادات الوكيل.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your proxy settings.</source>
+        <translation>كان سجل لإعدادات الشبكة السابقة تالفًا (⁨%1⁩). رُفع الحجب عن الشبكة؛ تحقق من إعدادات الوكيل.</translation>
     </message>
     <message>
         <source>An administrator password is needed to approve %1.</source>
@@ -3247,8 +3234,8 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>ليس للحساب %1 معرّف مستخدم صالح.</translation>
     </message>
     <message>
-        <source>The account %1 must be one of its own.</source>
-        <translation>يجب أن يكون الحساب %1 حسابًا مخصصًا لهذا الغرض.</translation>
+        <source>The account %1 must be neither root&apos;s nor the caller&apos;s.</source>
+        <translation>يجب ألا يكون الحساب %1 حساب ⁨root⁩ ولا حساب المستخدم الذي يطلب ذلك.</translation>
     </message>
     <message>
         <source>The application could not be started.</source>
@@ -3415,12 +3402,12 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>أُعطي البرنامج المساعد خيارًا لا يعرفه.</translation>
     </message>
     <message>
-        <source>The helper was not given a verb that it knows.</source>
-        <translation>لم يُعطَ البرنامج المساعد أمرًا يعرفه.</translation>
+        <source>The helper does not know this verb.</source>
+        <translation>لا يعرف البرنامج المساعد هذا الأمر.</translation>
     </message>
     <message>
-        <source>The journal cannot be written.</source>
-        <translation>لا يمكن كتابة دفتر التغييرات.</translation>
+        <source>The record of the former network settings cannot be written.</source>
+        <translation>لا يمكن كتابة سجل إعدادات الشبكة السابقة.</translation>
     </message>
     <message>
         <source>The kill switch is not on, so no application needs to bypass it.</source>
@@ -3463,8 +3450,8 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>رُفع الحجب عن الشبكة، لكن تعذرت إعادة تشغيل خدمة Tor الخاصة بالنظام. جرّب: systemctl start %1.</translation>
     </message>
     <message>
-        <source>The network is open, but the firewall could not be given back.</source>
-        <translation>رُفع الحجب عن الشبكة، لكن تعذرت إعادة جدار الحماية إلى النظام.</translation>
+        <source>The network is open, but pf could not be released.</source>
+        <translation>رُفع الحجب عن الشبكة، لكن تعذر تحرير ⁨pf⁩.</translation>
     </message>
     <message>
         <source>The network is open, but the firewall&apos;s main rules could not be put back.</source>
@@ -3567,7 +3554,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>البرنامج ⁨%1⁩ مفقود على هذا النظام.</translation>
     </message>
     <message>
-        <source>The SHA-256 of the program %1 is not the one to approve.</source>
+        <source>The SHA-256 of the program %1 differs from the one to approve.</source>
         <translation>قيمة SHA-256 للبرنامج ⁨%1⁩ ليست القيمة التي كان يُراد الموافقة عليها.</translation>
     </message>
     <message>
@@ -3719,8 +3706,8 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>بما أن Veldmark غير متصل، لم تُمسّ إعدادات DNS.</translation>
     </message>
     <message>
-        <source>sudo does not accept the rule.</source>
-        <translation>لا يقبل sudo القاعدة.</translation>
+        <source>sudo rejects the rule for passwordless mode.</source>
+        <translation>يرفض sudo قاعدة الوضع بلا كلمة سر.</translation>
     </message>
     <message>
         <source>sudo is not installed on this system.</source>
@@ -3836,7 +3823,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>the applications that have circuits of their own, and the loopback address
-by which Tor tells each from the others</source>
+by which Tor distinguishes them</source>
         <translation>التطبيقات التي لها دوائر خاصة بها، وعنوان loopback
 الذي يميّز به Tor كلًّا منها من غيره</translation>
     </message>
@@ -3893,8 +3880,8 @@ name in the same session has the same ones</source>
         <translation>لم تتم الموافقة على ⁨%1⁩.</translation>
     </message>
     <message>
-        <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
-        <translation>⁨%1⁩ ليس من برامج النظام، ولذلك تلزم الموافقة عليه، ولا توجد طرفية للسؤال فيها. شغّل «⁨sudo veldmarkctl run --connect⁩» في طرفية.</translation>
+        <source>%1 is not a program of the system, so an administrator has to approve it, but this command has no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
+        <translation>⁨%1⁩ ليس من برامج النظام، ولذلك تلزم موافقة مدير النظام عليه، لكن ليس لهذا الأمر طرفية للسؤال فيها. شغّل «⁨sudo veldmarkctl run --connect⁩» في طرفية.</translation>
     </message>
     <message>
         <source>%1 needs the name of a file.</source>

@@ -101,10 +101,6 @@
         <translation>Herunterladen</translation>
     </message>
     <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Lädt das offizielle Tor Expert Bundle vom Tor-Projekt, mit Brückenprogrammen und eingebauten Brücken</translation>
-    </message>
-    <message>
         <source>When Tor is blocked</source>
         <translation>Wenn Tor gesperrt ist</translation>
     </message>
@@ -113,8 +109,8 @@
         <translation>Zum Ändern trennen</translation>
     </message>
     <message>
-        <source>Bridges that are there can be tried one after the other, without another password</source>
-        <translation>Vorhandene Brücken können nacheinander versucht werden, ohne weiteres Passwort</translation>
+        <source>Tries the available bridges in turn, without another password</source>
+        <translation>Versucht die vorhandenen Brücken nacheinander, ohne weiteres Passwort</translation>
     </message>
 </context>
 <context>
@@ -342,6 +338,17 @@
     </message>
 </context>
 <context>
+    <name>DownloadButton</name>
+    <message>
+        <source>Download</source>
+        <translation>Herunterladen</translation>
+    </message>
+    <message>
+        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
+        <translation>Lädt das offizielle Tor Expert Bundle vom Tor-Projekt, mit Brückenprogrammen und eingebauten Brücken</translation>
+    </message>
+</context>
+<context>
     <name>Footer</name>
     <message>
         <source>Settings</source>
@@ -537,14 +544,6 @@
         <translation>Brücken</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>Herunterladen</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Lädt das offizielle Tor Expert Bundle vom Tor-Projekt, mit Brückenprogrammen und eingebauten Brücken</translation>
-    </message>
-    <message>
         <source>Edit…</source>
         <translation>Bearbeiten…</translation>
     </message>
@@ -602,14 +601,6 @@
     <message>
         <source>Recheck</source>
         <translation>Erneut prüfen</translation>
-    </message>
-    <message>
-        <source>Download</source>
-        <translation>Herunterladen</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Lädt das offizielle Tor Expert Bundle vom Tor-Projekt, mit Brückenprogrammen und eingebauten Brücken</translation>
     </message>
 </context>
 <context>
@@ -894,10 +885,6 @@
     <message>
         <source>Firewall rules were removed</source>
         <translation>Firewall-Regeln wurden entfernt</translation>
-    </message>
-    <message>
-        <source>Another program removed Veldmark&apos;s firewall rules; they are back in place.</source>
-        <translation>Ein anderes Programm hat Veldmarks Firewall-Regeln entfernt; sie sind wiederhergestellt.</translation>
     </message>
     <message>
         <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>
@@ -1257,11 +1244,11 @@
         <translation>Keine Antwort</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
         <translation>Eine direkte Verbindung an Tor vorbei blieb ohne Antwort, aber es ist nicht bekannt, ob der Notschalter solche Verbindungen sperrt</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
         <translation>Eine direkte Verbindung an Tor vorbei blieb ohne Antwort, aber der Proxy-Modus sperrt solche Verbindungen nicht</translation>
     </message>
     <message>
@@ -3011,13 +2998,13 @@
         <translation>Tors Protokoll; --problems zeigt nur Warnungen und Fehler</translation>
     </message>
     <message>
-        <source>the transport programs and built-in bridges that were found, and
+        <source>the bridge programs and built-in bridges that were found, and
 which of your own bridge lines are not valid</source>
         <translation>die gefundenen Brückenprogramme und eingebauten Brücken, und
 welche Ihrer eigenen Brückenzeilen ungültig sind</translation>
     </message>
     <message>
-        <source>fetch the Tor Project&apos;s transport programs and built-in bridges</source>
+        <source>fetch the Tor Project&apos;s bridge programs and built-in bridges</source>
         <translation>die Brückenprogramme und eingebauten Brücken des Tor-Projekts holen</translation>
     </message>
     <message>
@@ -3151,12 +3138,12 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
         <translation>Eine Brückenzeile ist ungültig.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your network settings.</source>
-        <translation>Eine Notiz darüber, was wiederherzustellen ist, war beschädigt (%1). Das Netzwerk ist wieder offen; sehen Sie Ihre Netzwerkeinstellungen nach.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your network settings.</source>
+        <translation>Eine Aufzeichnung der früheren Netzwerkeinstellungen war beschädigt (%1). Das Netzwerk ist wieder offen; sehen Sie Ihre Netzwerkeinstellungen nach.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your proxy settings.</source>
-        <translation>Eine Notiz darüber, was wiederherzustellen ist, war beschädigt (%1). Das Netzwerk ist wieder offen; sehen Sie Ihre Proxy-Einstellungen nach.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your proxy settings.</source>
+        <translation>Eine Aufzeichnung der früheren Netzwerkeinstellungen war beschädigt (%1). Das Netzwerk ist wieder offen; sehen Sie Ihre Proxy-Einstellungen nach.</translation>
     </message>
     <message>
         <source>An administrator password is needed to approve %1.</source>
@@ -3227,8 +3214,8 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
         <translation>Das Konto %1 hat keine gültige Benutzer-ID.</translation>
     </message>
     <message>
-        <source>The account %1 must be one of its own.</source>
-        <translation>Das Konto %1 muss ein eigenes sein.</translation>
+        <source>The account %1 must be neither root&apos;s nor the caller&apos;s.</source>
+        <translation>Das Konto %1 darf weder root noch dem aufrufenden Benutzer gehören.</translation>
     </message>
     <message>
         <source>The application could not be started.</source>
@@ -3395,12 +3382,12 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
         <translation>Das Hilfsprogramm bekam eine Option, die es nicht kennt.</translation>
     </message>
     <message>
-        <source>The helper was not given a verb that it knows.</source>
-        <translation>Das Hilfsprogramm bekam keinen Befehl, den es kennt.</translation>
+        <source>The helper does not know this verb.</source>
+        <translation>Das Hilfsprogramm kennt diesen Befehl nicht.</translation>
     </message>
     <message>
-        <source>The journal cannot be written.</source>
-        <translation>Das Journal kann nicht geschrieben werden.</translation>
+        <source>The record of the former network settings cannot be written.</source>
+        <translation>Die Aufzeichnung der früheren Netzwerkeinstellungen kann nicht geschrieben werden.</translation>
     </message>
     <message>
         <source>The kill switch is not on, so no application needs to bypass it.</source>
@@ -3443,8 +3430,8 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
         <translation>Das Netzwerk ist wieder offen, aber der Tor-Dienst des Systems konnte nicht wieder gestartet werden. Versuchen Sie: systemctl start %1.</translation>
     </message>
     <message>
-        <source>The network is open, but the firewall could not be given back.</source>
-        <translation>Das Netzwerk ist offen, aber die Firewall konnte nicht zurückgegeben werden.</translation>
+        <source>The network is open, but pf could not be released.</source>
+        <translation>Das Netzwerk ist offen, aber pf konnte nicht freigegeben werden.</translation>
     </message>
     <message>
         <source>The network is open, but the firewall&apos;s main rules could not be put back.</source>
@@ -3547,7 +3534,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
         <translation>Das Programm %1 fehlt auf diesem System.</translation>
     </message>
     <message>
-        <source>The SHA-256 of the program %1 is not the one to approve.</source>
+        <source>The SHA-256 of the program %1 differs from the one to approve.</source>
         <translation>Die SHA-256-Summe des Programms %1 ist nicht die, die zugelassen werden soll.</translation>
     </message>
     <message>
@@ -3699,8 +3686,8 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
         <translation>Veldmark ist nicht verbunden, also blieben die DNS-Einstellungen unberührt.</translation>
     </message>
     <message>
-        <source>sudo does not accept the rule.</source>
-        <translation>sudo nimmt die Regel nicht an.</translation>
+        <source>sudo rejects the rule for passwordless mode.</source>
+        <translation>sudo lehnt die Regel für den Betrieb ohne Passwort ab.</translation>
     </message>
     <message>
         <source>sudo is not installed on this system.</source>
@@ -3816,7 +3803,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
     </message>
     <message>
         <source>the applications that have circuits of their own, and the loopback address
-by which Tor tells each from the others</source>
+by which Tor distinguishes them</source>
         <translation>die Anwendungen mit eigenen Kanälen und die Loopback-Adresse, an der Tor
 jede von den anderen unterscheidet</translation>
     </message>
@@ -3873,8 +3860,8 @@ hat es in derselben Sitzung später dieselben</translation>
         <translation>%1 wurde nicht zugelassen.</translation>
     </message>
     <message>
-        <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
-        <translation>%1 ist kein Programm des Systems und muss zugelassen werden, aber es gibt kein Terminal, in dem danach gefragt werden kann. Führen Sie „sudo veldmarkctl run --connect“ in einem Terminal aus.</translation>
+        <source>%1 is not a program of the system, so an administrator has to approve it, but this command has no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
+        <translation>%1 ist kein Programm des Systems, daher muss ein Administrator es zulassen, aber dieser Befehl hat kein Terminal, in dem er danach fragen kann. Führen Sie „sudo veldmarkctl run --connect“ in einem Terminal aus.</translation>
     </message>
     <message>
         <source>%1 needs the name of a file.</source>

@@ -101,10 +101,6 @@
         <translation>Descargar</translation>
     </message>
     <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Descargar del Proyecto Tor el Tor Expert Bundle oficial, con programas de puente y puentes integrados</translation>
-    </message>
-    <message>
         <source>When Tor is blocked</source>
         <translation>Cuando Tor está bloqueado</translation>
     </message>
@@ -113,8 +109,8 @@
         <translation>Desconéctese para cambiar</translation>
     </message>
     <message>
-        <source>Bridges that are there can be tried one after the other, without another password</source>
-        <translation>Los puentes disponibles pueden probarse uno tras otro, sin otra contraseña</translation>
+        <source>Tries the available bridges in turn, without another password</source>
+        <translation>Prueba los puentes disponibles uno tras otro, sin otra contraseña</translation>
     </message>
 </context>
 <context>
@@ -342,6 +338,17 @@
     </message>
 </context>
 <context>
+    <name>DownloadButton</name>
+    <message>
+        <source>Download</source>
+        <translation>Descargar</translation>
+    </message>
+    <message>
+        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
+        <translation>Descargar del Proyecto Tor el Tor Expert Bundle oficial, con programas de puente y puentes integrados</translation>
+    </message>
+</context>
+<context>
     <name>Footer</name>
     <message>
         <source>Settings</source>
@@ -537,14 +544,6 @@
         <translation>Puentes</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>Descargar</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Descargar del Proyecto Tor el Tor Expert Bundle oficial, con programas de puente y puentes integrados</translation>
-    </message>
-    <message>
         <source>Edit…</source>
         <translation>Editar…</translation>
     </message>
@@ -602,14 +601,6 @@
     <message>
         <source>Recheck</source>
         <translation>Volver a comprobar</translation>
-    </message>
-    <message>
-        <source>Download</source>
-        <translation>Descargar</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Descargar del Proyecto Tor el Tor Expert Bundle oficial, con programas de puente y puentes integrados</translation>
     </message>
 </context>
 <context>
@@ -894,10 +885,6 @@
     <message>
         <source>Firewall rules were removed</source>
         <translation>Se quitaron reglas del cortafuegos</translation>
-    </message>
-    <message>
-        <source>Another program removed Veldmark&apos;s firewall rules; they are back in place.</source>
-        <translation>Otro programa quitó las reglas de Veldmark del cortafuegos; ya están puestas de nuevo.</translation>
     </message>
     <message>
         <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>
@@ -1257,11 +1244,11 @@
         <translation>Sin respuesta</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
         <translation>Una conexión directa, sin pasar por Tor, no obtuvo respuesta, pero no se sabe si el bloqueo de emergencia corta esas conexiones</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
         <translation>Una conexión directa, sin pasar por Tor, no obtuvo respuesta, pero el modo proxy no corta esas conexiones</translation>
     </message>
     <message>
@@ -3011,13 +2998,13 @@
         <translation>el registro de Tor; --problems muestra solo advertencias y errores</translation>
     </message>
     <message>
-        <source>the transport programs and built-in bridges that were found, and
+        <source>the bridge programs and built-in bridges that were found, and
 which of your own bridge lines are not valid</source>
         <translation>los programas de puente y los puentes integrados que se encontraron, y
 qué líneas de puentes propios no son válidas</translation>
     </message>
     <message>
-        <source>fetch the Tor Project&apos;s transport programs and built-in bridges</source>
+        <source>fetch the Tor Project&apos;s bridge programs and built-in bridges</source>
         <translation>obtener los programas de puente y los puentes integrados del Proyecto Tor</translation>
     </message>
     <message>
@@ -3151,12 +3138,12 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
         <translation>Una línea de puente no es válida.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your network settings.</source>
-        <translation>Una nota de lo que hay que restaurar estaba dañada (%1). La red vuelve a estar abierta; revise su configuración de red.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your network settings.</source>
+        <translation>Un registro de la configuración de red anterior estaba dañado (%1). La red vuelve a estar abierta; revise su configuración de red.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your proxy settings.</source>
-        <translation>Una nota de lo que hay que restaurar estaba dañada (%1). La red vuelve a estar abierta; revise su configuración de proxy.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your proxy settings.</source>
+        <translation>Un registro de la configuración de red anterior estaba dañado (%1). La red vuelve a estar abierta; revise su configuración de proxy.</translation>
     </message>
     <message>
         <source>An administrator password is needed to approve %1.</source>
@@ -3227,8 +3214,8 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
         <translation>La cuenta %1 no tiene un id de usuario válido.</translation>
     </message>
     <message>
-        <source>The account %1 must be one of its own.</source>
-        <translation>La cuenta %1 debe ser de uso exclusivo.</translation>
+        <source>The account %1 must be neither root&apos;s nor the caller&apos;s.</source>
+        <translation>La cuenta %1 no debe ser la de root ni la del usuario que lo solicita.</translation>
     </message>
     <message>
         <source>The application could not be started.</source>
@@ -3395,12 +3382,12 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
         <translation>El programa auxiliar recibió una opción que no conoce.</translation>
     </message>
     <message>
-        <source>The helper was not given a verb that it knows.</source>
-        <translation>El programa auxiliar no recibió ningún comando que conozca.</translation>
+        <source>The helper does not know this verb.</source>
+        <translation>El programa auxiliar no conoce este comando.</translation>
     </message>
     <message>
-        <source>The journal cannot be written.</source>
-        <translation>No se puede escribir el diario de cambios.</translation>
+        <source>The record of the former network settings cannot be written.</source>
+        <translation>No se puede escribir el registro de la configuración de red anterior.</translation>
     </message>
     <message>
         <source>The kill switch is not on, so no application needs to bypass it.</source>
@@ -3443,8 +3430,8 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
         <translation>La red vuelve a estar abierta, pero no se pudo iniciar de nuevo el servicio Tor del propio sistema. Pruebe: systemctl start %1.</translation>
     </message>
     <message>
-        <source>The network is open, but the firewall could not be given back.</source>
-        <translation>La red está abierta, pero no se pudo liberar el cortafuegos.</translation>
+        <source>The network is open, but pf could not be released.</source>
+        <translation>La red está abierta, pero no se pudo liberar pf.</translation>
     </message>
     <message>
         <source>The network is open, but the firewall&apos;s main rules could not be put back.</source>
@@ -3547,7 +3534,7 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
         <translation>Falta el programa %1 en este sistema.</translation>
     </message>
     <message>
-        <source>The SHA-256 of the program %1 is not the one to approve.</source>
+        <source>The SHA-256 of the program %1 differs from the one to approve.</source>
         <translation>El SHA-256 del programa %1 no es el que se va a aprobar.</translation>
     </message>
     <message>
@@ -3699,8 +3686,8 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
         <translation>Veldmark no está conectado, así que no se tocó la configuración DNS.</translation>
     </message>
     <message>
-        <source>sudo does not accept the rule.</source>
-        <translation>sudo no acepta la regla.</translation>
+        <source>sudo rejects the rule for passwordless mode.</source>
+        <translation>sudo rechaza la regla del modo sin contraseña.</translation>
     </message>
     <message>
         <source>sudo is not installed on this system.</source>
@@ -3816,7 +3803,7 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
     </message>
     <message>
         <source>the applications that have circuits of their own, and the loopback address
-by which Tor tells each from the others</source>
+by which Tor distinguishes them</source>
         <translation>las aplicaciones que tienen circuitos propios y la dirección de loopback
 por la que Tor distingue cada una de las demás</translation>
     </message>
@@ -3873,8 +3860,8 @@ el mismo nombre en la misma sesión, tiene los mismos</translation>
         <translation>%1 no se aprobó.</translation>
     </message>
     <message>
-        <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
-        <translation>%1 no es un programa del sistema y alguien tiene que aprobarlo, pero no hay ningún terminal donde preguntarlo. Ejecute «sudo veldmarkctl run --connect» en un terminal.</translation>
+        <source>%1 is not a program of the system, so an administrator has to approve it, but this command has no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
+        <translation>%1 no es un programa del sistema, por lo que un administrador tiene que aprobarlo, pero este comando no tiene ningún terminal donde preguntarlo. Ejecute «sudo veldmarkctl run --connect» en un terminal.</translation>
     </message>
     <message>
         <source>%1 needs the name of a file.</source>

@@ -101,10 +101,6 @@
         <translation>بارگیری</translation>
     </message>
     <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>بستهٔ رسمی Tor Expert Bundle را برای برنامه‌های پل و پل‌های داخلی از پروژهٔ Tor بارگیری می‌کند</translation>
-    </message>
-    <message>
         <source>When Tor is blocked</source>
         <translation>وقتی Tor مسدود است</translation>
     </message>
@@ -113,8 +109,8 @@
         <translation>برای تغییر، اتصال را قطع کنید</translation>
     </message>
     <message>
-        <source>Bridges that are there can be tried one after the other, without another password</source>
-        <translation>پل‌های موجود را می‌توان یکی پس از دیگری و بدون گذرواژهٔ دیگر امتحان کرد</translation>
+        <source>Tries the available bridges in turn, without another password</source>
+        <translation>پل‌های موجود را یکی پس از دیگری و بدون گذرواژهٔ دیگر امتحان می‌کند</translation>
     </message>
 </context>
 <context>
@@ -342,6 +338,17 @@
     </message>
 </context>
 <context>
+    <name>DownloadButton</name>
+    <message>
+        <source>Download</source>
+        <translation>بارگیری</translation>
+    </message>
+    <message>
+        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
+        <translation>بستهٔ رسمی Tor Expert Bundle را برای برنامه‌های پل و پل‌های داخلی از پروژهٔ Tor بارگیری می‌کند</translation>
+    </message>
+</context>
+<context>
     <name>Footer</name>
     <message>
         <source>Settings</source>
@@ -537,14 +544,6 @@
         <translation>پل‌ها</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>بارگیری</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>بستهٔ رسمی Tor Expert Bundle را برای برنامه‌های پل و پل‌های داخلی از پروژهٔ Tor بارگیری می‌کند</translation>
-    </message>
-    <message>
         <source>Edit…</source>
         <translation>ویرایش…</translation>
     </message>
@@ -602,14 +601,6 @@
     <message>
         <source>Recheck</source>
         <translation>بررسی دوباره</translation>
-    </message>
-    <message>
-        <source>Download</source>
-        <translation>بارگیری</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>بستهٔ رسمی Tor Expert Bundle را برای برنامه‌های پل و پل‌های داخلی از پروژهٔ Tor بارگیری می‌کند</translation>
     </message>
 </context>
 <context>
@@ -894,10 +885,6 @@
     <message>
         <source>Firewall rules were removed</source>
         <translation>قاعده‌های دیوار آتش برداشته شدند</translation>
-    </message>
-    <message>
-        <source>Another program removed Veldmark&apos;s firewall rules; they are back in place.</source>
-        <translation>برنامهٔ دیگری قاعده‌های دیوار آتش Veldmark را برداشت؛ این قاعده‌ها دوباره برقرارند.</translation>
     </message>
     <message>
         <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>
@@ -1252,11 +1239,11 @@
         <translation>بی‌پاسخ</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
         <translation>یک اتصال مستقیم بدون Tor پاسخی نگرفت، اما معلوم نیست کیل‌سوییچ چنین اتصال‌هایی را مسدود می‌کند یا نه</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
         <translation>یک اتصال مستقیم بدون Tor پاسخی نگرفت، اما حالت پروکسی چنین اتصال‌هایی را مسدود نمی‌کند</translation>
     </message>
     <message>
@@ -3006,13 +2993,13 @@
         <translation>گزارش Tor؛ گزینهٔ ⁨--problems⁩ فقط هشدارها و خطاها را نشان می‌دهد</translation>
     </message>
     <message>
-        <source>the transport programs and built-in bridges that were found, and
+        <source>the bridge programs and built-in bridges that were found, and
 which of your own bridge lines are not valid</source>
         <translation>برنامه‌های پل و پل‌های داخلی پیداشده،
 و خط‌های نامعتبر در پل‌های خودتان</translation>
     </message>
     <message>
-        <source>fetch the Tor Project&apos;s transport programs and built-in bridges</source>
+        <source>fetch the Tor Project&apos;s bridge programs and built-in bridges</source>
         <translation>گرفتن برنامه‌های پل و پل‌های داخلی از پروژهٔ Tor</translation>
     </message>
     <message>
@@ -3146,12 +3133,12 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>یک خط پل معتبر نیست.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your network settings.</source>
-        <translation>یادداشتی از آنچه باید بازگردانده شود آسیب دیده بود (⁨%1⁩). شبکه دوباره باز است؛ تنظیمات شبکهٔ خود را بررسی کنید.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your network settings.</source>
+        <translation>ثبتی از تنظیمات پیشین شبکه آسیب دیده بود (⁨%1⁩). شبکه دوباره باز است؛ تنظیمات شبکهٔ خود را بررسی کنید.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your proxy settings.</source>
-        <translation>یادداشتی از آنچه باید بازگردانده شود آسیب دیده بود (⁨%1⁩). شبکه دوباره باز است؛ تنظیمات پروکسی خود را بررسی کنید.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your proxy settings.</source>
+        <translation>ثبتی از تنظیمات پیشین شبکه آسیب دیده بود (⁨%1⁩). شبکه دوباره باز است؛ تنظیمات پروکسی خود را بررسی کنید.</translation>
     </message>
     <message>
         <source>An administrator password is needed to approve %1.</source>
@@ -3222,8 +3209,8 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>حساب %1 شناسهٔ کاربری معتبر ندارد.</translation>
     </message>
     <message>
-        <source>The account %1 must be one of its own.</source>
-        <translation>حساب %1 باید حسابی جداگانه باشد.</translation>
+        <source>The account %1 must be neither root&apos;s nor the caller&apos;s.</source>
+        <translation>حساب %1 نباید حساب ⁨root⁩ یا حساب کاربری باشد که درخواست می‌کند.</translation>
     </message>
     <message>
         <source>The application could not be started.</source>
@@ -3390,12 +3377,12 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>به برنامهٔ کمکی گزینه‌ای داده شد که نمی‌شناسد.</translation>
     </message>
     <message>
-        <source>The helper was not given a verb that it knows.</source>
-        <translation>به برنامهٔ کمکی فرمانی که بشناسد داده نشد.</translation>
+        <source>The helper does not know this verb.</source>
+        <translation>برنامهٔ کمکی این فرمان را نمی‌شناسد.</translation>
     </message>
     <message>
-        <source>The journal cannot be written.</source>
-        <translation>نمی‌توان دفتر ثبت را نوشت.</translation>
+        <source>The record of the former network settings cannot be written.</source>
+        <translation>نمی‌توان ثبت تنظیمات پیشین شبکه را نوشت.</translation>
     </message>
     <message>
         <source>The kill switch is not on, so no application needs to bypass it.</source>
@@ -3438,8 +3425,8 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>شبکه دوباره باز است، اما شروع دوبارهٔ سرویس Tor خود سیستم ممکن نشد. این را امتحان کنید: systemctl start %1.</translation>
     </message>
     <message>
-        <source>The network is open, but the firewall could not be given back.</source>
-        <translation>شبکه باز است، اما پس دادن دیوار آتش ممکن نشد.</translation>
+        <source>The network is open, but pf could not be released.</source>
+        <translation>شبکه باز است، اما آزاد کردن ⁨pf⁩ ممکن نشد.</translation>
     </message>
     <message>
         <source>The network is open, but the firewall&apos;s main rules could not be put back.</source>
@@ -3542,7 +3529,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>برنامهٔ ⁨%1⁩ در این سیستم وجود ندارد.</translation>
     </message>
     <message>
-        <source>The SHA-256 of the program %1 is not the one to approve.</source>
+        <source>The SHA-256 of the program %1 differs from the one to approve.</source>
         <translation>مقدار SHA-256 برنامهٔ ⁨%1⁩ همانی نیست که قرار بود تأیید شود.</translation>
     </message>
     <message>
@@ -3694,8 +3681,8 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>برنامهٔ Veldmark وصل نیست، پس به تنظیمات DNS دست زده نشد.</translation>
     </message>
     <message>
-        <source>sudo does not accept the rule.</source>
-        <translation>برنامهٔ sudo این قاعده را نمی‌پذیرد.</translation>
+        <source>sudo rejects the rule for passwordless mode.</source>
+        <translation>برنامهٔ sudo قاعدهٔ حالت بدون گذرواژه را نمی‌پذیرد.</translation>
     </message>
     <message>
         <source>sudo is not installed on this system.</source>
@@ -3811,7 +3798,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>the applications that have circuits of their own, and the loopback address
-by which Tor tells each from the others</source>
+by which Tor distinguishes them</source>
         <translation>برنامه‌هایی که مدارهای خودشان را دارند، و نشانی loopback که
 با آن Tor هر یک را از بقیه بازمی‌شناسد</translation>
     </message>
@@ -3868,8 +3855,8 @@ name in the same session has the same ones</source>
         <translation>⁨%1⁩ تأیید نشد.</translation>
     </message>
     <message>
-        <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
-        <translation>⁨%1⁩ برنامهٔ سیستم نیست و کسی باید آن را تأیید کند، اما پایانه‌ای برای پرسیدن نیست. «⁨sudo veldmarkctl run --connect⁩» را در یک پایانه اجرا کنید.</translation>
+        <source>%1 is not a program of the system, so an administrator has to approve it, but this command has no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
+        <translation>⁨%1⁩ برنامهٔ سیستم نیست و مدیر باید آن را تأیید کند، اما این دستور پایانه‌ای برای پرسیدن ندارد. «⁨sudo veldmarkctl run --connect⁩» را در یک پایانه اجرا کنید.</translation>
     </message>
     <message>
         <source>%1 needs the name of a file.</source>

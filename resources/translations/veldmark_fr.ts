@@ -101,10 +101,6 @@
         <translation>Télécharger</translation>
     </message>
     <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Télécharge le Tor Expert Bundle officiel du Projet Tor, pour les programmes de pont et les ponts intégrés</translation>
-    </message>
-    <message>
         <source>When Tor is blocked</source>
         <translation>Quand Tor est bloqué</translation>
     </message>
@@ -113,8 +109,8 @@
         <translation>Déconnecter pour modifier</translation>
     </message>
     <message>
-        <source>Bridges that are there can be tried one after the other, without another password</source>
-        <translation>Les ponts disponibles peuvent être essayés l’un après l’autre, sans nouveau mot de passe</translation>
+        <source>Tries the available bridges in turn, without another password</source>
+        <translation>Essaie les ponts disponibles l’un après l’autre, sans nouveau mot de passe</translation>
     </message>
 </context>
 <context>
@@ -342,6 +338,17 @@
     </message>
 </context>
 <context>
+    <name>DownloadButton</name>
+    <message>
+        <source>Download</source>
+        <translation>Télécharger</translation>
+    </message>
+    <message>
+        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
+        <translation>Télécharge le Tor Expert Bundle officiel du Projet Tor, pour les programmes de pont et les ponts intégrés</translation>
+    </message>
+</context>
+<context>
     <name>Footer</name>
     <message>
         <source>Settings</source>
@@ -537,14 +544,6 @@
         <translation>Ponts</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>Télécharger</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Télécharge le Tor Expert Bundle officiel du Projet Tor, pour les programmes de pont et les ponts intégrés</translation>
-    </message>
-    <message>
         <source>Edit…</source>
         <translation>Modifier…</translation>
     </message>
@@ -602,14 +601,6 @@
     <message>
         <source>Recheck</source>
         <translation>Revérifier</translation>
-    </message>
-    <message>
-        <source>Download</source>
-        <translation>Télécharger</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Télécharge le Tor Expert Bundle officiel du Projet Tor, pour les programmes de pont et les ponts intégrés</translation>
     </message>
 </context>
 <context>
@@ -894,10 +885,6 @@
     <message>
         <source>Firewall rules were removed</source>
         <translation>Des règles de pare-feu ont été supprimées</translation>
-    </message>
-    <message>
-        <source>Another program removed Veldmark&apos;s firewall rules; they are back in place.</source>
-        <translation>Un autre programme a supprimé les règles de pare-feu de Veldmark ; elles ont été rétablies.</translation>
     </message>
     <message>
         <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>
@@ -1257,11 +1244,11 @@
         <translation>Pas de réponse</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
         <translation>Une connexion directe sans passer par Tor est restée sans réponse, mais on ne sait pas si le kill switch bloque de telles connexions</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
         <translation>Une connexion directe sans passer par Tor est restée sans réponse, mais le mode proxy ne bloque pas de telles connexions</translation>
     </message>
     <message>
@@ -3011,13 +2998,13 @@
         <translation>le journal de Tor ; --problems n’affiche qu’avertissements et erreurs</translation>
     </message>
     <message>
-        <source>the transport programs and built-in bridges that were found, and
+        <source>the bridge programs and built-in bridges that were found, and
 which of your own bridge lines are not valid</source>
         <translation>les programmes de pont et les ponts intégrés trouvés, et
 vos lignes de ponts qui ne sont pas valides</translation>
     </message>
     <message>
-        <source>fetch the Tor Project&apos;s transport programs and built-in bridges</source>
+        <source>fetch the Tor Project&apos;s bridge programs and built-in bridges</source>
         <translation>récupérer les programmes de pont et les ponts intégrés du Projet Tor</translation>
     </message>
     <message>
@@ -3151,12 +3138,12 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
         <translation>Une ligne de pont n’est pas valide.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your network settings.</source>
-        <translation>Une note sur ce qu’il fallait rétablir était endommagée (%1). Le réseau est de nouveau ouvert ; vérifiez vos paramètres réseau.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your network settings.</source>
+        <translation>Un enregistrement des anciens paramètres réseau était endommagé (%1). Le réseau est de nouveau ouvert ; vérifiez vos paramètres réseau.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your proxy settings.</source>
-        <translation>Une note sur ce qu’il fallait rétablir était endommagée (%1). Le réseau est de nouveau ouvert ; vérifiez vos paramètres de proxy.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your proxy settings.</source>
+        <translation>Un enregistrement des anciens paramètres réseau était endommagé (%1). Le réseau est de nouveau ouvert ; vérifiez vos paramètres de proxy.</translation>
     </message>
     <message>
         <source>An administrator password is needed to approve %1.</source>
@@ -3227,8 +3214,8 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
         <translation>Le compte %1 n’a pas d’identifiant utilisateur valide.</translation>
     </message>
     <message>
-        <source>The account %1 must be one of its own.</source>
-        <translation>Le compte %1 doit être un compte à part.</translation>
+        <source>The account %1 must be neither root&apos;s nor the caller&apos;s.</source>
+        <translation>Le compte %1 ne doit être ni celui de root ni celui de l’utilisateur qui fait la demande.</translation>
     </message>
     <message>
         <source>The application could not be started.</source>
@@ -3395,12 +3382,12 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
         <translation>Le programme auxiliaire a reçu une option qu’il ne connaît pas.</translation>
     </message>
     <message>
-        <source>The helper was not given a verb that it knows.</source>
-        <translation>Le programme auxiliaire n’a reçu aucune commande qu’il connaisse.</translation>
+        <source>The helper does not know this verb.</source>
+        <translation>Le programme auxiliaire ne connaît pas cette commande.</translation>
     </message>
     <message>
-        <source>The journal cannot be written.</source>
-        <translation>Le journal interne ne peut pas être écrit.</translation>
+        <source>The record of the former network settings cannot be written.</source>
+        <translation>L’enregistrement des anciens paramètres réseau ne peut pas être écrit.</translation>
     </message>
     <message>
         <source>The kill switch is not on, so no application needs to bypass it.</source>
@@ -3443,8 +3430,8 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
         <translation>Le réseau est de nouveau ouvert, mais le service Tor du système n’a pas pu être redémarré. Essayez : systemctl start %1.</translation>
     </message>
     <message>
-        <source>The network is open, but the firewall could not be given back.</source>
-        <translation>Le réseau est ouvert, mais le pare-feu n’a pas pu être rendu au système.</translation>
+        <source>The network is open, but pf could not be released.</source>
+        <translation>Le réseau est ouvert, mais pf n’a pas pu être libéré.</translation>
     </message>
     <message>
         <source>The network is open, but the firewall&apos;s main rules could not be put back.</source>
@@ -3547,7 +3534,7 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
         <translation>Le programme %1 est absent de ce système.</translation>
     </message>
     <message>
-        <source>The SHA-256 of the program %1 is not the one to approve.</source>
+        <source>The SHA-256 of the program %1 differs from the one to approve.</source>
         <translation>L’empreinte SHA-256 du programme %1 n’est pas celle à approuver.</translation>
     </message>
     <message>
@@ -3699,8 +3686,8 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
         <translation>Veldmark n’est pas connecté ; les paramètres DNS n’ont donc pas été modifiés.</translation>
     </message>
     <message>
-        <source>sudo does not accept the rule.</source>
-        <translation>sudo n’accepte pas la règle.</translation>
+        <source>sudo rejects the rule for passwordless mode.</source>
+        <translation>sudo rejette la règle du mode sans mot de passe.</translation>
     </message>
     <message>
         <source>sudo is not installed on this system.</source>
@@ -3816,7 +3803,7 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
     </message>
     <message>
         <source>the applications that have circuits of their own, and the loopback address
-by which Tor tells each from the others</source>
+by which Tor distinguishes them</source>
         <translation>les applications qui ont leurs propres circuits, et l’adresse de bouclage
 qui permet à Tor de distinguer chacune des autres</translation>
     </message>
@@ -3873,8 +3860,8 @@ le même nom dans la même session donne les mêmes circuits</translation>
         <translation>%1 n’a pas été approuvé.</translation>
     </message>
     <message>
-        <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
-        <translation>%1 n’est pas un programme du système ; quelqu’un doit donc l’approuver, et il n’y a pas de terminal où le demander. Exécutez « sudo veldmarkctl run --connect » dans un terminal.</translation>
+        <source>%1 is not a program of the system, so an administrator has to approve it, but this command has no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
+        <translation>%1 n’est pas un programme du système ; un administrateur doit donc l’approuver, mais cette commande n’a pas de terminal où le demander. Exécutez « sudo veldmarkctl run --connect » dans un terminal.</translation>
     </message>
     <message>
         <source>%1 needs the name of a file.</source>

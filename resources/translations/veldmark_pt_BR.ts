@@ -101,10 +101,6 @@
         <translation>Baixar</translation>
     </message>
     <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Baixa o Tor Expert Bundle oficial do Projeto Tor, com programas de ponte e pontes integradas</translation>
-    </message>
-    <message>
         <source>When Tor is blocked</source>
         <translation>Quando o Tor está bloqueado</translation>
     </message>
@@ -113,8 +109,8 @@
         <translation>Desconecte para alterar</translation>
     </message>
     <message>
-        <source>Bridges that are there can be tried one after the other, without another password</source>
-        <translation>As pontes disponíveis podem ser testadas uma após a outra, sem outra senha</translation>
+        <source>Tries the available bridges in turn, without another password</source>
+        <translation>Testa as pontes disponíveis uma após a outra, sem outra senha</translation>
     </message>
 </context>
 <context>
@@ -342,6 +338,17 @@
     </message>
 </context>
 <context>
+    <name>DownloadButton</name>
+    <message>
+        <source>Download</source>
+        <translation>Baixar</translation>
+    </message>
+    <message>
+        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
+        <translation>Baixa o Tor Expert Bundle oficial do Projeto Tor, com programas de ponte e pontes integradas</translation>
+    </message>
+</context>
+<context>
     <name>Footer</name>
     <message>
         <source>Settings</source>
@@ -537,14 +544,6 @@
         <translation>Pontes</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>Baixar</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Baixa o Tor Expert Bundle oficial do Projeto Tor, com programas de ponte e pontes integradas</translation>
-    </message>
-    <message>
         <source>Edit…</source>
         <translation>Editar…</translation>
     </message>
@@ -602,14 +601,6 @@
     <message>
         <source>Recheck</source>
         <translation>Verificar de novo</translation>
-    </message>
-    <message>
-        <source>Download</source>
-        <translation>Baixar</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Baixa o Tor Expert Bundle oficial do Projeto Tor, com programas de ponte e pontes integradas</translation>
     </message>
 </context>
 <context>
@@ -894,10 +885,6 @@
     <message>
         <source>Firewall rules were removed</source>
         <translation>Regras de firewall removidas</translation>
-    </message>
-    <message>
-        <source>Another program removed Veldmark&apos;s firewall rules; they are back in place.</source>
-        <translation>Outro programa removeu as regras de firewall do Veldmark; elas já foram restauradas.</translation>
     </message>
     <message>
         <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>
@@ -1257,11 +1244,11 @@
         <translation>Sem resposta</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
         <translation>Uma conexão direta, sem passar pelo Tor, não teve resposta, mas não se sabe se o kill switch bloqueia conexões assim</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
         <translation>Uma conexão direta, sem passar pelo Tor, não teve resposta, mas o modo proxy não bloqueia conexões assim</translation>
     </message>
     <message>
@@ -3011,13 +2998,13 @@
         <translation>mostra o registro do Tor; --problems mostra só avisos e erros</translation>
     </message>
     <message>
-        <source>the transport programs and built-in bridges that were found, and
+        <source>the bridge programs and built-in bridges that were found, and
 which of your own bridge lines are not valid</source>
         <translation>mostra os programas de ponte e as pontes integradas encontrados, e quais
 das suas próprias linhas de ponte não são válidas</translation>
     </message>
     <message>
-        <source>fetch the Tor Project&apos;s transport programs and built-in bridges</source>
+        <source>fetch the Tor Project&apos;s bridge programs and built-in bridges</source>
         <translation>obtém os programas de ponte e as pontes integradas do Projeto Tor</translation>
     </message>
     <message>
@@ -3151,12 +3138,12 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
         <translation>Uma linha de ponte não é válida.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your network settings.</source>
-        <translation>Uma anotação do que restaurar estava danificada (%1). A rede está desbloqueada de novo; confira suas configurações de rede.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your network settings.</source>
+        <translation>Um registro das configurações de rede anteriores estava danificado (%1). A rede está desbloqueada de novo; confira suas configurações de rede.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your proxy settings.</source>
-        <translation>Uma anotação do que restaurar estava danificada (%1). A rede está desbloqueada de novo; confira suas configurações de proxy.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your proxy settings.</source>
+        <translation>Um registro das configurações de rede anteriores estava danificado (%1). A rede está desbloqueada de novo; confira suas configurações de proxy.</translation>
     </message>
     <message>
         <source>An administrator password is needed to approve %1.</source>
@@ -3227,8 +3214,8 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
         <translation>A conta %1 não tem um ID de usuário válido.</translation>
     </message>
     <message>
-        <source>The account %1 must be one of its own.</source>
-        <translation>A conta %1 precisa ser uma conta separada.</translation>
+        <source>The account %1 must be neither root&apos;s nor the caller&apos;s.</source>
+        <translation>A conta %1 não pode ser a do root nem a do usuário que faz o pedido.</translation>
     </message>
     <message>
         <source>The application could not be started.</source>
@@ -3395,12 +3382,12 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
         <translation>O programa auxiliar recebeu uma opção que não conhece.</translation>
     </message>
     <message>
-        <source>The helper was not given a verb that it knows.</source>
-        <translation>O programa auxiliar não recebeu um comando que conheça.</translation>
+        <source>The helper does not know this verb.</source>
+        <translation>O programa auxiliar não conhece este comando.</translation>
     </message>
     <message>
-        <source>The journal cannot be written.</source>
-        <translation>Não é possível gravar o diário de alterações.</translation>
+        <source>The record of the former network settings cannot be written.</source>
+        <translation>Não é possível gravar o registro das configurações de rede anteriores.</translation>
     </message>
     <message>
         <source>The kill switch is not on, so no application needs to bypass it.</source>
@@ -3443,8 +3430,8 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
         <translation>A rede está desbloqueada de novo, mas não foi possível iniciar de novo o serviço Tor do próprio sistema. Tente: systemctl start %1.</translation>
     </message>
     <message>
-        <source>The network is open, but the firewall could not be given back.</source>
-        <translation>A rede está desbloqueada, mas não foi possível devolver o firewall ao sistema.</translation>
+        <source>The network is open, but pf could not be released.</source>
+        <translation>A rede está desbloqueada, mas não foi possível liberar o pf.</translation>
     </message>
     <message>
         <source>The network is open, but the firewall&apos;s main rules could not be put back.</source>
@@ -3547,7 +3534,7 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
         <translation>Falta o programa %1 neste sistema.</translation>
     </message>
     <message>
-        <source>The SHA-256 of the program %1 is not the one to approve.</source>
+        <source>The SHA-256 of the program %1 differs from the one to approve.</source>
         <translation>O SHA-256 do programa %1 não é o que deve ser aprovado.</translation>
     </message>
     <message>
@@ -3699,8 +3686,8 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
         <translation>O Veldmark não está conectado, então as configurações de DNS não foram alteradas.</translation>
     </message>
     <message>
-        <source>sudo does not accept the rule.</source>
-        <translation>O sudo não aceita a regra.</translation>
+        <source>sudo rejects the rule for passwordless mode.</source>
+        <translation>O sudo rejeita a regra do modo sem senha.</translation>
     </message>
     <message>
         <source>sudo is not installed on this system.</source>
@@ -3816,7 +3803,7 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
     </message>
     <message>
         <source>the applications that have circuits of their own, and the loopback address
-by which Tor tells each from the others</source>
+by which Tor distinguishes them</source>
         <translation>mostra os aplicativos que têm circuitos próprios e o endereço de loopback
 pelo qual o Tor distingue cada um dos demais</translation>
     </message>
@@ -3873,8 +3860,8 @@ o mesmo nome na mesma sessão usa os mesmos circuitos</translation>
         <translation>%1 não foi aprovado.</translation>
     </message>
     <message>
-        <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
-        <translation>%1 não é um programa do sistema, por isso alguém precisa aprová-lo, e não há terminal em que perguntar. Execute “sudo veldmarkctl run --connect” em um terminal.</translation>
+        <source>%1 is not a program of the system, so an administrator has to approve it, but this command has no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
+        <translation>%1 não é um programa do sistema, por isso um administrador precisa aprová-lo, mas este comando não tem um terminal em que perguntar. Execute “sudo veldmarkctl run --connect” em um terminal.</translation>
     </message>
     <message>
         <source>%1 needs the name of a file.</source>

@@ -101,10 +101,6 @@
         <translation>Загрузить</translation>
     </message>
     <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Загружает с сайта Проекта Tor официальный Tor Expert Bundle: программы для мостов и встроенные мосты</translation>
-    </message>
-    <message>
         <source>When Tor is blocked</source>
         <translation>Когда Tor заблокирован</translation>
     </message>
@@ -113,8 +109,8 @@
         <translation>Чтобы изменить, отключитесь</translation>
     </message>
     <message>
-        <source>Bridges that are there can be tried one after the other, without another password</source>
-        <translation>Имеющиеся мосты можно пробовать один за другим, без нового пароля</translation>
+        <source>Tries the available bridges in turn, without another password</source>
+        <translation>Пробует имеющиеся мосты один за другим, без нового пароля</translation>
     </message>
 </context>
 <context>
@@ -342,6 +338,17 @@
     </message>
 </context>
 <context>
+    <name>DownloadButton</name>
+    <message>
+        <source>Download</source>
+        <translation>Загрузить</translation>
+    </message>
+    <message>
+        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
+        <translation>Загружает с сайта Проекта Tor официальный Tor Expert Bundle: программы для мостов и встроенные мосты</translation>
+    </message>
+</context>
+<context>
     <name>Footer</name>
     <message>
         <source>Settings</source>
@@ -537,14 +544,6 @@
         <translation>Мосты</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>Загрузить</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Загружает с сайта Проекта Tor официальный Tor Expert Bundle: программы для мостов и встроенные мосты</translation>
-    </message>
-    <message>
         <source>Edit…</source>
         <translation>Изменить…</translation>
     </message>
@@ -602,14 +601,6 @@
     <message>
         <source>Recheck</source>
         <translation>Проверить снова</translation>
-    </message>
-    <message>
-        <source>Download</source>
-        <translation>Загрузить</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Загружает с сайта Проекта Tor официальный Tor Expert Bundle: программы для мостов и встроенные мосты</translation>
     </message>
 </context>
 <context>
@@ -894,10 +885,6 @@
     <message>
         <source>Firewall rules were removed</source>
         <translation>Правила брандмауэра были удалены</translation>
-    </message>
-    <message>
-        <source>Another program removed Veldmark&apos;s firewall rules; they are back in place.</source>
-        <translation>Другая программа удалила правила Veldmark в брандмауэре; они восстановлены.</translation>
     </message>
     <message>
         <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>
@@ -1262,11 +1249,11 @@
         <translation>Нет ответа</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
         <translation>Прямое соединение в обход Tor осталось без ответа, но неизвестно, блокирует ли kill switch такие соединения</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
         <translation>Прямое соединение в обход Tor осталось без ответа, но режим прокси не блокирует такие соединения</translation>
     </message>
     <message>
@@ -3016,13 +3003,13 @@
         <translation>журнал Tor; с --problems — только предупреждения и ошибки</translation>
     </message>
     <message>
-        <source>the transport programs and built-in bridges that were found, and
+        <source>the bridge programs and built-in bridges that were found, and
 which of your own bridge lines are not valid</source>
         <translation>найденные программы для мостов и встроенные мосты, а также
 недопустимые строки среди ваших мостов</translation>
     </message>
     <message>
-        <source>fetch the Tor Project&apos;s transport programs and built-in bridges</source>
+        <source>fetch the Tor Project&apos;s bridge programs and built-in bridges</source>
         <translation>загрузить программы для мостов и встроенные мосты Проекта Tor</translation>
     </message>
     <message>
@@ -3156,12 +3143,12 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>Недопустимая строка моста.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your network settings.</source>
-        <translation>Запись о том, что нужно восстановить, повреждена (%1). Сеть снова открыта; проверьте настройки сети.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your network settings.</source>
+        <translation>Запись о прежних настройках сети повреждена (%1). Сеть снова открыта; проверьте настройки сети.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your proxy settings.</source>
-        <translation>Запись о том, что нужно восстановить, повреждена (%1). Сеть снова открыта; проверьте настройки прокси.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your proxy settings.</source>
+        <translation>Запись о прежних настройках сети повреждена (%1). Сеть снова открыта; проверьте настройки прокси.</translation>
     </message>
     <message>
         <source>An administrator password is needed to approve %1.</source>
@@ -3232,8 +3219,8 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>У учётной записи %1 нет допустимого идентификатора пользователя.</translation>
     </message>
     <message>
-        <source>The account %1 must be one of its own.</source>
-        <translation>Учётная запись %1 должна быть отдельной.</translation>
+        <source>The account %1 must be neither root&apos;s nor the caller&apos;s.</source>
+        <translation>Учётная запись %1 не должна принадлежать ни root, ни пользователю, от которого исходит запрос.</translation>
     </message>
     <message>
         <source>The application could not be started.</source>
@@ -3400,12 +3387,12 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>Вспомогательной программе передан неизвестный ей параметр.</translation>
     </message>
     <message>
-        <source>The helper was not given a verb that it knows.</source>
-        <translation>Вспомогательной программе не передана известная ей команда.</translation>
+        <source>The helper does not know this verb.</source>
+        <translation>Вспомогательной программе эта команда не известна.</translation>
     </message>
     <message>
-        <source>The journal cannot be written.</source>
-        <translation>Не удаётся записать журнал восстановления.</translation>
+        <source>The record of the former network settings cannot be written.</source>
+        <translation>Не удаётся записать сведения о прежних настройках сети.</translation>
     </message>
     <message>
         <source>The kill switch is not on, so no application needs to bypass it.</source>
@@ -3448,8 +3435,8 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>Сеть снова открыта, но снова запустить системную службу Tor не удалось. Попробуйте: systemctl start %1.</translation>
     </message>
     <message>
-        <source>The network is open, but the firewall could not be given back.</source>
-        <translation>Сеть открыта, но освободить брандмауэр не удалось.</translation>
+        <source>The network is open, but pf could not be released.</source>
+        <translation>Сеть открыта, но освободить pf не удалось.</translation>
     </message>
     <message>
         <source>The network is open, but the firewall&apos;s main rules could not be put back.</source>
@@ -3552,7 +3539,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>В этой системе нет программы %1.</translation>
     </message>
     <message>
-        <source>The SHA-256 of the program %1 is not the one to approve.</source>
+        <source>The SHA-256 of the program %1 differs from the one to approve.</source>
         <translation>SHA-256 программы %1 — не тот, который нужно было одобрить.</translation>
     </message>
     <message>
@@ -3704,8 +3691,8 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>Veldmark не подключён, поэтому настройки DNS оставлены без изменений.</translation>
     </message>
     <message>
-        <source>sudo does not accept the rule.</source>
-        <translation>sudo не принимает правило.</translation>
+        <source>sudo rejects the rule for passwordless mode.</source>
+        <translation>sudo отклоняет правило для режима без пароля.</translation>
     </message>
     <message>
         <source>sudo is not installed on this system.</source>
@@ -3821,7 +3808,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>the applications that have circuits of their own, and the loopback address
-by which Tor tells each from the others</source>
+by which Tor distinguishes them</source>
         <translation>приложения со своими цепочками и адрес loopback, по которому Tor отличает
 каждое от остальных</translation>
     </message>
@@ -3878,8 +3865,8 @@ name in the same session has the same ones</source>
         <translation>Файл %1 не одобрен.</translation>
     </message>
     <message>
-        <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
-        <translation>%1 — не программа системы, поэтому её нужно одобрить, а терминала, в котором можно об этом спросить, нет. Выполните «sudo veldmarkctl run --connect» в терминале.</translation>
+        <source>%1 is not a program of the system, so an administrator has to approve it, but this command has no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
+        <translation>%1 — не программа системы, поэтому её должен одобрить администратор, но у этой команды нет терминала, в котором можно об этом спросить. Выполните «sudo veldmarkctl run --connect» в терминале.</translation>
     </message>
     <message>
         <source>%1 needs the name of a file.</source>

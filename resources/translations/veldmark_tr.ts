@@ -101,10 +101,6 @@
         <translation>İndir</translation>
     </message>
     <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Köprü programları ve yerleşik köprüler için Tor Projesi&apos;nin resmî Tor Expert Bundle paketini indirir</translation>
-    </message>
-    <message>
         <source>When Tor is blocked</source>
         <translation>Tor engellendiğinde</translation>
     </message>
@@ -113,8 +109,8 @@
         <translation>Önce bağlantıyı kesin</translation>
     </message>
     <message>
-        <source>Bridges that are there can be tried one after the other, without another password</source>
-        <translation>Var olan köprüler, başka bir parola istenmeden birbiri ardına denenebilir</translation>
+        <source>Tries the available bridges in turn, without another password</source>
+        <translation>Var olan köprüleri, başka bir parola istemeden birbiri ardına dener</translation>
     </message>
 </context>
 <context>
@@ -342,6 +338,17 @@
     </message>
 </context>
 <context>
+    <name>DownloadButton</name>
+    <message>
+        <source>Download</source>
+        <translation>İndir</translation>
+    </message>
+    <message>
+        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
+        <translation>Köprü programları ve yerleşik köprüler için Tor Projesi&apos;nin resmî Tor Expert Bundle paketini indirir</translation>
+    </message>
+</context>
+<context>
     <name>Footer</name>
     <message>
         <source>Settings</source>
@@ -537,14 +544,6 @@
         <translation>Köprüler</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>İndir</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Köprü programları ve yerleşik köprüler için Tor Projesi&apos;nin resmî Tor Expert Bundle paketini indirir</translation>
-    </message>
-    <message>
         <source>Edit…</source>
         <translation>Düzenle…</translation>
     </message>
@@ -602,14 +601,6 @@
     <message>
         <source>Recheck</source>
         <translation>Yeniden denetle</translation>
-    </message>
-    <message>
-        <source>Download</source>
-        <translation>İndir</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Köprü programları ve yerleşik köprüler için Tor Projesi&apos;nin resmî Tor Expert Bundle paketini indirir</translation>
     </message>
 </context>
 <context>
@@ -894,10 +885,6 @@
     <message>
         <source>Firewall rules were removed</source>
         <translation>Güvenlik duvarı kuralları kaldırıldı</translation>
-    </message>
-    <message>
-        <source>Another program removed Veldmark&apos;s firewall rules; they are back in place.</source>
-        <translation>Başka bir program Veldmark&apos;ın güvenlik duvarı kurallarını kaldırdı; kurallar yeniden yerinde.</translation>
     </message>
     <message>
         <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>
@@ -1252,11 +1239,11 @@
         <translation>Yanıt yok</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
         <translation>Tor&apos;u atlayan doğrudan bir bağlantı yanıt almadı, ama acil kesme anahtarının böyle bağlantıları engelleyip engellemediği bilinmiyor</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
         <translation>Tor&apos;u atlayan doğrudan bir bağlantı yanıt almadı, ama vekil sunucu kipi böyle bağlantıları engellemez</translation>
     </message>
     <message>
@@ -3006,13 +2993,13 @@
         <translation>Tor&apos;un günlüğü; --problems yalnızca uyarıları ve hataları gösterir</translation>
     </message>
     <message>
-        <source>the transport programs and built-in bridges that were found, and
+        <source>the bridge programs and built-in bridges that were found, and
 which of your own bridge lines are not valid</source>
         <translation>bulunan köprü programları ve yerleşik köprüler ile kendi köprü
 satırlarınızdan geçersiz olanlar</translation>
     </message>
     <message>
-        <source>fetch the Tor Project&apos;s transport programs and built-in bridges</source>
+        <source>fetch the Tor Project&apos;s bridge programs and built-in bridges</source>
         <translation>Tor Projesi&apos;nin köprü programlarını ve yerleşik köprülerini indirir</translation>
     </message>
     <message>
@@ -3146,12 +3133,12 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
         <translation>Bir köprü satırı geçersiz.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your network settings.</source>
-        <translation>Neyin geri yükleneceğini belirten bir not bozulmuş (%1). Ağdaki engel kaldırıldı; ağ ayarlarınızı denetleyin.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your network settings.</source>
+        <translation>Önceki ağ ayarlarının bir kaydı bozulmuş (%1). Ağdaki engel kaldırıldı; ağ ayarlarınızı denetleyin.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your proxy settings.</source>
-        <translation>Neyin geri yükleneceğini belirten bir not bozulmuş (%1). Ağdaki engel kaldırıldı; vekil sunucu ayarlarınızı denetleyin.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your proxy settings.</source>
+        <translation>Önceki ağ ayarlarının bir kaydı bozulmuş (%1). Ağdaki engel kaldırıldı; vekil sunucu ayarlarınızı denetleyin.</translation>
     </message>
     <message>
         <source>An administrator password is needed to approve %1.</source>
@@ -3222,8 +3209,8 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
         <translation>%1 hesabının geçerli bir kullanıcı numarası yok.</translation>
     </message>
     <message>
-        <source>The account %1 must be one of its own.</source>
-        <translation>%1 hesabı yalnızca bu iş için ayrılmış bir hesap olmalı.</translation>
+        <source>The account %1 must be neither root&apos;s nor the caller&apos;s.</source>
+        <translation>%1 hesabı ne root hesabı ne de istekte bulunan kullanıcının hesabı olmalı.</translation>
     </message>
     <message>
         <source>The application could not be started.</source>
@@ -3390,12 +3377,12 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
         <translation>Yardımcı programa bilmediği bir seçenek verildi.</translation>
     </message>
     <message>
-        <source>The helper was not given a verb that it knows.</source>
-        <translation>Yardımcı programa bildiği bir komut verilmedi.</translation>
+        <source>The helper does not know this verb.</source>
+        <translation>Yardımcı program bu komutu tanımıyor.</translation>
     </message>
     <message>
-        <source>The journal cannot be written.</source>
-        <translation>Geri yükleme kaydı yazılamıyor.</translation>
+        <source>The record of the former network settings cannot be written.</source>
+        <translation>Önceki ağ ayarlarının kaydı yazılamıyor.</translation>
     </message>
     <message>
         <source>The kill switch is not on, so no application needs to bypass it.</source>
@@ -3438,8 +3425,8 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
         <translation>Ağdaki engel kaldırıldı, ama sistemin kendi Tor hizmeti yeniden başlatılamadı. Şunu deneyin: systemctl start %1.</translation>
     </message>
     <message>
-        <source>The network is open, but the firewall could not be given back.</source>
-        <translation>Ağdaki engel kaldırıldı, ama güvenlik duvarı geri verilemedi.</translation>
+        <source>The network is open, but pf could not be released.</source>
+        <translation>Ağdaki engel kaldırıldı, ama pf serbest bırakılamadı.</translation>
     </message>
     <message>
         <source>The network is open, but the firewall&apos;s main rules could not be put back.</source>
@@ -3542,7 +3529,7 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
         <translation>Bu sistemde %1 programı eksik.</translation>
     </message>
     <message>
-        <source>The SHA-256 of the program %1 is not the one to approve.</source>
+        <source>The SHA-256 of the program %1 differs from the one to approve.</source>
         <translation>%1 programının SHA-256 özeti onaylanacak olan değil.</translation>
     </message>
     <message>
@@ -3694,8 +3681,8 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
         <translation>Veldmark bağlı değil, bu yüzden DNS ayarlarına dokunulmadı.</translation>
     </message>
     <message>
-        <source>sudo does not accept the rule.</source>
-        <translation>sudo, kuralı kabul etmiyor.</translation>
+        <source>sudo rejects the rule for passwordless mode.</source>
+        <translation>sudo, parolasız kipin kuralını reddediyor.</translation>
     </message>
     <message>
         <source>sudo is not installed on this system.</source>
@@ -3811,7 +3798,7 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
     </message>
     <message>
         <source>the applications that have circuits of their own, and the loopback address
-by which Tor tells each from the others</source>
+by which Tor distinguishes them</source>
         <translation>kendi devreleri olan uygulamalar ve Tor&apos;un her birini diğerlerinden
 ayırt ettiği geri döngü adresi</translation>
     </message>
@@ -3868,8 +3855,8 @@ aynı adla yapılan sonraki çalıştırma aynı devreleri kullanır</translatio
         <translation>%1 onaylanmadı.</translation>
     </message>
     <message>
-        <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
-        <translation>%1 sistemin bir programı değil, bu yüzden birinin onu onaylaması gerekiyor ve bunu soracak bir uçbirim yok. Bir uçbirimde “sudo veldmarkctl run --connect” komutunu çalıştırın.</translation>
+        <source>%1 is not a program of the system, so an administrator has to approve it, but this command has no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
+        <translation>%1 sistemin bir programı değil, bu yüzden bir yöneticinin onu onaylaması gerekiyor ama bu komutun bunu soracağı bir uçbirimi yok. Bir uçbirimde “sudo veldmarkctl run --connect” komutunu çalıştırın.</translation>
     </message>
     <message>
         <source>%1 needs the name of a file.</source>

@@ -101,10 +101,6 @@
         <translation>Завантажити</translation>
     </message>
     <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Завантажує від Проєкту Tor офіційний Tor Expert Bundle: програми для мостів і вбудовані мости</translation>
-    </message>
-    <message>
         <source>When Tor is blocked</source>
         <translation>Коли Tor заблоковано</translation>
     </message>
@@ -113,8 +109,8 @@
         <translation>Щоб змінити, від’єднайтеся</translation>
     </message>
     <message>
-        <source>Bridges that are there can be tried one after the other, without another password</source>
-        <translation>Наявні мости можна пробувати один за одним, без нового пароля</translation>
+        <source>Tries the available bridges in turn, without another password</source>
+        <translation>Пробує наявні мости один за одним, без нового пароля</translation>
     </message>
 </context>
 <context>
@@ -342,6 +338,17 @@
     </message>
 </context>
 <context>
+    <name>DownloadButton</name>
+    <message>
+        <source>Download</source>
+        <translation>Завантажити</translation>
+    </message>
+    <message>
+        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
+        <translation>Завантажує від Проєкту Tor офіційний Tor Expert Bundle: програми для мостів і вбудовані мости</translation>
+    </message>
+</context>
+<context>
     <name>Footer</name>
     <message>
         <source>Settings</source>
@@ -537,14 +544,6 @@
         <translation>Мости</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>Завантажити</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Завантажує від Проєкту Tor офіційний Tor Expert Bundle: програми для мостів і вбудовані мости</translation>
-    </message>
-    <message>
         <source>Edit…</source>
         <translation>Змінити…</translation>
     </message>
@@ -602,14 +601,6 @@
     <message>
         <source>Recheck</source>
         <translation>Перевірити знову</translation>
-    </message>
-    <message>
-        <source>Download</source>
-        <translation>Завантажити</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>Завантажує від Проєкту Tor офіційний Tor Expert Bundle: програми для мостів і вбудовані мости</translation>
     </message>
 </context>
 <context>
@@ -894,10 +885,6 @@
     <message>
         <source>Firewall rules were removed</source>
         <translation>Правила брандмауера було вилучено</translation>
-    </message>
-    <message>
-        <source>Another program removed Veldmark&apos;s firewall rules; they are back in place.</source>
-        <translation>Інша програма вилучила правила Veldmark із брандмауера; їх уже відновлено.</translation>
     </message>
     <message>
         <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>
@@ -1262,11 +1249,11 @@
         <translation>Немає відповіді</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
         <translation>Пряме з’єднання повз Tor лишилося без відповіді, але невідомо, чи аварійне блокування перекриває такі з’єднання</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
         <translation>Пряме з’єднання повз Tor лишилося без відповіді, але режим проксі не перекриває таких з’єднань</translation>
     </message>
     <message>
@@ -3016,13 +3003,13 @@
         <translation>журнал Tor; --problems показує лише попередження й помилки</translation>
     </message>
     <message>
-        <source>the transport programs and built-in bridges that were found, and
+        <source>the bridge programs and built-in bridges that were found, and
 which of your own bridge lines are not valid</source>
         <translation>знайдені програми для мостів і вбудовані мости, а також
 хибні рядки серед ваших власних мостів</translation>
     </message>
     <message>
-        <source>fetch the Tor Project&apos;s transport programs and built-in bridges</source>
+        <source>fetch the Tor Project&apos;s bridge programs and built-in bridges</source>
         <translation>завантажити програми для мостів і вбудовані мости Проєкту Tor</translation>
     </message>
     <message>
@@ -3156,12 +3143,12 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>Рядок моста хибний.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your network settings.</source>
-        <translation>Запис про те, що слід відновити, було пошкоджено (%1). Мережу знову розблоковано; перевірте налаштування мережі.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your network settings.</source>
+        <translation>Запис про попередні налаштування мережі було пошкоджено (%1). Мережу знову розблоковано; перевірте налаштування мережі.</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your proxy settings.</source>
-        <translation>Запис про те, що слід відновити, було пошкоджено (%1). Мережу знову розблоковано; перевірте налаштування проксі.</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your proxy settings.</source>
+        <translation>Запис про попередні налаштування мережі було пошкоджено (%1). Мережу знову розблоковано; перевірте налаштування проксі.</translation>
     </message>
     <message>
         <source>An administrator password is needed to approve %1.</source>
@@ -3232,8 +3219,8 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>Обліковий запис %1 не має правильного ідентифікатора користувача.</translation>
     </message>
     <message>
-        <source>The account %1 must be one of its own.</source>
-        <translation>Обліковий запис %1 має бути окремим.</translation>
+        <source>The account %1 must be neither root&apos;s nor the caller&apos;s.</source>
+        <translation>Обліковий запис %1 не повинен належати ні root, ні користувачеві, від якого надійшов запит.</translation>
     </message>
     <message>
         <source>The application could not be started.</source>
@@ -3400,12 +3387,12 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>Допоміжна програма отримала невідомий їй параметр.</translation>
     </message>
     <message>
-        <source>The helper was not given a verb that it knows.</source>
-        <translation>Допоміжна програма не отримала жодної відомої їй команди.</translation>
+        <source>The helper does not know this verb.</source>
+        <translation>Допоміжній програмі ця команда невідома.</translation>
     </message>
     <message>
-        <source>The journal cannot be written.</source>
-        <translation>Не вдається записати журнал відновлення.</translation>
+        <source>The record of the former network settings cannot be written.</source>
+        <translation>Не вдається записати відомості про попередні налаштування мережі.</translation>
     </message>
     <message>
         <source>The kill switch is not on, so no application needs to bypass it.</source>
@@ -3448,8 +3435,8 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>Мережу знову розблоковано, але знову запустити системну службу Tor не вдалося. Спробуйте: systemctl start %1.</translation>
     </message>
     <message>
-        <source>The network is open, but the firewall could not be given back.</source>
-        <translation>Мережу розблоковано, але звільнити брандмауер не вдалося.</translation>
+        <source>The network is open, but pf could not be released.</source>
+        <translation>Мережу розблоковано, але звільнити pf не вдалося.</translation>
     </message>
     <message>
         <source>The network is open, but the firewall&apos;s main rules could not be put back.</source>
@@ -3552,7 +3539,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>У цій системі бракує програми %1.</translation>
     </message>
     <message>
-        <source>The SHA-256 of the program %1 is not the one to approve.</source>
+        <source>The SHA-256 of the program %1 differs from the one to approve.</source>
         <translation>SHA-256 програми %1 — не той, який треба було схвалити.</translation>
     </message>
     <message>
@@ -3704,8 +3691,8 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>Veldmark не під’єднано, тому налаштувань DNS не змінено.</translation>
     </message>
     <message>
-        <source>sudo does not accept the rule.</source>
-        <translation>sudo не приймає правила.</translation>
+        <source>sudo rejects the rule for passwordless mode.</source>
+        <translation>sudo відхиляє правило для режиму без пароля.</translation>
     </message>
     <message>
         <source>sudo is not installed on this system.</source>
@@ -3821,7 +3808,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>the applications that have circuits of their own, and the loopback address
-by which Tor tells each from the others</source>
+by which Tor distinguishes them</source>
         <translation>застосунки, що мають власні ланцюги, і адреса loopback,
 за якою Tor відрізняє кожен від решти</translation>
     </message>
@@ -3878,8 +3865,8 @@ name in the same session has the same ones</source>
         <translation>Програму %1 не схвалено.</translation>
     </message>
     <message>
-        <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
-        <translation>%1 — не програма системи, тому її треба схвалити, а термінала, у якому можна про це запитати, немає. Виконайте «sudo veldmarkctl run --connect» у терміналі.</translation>
+        <source>%1 is not a program of the system, so an administrator has to approve it, but this command has no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
+        <translation>%1 — не програма системи, тому її має схвалити адміністратор, але ця команда не має термінала, у якому можна про це запитати. Виконайте «sudo veldmarkctl run --connect» у терміналі.</translation>
     </message>
     <message>
         <source>%1 needs the name of a file.</source>

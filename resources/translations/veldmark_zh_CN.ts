@@ -101,10 +101,6 @@
         <translation>下载</translation>
     </message>
     <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>从 Tor 项目下载官方的 Tor Expert Bundle，以获取网桥程序和内置网桥</translation>
-    </message>
-    <message>
         <source>When Tor is blocked</source>
         <translation>当 Tor 被封锁时</translation>
     </message>
@@ -113,8 +109,8 @@
         <translation>断开后才能更改</translation>
     </message>
     <message>
-        <source>Bridges that are there can be tried one after the other, without another password</source>
-        <translation>可以依次尝试现有的网桥，无需再次输入密码</translation>
+        <source>Tries the available bridges in turn, without another password</source>
+        <translation>依次尝试现有的网桥，无需再次输入密码</translation>
     </message>
 </context>
 <context>
@@ -342,6 +338,17 @@
     </message>
 </context>
 <context>
+    <name>DownloadButton</name>
+    <message>
+        <source>Download</source>
+        <translation>下载</translation>
+    </message>
+    <message>
+        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
+        <translation>从 Tor 项目下载官方的 Tor Expert Bundle，以获取网桥程序和内置网桥</translation>
+    </message>
+</context>
+<context>
     <name>Footer</name>
     <message>
         <source>Settings</source>
@@ -537,14 +544,6 @@
         <translation>网桥</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>下载</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>从 Tor 项目下载官方的 Tor Expert Bundle，以获取网桥程序和内置网桥</translation>
-    </message>
-    <message>
         <source>Edit…</source>
         <translation>编辑…</translation>
     </message>
@@ -602,14 +601,6 @@
     <message>
         <source>Recheck</source>
         <translation>重新检查</translation>
-    </message>
-    <message>
-        <source>Download</source>
-        <translation>下载</translation>
-    </message>
-    <message>
-        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
-        <translation>从 Tor 项目下载官方的 Tor Expert Bundle，以获取网桥程序和内置网桥</translation>
     </message>
 </context>
 <context>
@@ -894,10 +885,6 @@
     <message>
         <source>Firewall rules were removed</source>
         <translation>防火墙规则曾被移除</translation>
-    </message>
-    <message>
-        <source>Another program removed Veldmark&apos;s firewall rules; they are back in place.</source>
-        <translation>另一个程序移除了 Veldmark 的防火墙规则；规则现已恢复。</translation>
     </message>
     <message>
         <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>
@@ -1252,11 +1239,11 @@
         <translation>无应答</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
         <translation>绕过 Tor 的直接连接没有得到应答，但无法确认断网保护是否会阻断此类连接</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
+        <source>A direct connection that bypasses Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
         <translation>绕过 Tor 的直接连接没有得到应答，但代理模式并不阻断此类连接</translation>
     </message>
     <message>
@@ -3006,13 +2993,13 @@
         <translation>Tor 的日志；--problems 仅显示警告和错误</translation>
     </message>
     <message>
-        <source>the transport programs and built-in bridges that were found, and
+        <source>the bridge programs and built-in bridges that were found, and
 which of your own bridge lines are not valid</source>
         <translation>找到的网桥程序和内置网桥，
 以及您自己的网桥行中哪些无效</translation>
     </message>
     <message>
-        <source>fetch the Tor Project&apos;s transport programs and built-in bridges</source>
+        <source>fetch the Tor Project&apos;s bridge programs and built-in bridges</source>
         <translation>获取 Tor 项目的网桥程序和内置网桥</translation>
     </message>
     <message>
@@ -3146,12 +3133,12 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>有一个网桥行无效。</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your network settings.</source>
-        <translation>一份待还原设置的记录已损坏（%1）。网络已解除阻断；请检查您的网络设置。</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your network settings.</source>
+        <translation>一份先前网络设置的记录已损坏（%1）。网络已解除阻断；请检查您的网络设置。</translation>
     </message>
     <message>
-        <source>A note of what to restore was damaged (%1). The network is open again; check your proxy settings.</source>
-        <translation>一份待还原设置的记录已损坏（%1）。网络已解除阻断；请检查您的代理设置。</translation>
+        <source>A record of the former network settings was damaged (%1). The network is open again; check your proxy settings.</source>
+        <translation>一份先前网络设置的记录已损坏（%1）。网络已解除阻断；请检查您的代理设置。</translation>
     </message>
     <message>
         <source>An administrator password is needed to approve %1.</source>
@@ -3222,8 +3209,8 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>账户 %1 没有有效的用户 ID。</translation>
     </message>
     <message>
-        <source>The account %1 must be one of its own.</source>
-        <translation>账户 %1 必须是专用账户。</translation>
+        <source>The account %1 must be neither root&apos;s nor the caller&apos;s.</source>
+        <translation>账户 %1 不能是 root 的账户，也不能是发出请求的用户的账户。</translation>
     </message>
     <message>
         <source>The application could not be started.</source>
@@ -3390,12 +3377,12 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>辅助程序收到了它不认识的选项。</translation>
     </message>
     <message>
-        <source>The helper was not given a verb that it knows.</source>
-        <translation>辅助程序没有收到它认识的命令。</translation>
+        <source>The helper does not know this verb.</source>
+        <translation>辅助程序不认识此命令。</translation>
     </message>
     <message>
-        <source>The journal cannot be written.</source>
-        <translation>无法写入操作记录。</translation>
+        <source>The record of the former network settings cannot be written.</source>
+        <translation>无法写入先前网络设置的记录。</translation>
     </message>
     <message>
         <source>The kill switch is not on, so no application needs to bypass it.</source>
@@ -3438,8 +3425,8 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>网络已解除阻断，但未能重新启动系统自带的 Tor 服务。请尝试：systemctl start %1。</translation>
     </message>
     <message>
-        <source>The network is open, but the firewall could not be given back.</source>
-        <translation>网络未被阻断，但未能交还防火墙的控制权。</translation>
+        <source>The network is open, but pf could not be released.</source>
+        <translation>网络未被阻断，但未能释放 pf。</translation>
     </message>
     <message>
         <source>The network is open, but the firewall&apos;s main rules could not be put back.</source>
@@ -3542,7 +3529,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>此系统缺少程序 %1。</translation>
     </message>
     <message>
-        <source>The SHA-256 of the program %1 is not the one to approve.</source>
+        <source>The SHA-256 of the program %1 differs from the one to approve.</source>
         <translation>程序 %1 的 SHA-256 与要批准的不符。</translation>
     </message>
     <message>
@@ -3694,8 +3681,8 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>Veldmark 未连接，因此没有改动 DNS 设置。</translation>
     </message>
     <message>
-        <source>sudo does not accept the rule.</source>
-        <translation>sudo 不接受该规则。</translation>
+        <source>sudo rejects the rule for passwordless mode.</source>
+        <translation>sudo 拒绝了免密码模式的规则。</translation>
     </message>
     <message>
         <source>sudo is not installed on this system.</source>
@@ -3811,7 +3798,7 @@ it. Changes nothing; the exit status is 0 when a connect can work</source>
     </message>
     <message>
         <source>the applications that have circuits of their own, and the loopback address
-by which Tor tells each from the others</source>
+by which Tor distinguishes them</source>
         <translation>拥有自己线路的应用，以及 Tor 用来
 区分各个应用的回环地址</translation>
     </message>
@@ -3868,8 +3855,8 @@ name in the same session has the same ones</source>
         <translation>%1 未获批准。</translation>
     </message>
     <message>
-        <source>%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
-        <translation>%1 不是系统的程序，需要有人批准，但没有可供询问的终端。请在终端中运行“sudo veldmarkctl run --connect”。</translation>
+        <source>%1 is not a program of the system, so an administrator has to approve it, but this command has no terminal to ask on. Run &quot;sudo veldmarkctl run --connect&quot; in a terminal.</source>
+        <translation>%1 不是系统的程序，需要管理员批准，但此命令没有可供询问的终端。请在终端中运行“sudo veldmarkctl run --connect”。</translation>
     </message>
     <message>
         <source>%1 needs the name of a file.</source>

@@ -102,8 +102,7 @@ void Alerts::tellPutBack(const std::optional<KillSwitch> &before)
         && m_putBackTold.secsTo(now.killSwitch->since) < putBackPauseSeconds)
         return;
     m_putBackTold = now.killSwitch->since;
-    tell(tr("Firewall rules were removed"),
-         tr("Another program removed Veldmark's firewall rules; they are back in place."));
+    tell(tr("Firewall rules were removed"), KillSwitch::putBackText().translated());
 }
 
 void Alerts::tell(const QString &title, const QString &text)

@@ -83,10 +83,7 @@ void Application::leave(bool restored)
         if (const auto reason = controller.errorMessage())
             errors << "veldmark: " << reason->translated() << '\n';
         errors << "veldmark: "
-               << Text::tr("The network is still set up for Tor. Restore it with: %1")
-                      .arg(controller.profile().manualRestoreCommand)
-                      .translated()
-               << '\n';
+               << NetworkRestorer::notRestoredText(controller.profile()).translated() << '\n';
         m_alerts.tell(
             tr("Your network is still set up for Tor"),
             tr("Veldmark had to close and could not restore the network. Open Veldmark again to restore it."));

@@ -47,9 +47,18 @@ void ControllerSession::read()
     m_scheduled = false;
     const TorController &c = m_controller;
     Snapshot next;
-    next.choices = {c.strictMode(),    c.allowLocalNetwork(), c.exitCountry(),  c.customTorPath(),
-                    c.bridgeChoice(),  c.customBridges(),     c.bypassApps(),   c.autoConnect(),
-                    c.optimizeSpeed(), c.terminalMode(),      c.separateApps(), c.climb()};
+    next.choices = {.strictMode = c.strictMode(),
+                    .allowLocalNetwork = c.allowLocalNetwork(),
+                    .exitCountry = c.exitCountry(),
+                    .customTorPath = c.customTorPath(),
+                    .bridgeChoice = c.bridgeChoice(),
+                    .customBridges = c.customBridges(),
+                    .bypassApps = c.bypassApps(),
+                    .autoConnect = c.autoConnect(),
+                    .optimizeSpeed = c.optimizeSpeed(),
+                    .terminalMode = c.terminalMode(),
+                    .separateApps = c.separateApps(),
+                    .climb = c.climb()};
     next.phase = c.phase();
     next.activeMode = c.activeMode();
     next.activeBridge = c.activeBridge();
@@ -294,7 +303,8 @@ void ControllerSession::makeReport()
 QCoro::Task<void> ControllerSession::report()
 {
     const QPointer<ControllerSession> self(this);
-    const ReportMaker::Given given{publishedState(m_controller), settingNames(m_controller)};
+    const ReportMaker::PublishedFacts given{publishedState(m_controller),
+                                            settingNames(m_controller)};
     auto making = m_reporter.make(given);
     const SupportReport made = co_await making;
     if (!self)

@@ -169,6 +169,12 @@ std::optional<BridgeAddress> address(QStringView line)
     return std::nullopt;
 }
 
+Text tooManyText()
+{
+    return Text::tr("At most %1 custom bridges can be used. Remove some under Bridges → Custom….")
+        .arg(mostLines);
+}
+
 Result<QStringList, BridgeError> custom(QStringView text)
 {
     ParsedBridgeLines parsed = parse(text);
@@ -176,9 +182,7 @@ Result<QStringList, BridgeError> custom(QStringView text)
         return Failure(BridgeError::unavailable(
             Text::tr("Some custom bridge lines aren't valid. Fix them under Bridges → Custom….")));
     if (!parsed.surplusLineNumbers.empty())
-        return Failure(BridgeError::unavailable(
-            Text::tr("At most %1 custom bridges can be used. Remove some under Bridges → Custom….")
-                .arg(mostLines)));
+        return Failure(BridgeError::unavailable(tooManyText()));
     if (parsed.lines.isEmpty())
         return Failure(
             BridgeError::unavailable(Text::tr("Add at least one bridge under Bridges → Custom….")));

@@ -63,6 +63,8 @@ std::optional<QString> transport(QStringView line);
 // number of 16 bits.
 std::optional<BridgeAddress> address(QStringView line);
 
+// Why the user's own list cannot be longer.
+Text tooManyText();
 // The lines of the user's own list, or the sentence that says why the list cannot be used. Invalid
 // lines are reported before too many lines, those before an empty list.
 Result<QStringList, BridgeError> custom(QStringView text);

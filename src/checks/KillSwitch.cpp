@@ -28,6 +28,11 @@ std::optional<KillSwitch> KillSwitch::parse(const QByteArray &note)
     return found;
 }
 
+Text KillSwitch::putBackText()
+{
+    return Text::tr("Another program removed Veldmark's firewall rules; they are back in place.");
+}
+
 QString KillSwitch::name() const
 {
     switch (state) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Text.h"
+
 #include <QDateTime>
 #include <QString>
 
@@ -26,6 +28,8 @@ struct KillSwitch {
     static std::optional<KillSwitch> parse(const QByteArray &note);
     // True only when the rules were last seen in the kernel.
     bool blocks() const { return state == State::standing || state == State::putBack; }
+    // Told when the state becomes `putBack`.
+    static Text putBackText();
     QString name() const; // "standing", "putBack", "open", "unknown"
 
     friend bool operator==(const KillSwitch &, const KillSwitch &) = default;

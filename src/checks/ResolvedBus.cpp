@@ -21,17 +21,17 @@ using Answer = ResumeOnce<std::optional<ResolvedState>>;
 
 // Runs only on the reading's own thread: even connecting and disconnecting wait for the bus, and
 // would block all other D-Bus use on their thread.
-class Conversation {
+class BusConnection {
 public:
-    explicit Conversation(Answer answer) : m_answer(std::move(answer)), m_bus(connect()) { }
-    ~Conversation()
+    explicit BusConnection(Answer answer) : m_answer(std::move(answer)), m_bus(connect()) { }
+    ~BusConnection()
     {
         const QString name = m_bus.name();
         m_bus = QDBusConnection(QString());
         QDBusConnection::disconnectFromBus(name);
     }
-    Conversation(const Conversation &) = delete;
-    Conversation &operator=(const Conversation &) = delete;
+    BusConnection(const BusConnection &) = delete;
+    BusConnection &operator=(const BusConnection &) = delete;
 
     std::optional<ResolvedState> read() const
     {
@@ -102,7 +102,7 @@ void readAndComplete(const Answer &answer)
 {
     std::optional<ResolvedState> state;
     {
-        const Conversation conversation(answer);
+        const BusConnection conversation(answer);
         state = conversation.read();
     }
     answer.complete(std::move(state));

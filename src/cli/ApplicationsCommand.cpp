@@ -1,5 +1,6 @@
 #include "cli/ApplicationsCommand.h"
 
+#include "base/OneLine.h"
 #include "cli/Console.h"
 #include "platform/PlatformProfile.h"
 #include "platform/RunningApplications.h"
@@ -57,12 +58,12 @@ QString Report::applications(const QJsonArray &findings)
         return Text::tr("No applications are installed.").translated();
     qsizetype width = 0;
     for (const QJsonValue &entry : findings)
-        width = std::max(width, Console::shortened(entry[nameKey].toString()).size());
+        width = std::max(width, inOneLine(entry[nameKey].toString()).size());
     QStringList lines;
     for (const QJsonValue &entry : findings)
         lines << QStringLiteral("%1 %2  %3%4")
                      .arg(entry[bypassedKey].toBool() ? QStringLiteral("*") : QStringLiteral(" "),
-                          Console::shortened(entry[nameKey].toString()).leftJustified(width),
+                          inOneLine(entry[nameKey].toString()).leftJustified(width),
                           entry[pathKey].toString(),
                           entry[installedKey].toBool()
                               ? QString()
@@ -76,7 +77,7 @@ Result<QString, Text> applicationPath(const QString &wanted,
     if (wanted.contains(u'/')) {
         const QFileInfo file(wanted);
         if (!file.isFile())
-            return Failure(Text::tr("There is no file \"%1\".").arg(Console::shortened(wanted)));
+            return Failure(Text::tr("There is no file \"%1\".").arg(inOneLine(wanted)));
         return file.absoluteFilePath();
     }
     QStringList found;
@@ -86,10 +87,10 @@ Result<QString, Text> applicationPath(const QString &wanted,
     }
     if (found.isEmpty())
         return Failure(Text::tr("There is no application \"%1\"; \"veldmarkctl apps\" lists them.")
-                           .arg(Console::shortened(wanted)));
+                           .arg(inOneLine(wanted)));
     if (found.size() > 1)
         return Failure(Text::tr("\"%1\" may be any of: %2. Give the path.")
-                           .arg(Console::shortened(wanted), found.join(QStringLiteral(", "))));
+                           .arg(inOneLine(wanted), found.join(QStringLiteral(", "))));
     return found.first();
 }
 

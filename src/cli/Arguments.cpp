@@ -1,20 +1,16 @@
 #include "cli/Arguments.h"
 
+#include "base/OneLine.h"
+
 #include <algorithm>
 
 namespace veldmark {
 
 namespace {
 
-// The user's text, made safe for one line of a message.
 QString quoted(const QString &text)
 {
-    QString shown = text.left(60).simplified();
-    for (QChar &c : shown) {
-        if (!c.isPrint())
-            c = u'?';
-    }
-    return u'"' + shown + u'"';
+    return u'"' + inOneLine(text) + u'"';
 }
 
 Text missing(const Verb &verb)

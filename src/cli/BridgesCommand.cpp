@@ -1,5 +1,6 @@
 #include "cli/BridgesCommand.h"
 
+#include "base/OneLine.h"
 #include "base/ResumeOnce.h"
 #include "bridges/BridgeLines.h"
 #include "bridges/BridgeText.h"
@@ -111,8 +112,7 @@ QStringList problems(const QJsonObject &custom)
     for (const QJsonValue &entry : custom.value(QStringLiteral("invalid")).toArray())
         lines << Text::tr("line %1 is not a bridge line: %2")
                      .arg(entry.toObject().value(QStringLiteral("line")).toInt(),
-                          Console::shortened(
-                              entry.toObject().value(QStringLiteral("text")).toString()))
+                          inOneLine(entry.toObject().value(QStringLiteral("text")).toString()))
                      .translated();
     const QJsonArray surplus = custom.value(QStringLiteral("surplus")).toArray();
     if (!surplus.isEmpty())
@@ -180,7 +180,7 @@ QString Report::bridges(const QJsonObject &all)
               .translated();
     const QJsonObject builtin = all.value(QStringLiteral("builtin")).toObject();
     for (auto count = builtin.begin(); count != builtin.end(); ++count)
-        report += row(Console::shortened(count.key()), QString::number(count.value().toInt()));
+        report += row(inOneLine(count.key()), QString::number(count.value().toInt()));
     if (builtin.isEmpty())
         report += QStringLiteral("\n  ")
             + Text::tr("none; get some with: veldmarkctl download-transports").translated();
@@ -190,11 +190,10 @@ QString Report::bridges(const QJsonObject &all)
     report += QStringLiteral("\nTor Expert Bundle\n  ");
     const Text verification = isSigned ? Text::tr("signature verified")
                                        : Text::tr("signature not verified");
-    report += bundle.isEmpty()
-        ? Text::tr("not downloaded").translated()
-        : QStringLiteral("%1, %2").arg(
-            Console::shortened(bundle.value(QStringLiteral("version")).toString()),
-            verification.translated());
+    report += bundle.isEmpty() ? Text::tr("not downloaded").translated()
+                               : QStringLiteral("%1, %2").arg(
+                                   inOneLine(bundle.value(QStringLiteral("version")).toString()),
+                                   verification.translated());
 
     const QJsonObject custom = all.value(QStringLiteral("custom")).toObject();
     report += u'\n' + Text::tr("Your own bridges").translated() + QStringLiteral("\n  ")
@@ -249,9 +248,7 @@ QCoro::Task<ExitStatus> addBridges(Invocation invocation, PlatformProfile profil
                     .translated();
     }
     if (stored.lines.size() + added.size() > BridgeLines::mostLines) {
-        Console::printError(
-            Text::tr("At most %1 custom bridges can be used. Remove some under Bridges → Custom….")
-                .arg(BridgeLines::mostLines));
+        Console::printError(BridgeLines::tooManyText());
         co_return ExitStatus::failed;
     }
     if (!added.isEmpty()) {

@@ -189,7 +189,6 @@ QCoro::Task<ExitStatus> restoreHere(Invocation invocation, std::shared_ptr<RealC
 {
     TorController &controller = real->controller();
     printSettingsProblems(controller);
-    controller.detectStaleState();
     const auto lock = lockInstance(controller.profile()); // no other process starts meanwhile
     if (!lock) {
         Console::printError(lock.error());

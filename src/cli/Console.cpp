@@ -25,16 +25,6 @@ void printError(const Text &text)
     write(stderr, "veldmarkctl: " + text.translated().toUtf8() + '\n');
 }
 
-QString shortened(const QString &text)
-{
-    QString line = text.left(60);
-    for (QChar &c : line) {
-        if (!c.isPrint())
-            c = u'?';
-    }
-    return text.size() > line.size() ? line + u'…' : line;
-}
-
 void draw(const QString &text)
 {
     write(stdout, text.toUtf8());

@@ -9,9 +9,6 @@ namespace veldmark::Console {
 void print(const Text &text);
 void printError(const Text &text);
 
-// The first 60 characters of a text from a file or the user, made safe for one line of a terminal.
-QString shortened(const QString &text);
-
 // Prints text without a line end, for a line that is redrawn.
 void draw(const QString &text);
 

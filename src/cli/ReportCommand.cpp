@@ -43,10 +43,10 @@ QCoro::Task<QJsonObject> ownState(std::shared_ptr<RealController> real)
     co_return publishedState(controller);
 }
 
-QCoro::Task<ReportMaker::Given> givenBy(std::shared_ptr<InstanceClient> instance,
-                                        std::shared_ptr<RealController> real)
+QCoro::Task<ReportMaker::PublishedFacts> givenBy(std::shared_ptr<InstanceClient> instance,
+                                                 std::shared_ptr<RealController> real)
 {
-    ReportMaker::Given given;
+    ReportMaker::PublishedFacts given;
     given.settings = settingNames(real->controller());
     if (instance) {
         const ResumeOnce<GivenState> answered;
@@ -78,7 +78,7 @@ QCoro::Task<ExitStatus> showReport(Invocation invocation, PlatformProfile profil
     const auto real = std::make_shared<RealController>(profile);
     const auto instance = InstanceClient::connectTo(profile);
     auto asking = givenBy(instance, real);
-    const ReportMaker::Given given = co_await asking;
+    const ReportMaker::PublishedFacts given = co_await asking;
 
     ChildProcessRunner processes;
     ReportMaker maker(profile, real->settings(), processes);

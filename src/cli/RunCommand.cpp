@@ -87,8 +87,7 @@ void RunCommand::onRestored(bool restored)
     }
     m_lines.complain(m_controller.errorMessage().value_or(Text::tr("Cancelled.")));
     if (m_mustEnd) {
-        m_lines.complain(Text::tr("The network is still set up for Tor. Restore it with: %1")
-                             .arg(m_controller.profile().manualRestoreCommand));
+        m_lines.complain(NetworkRestorer::notRestoredText(m_controller.profile()));
         finish(ExitStatus::failed);
         return;
     }

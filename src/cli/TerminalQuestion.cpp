@@ -30,26 +30,26 @@ bool isInBackground(int terminal)
 
 } // namespace
 
-struct TerminalQuestion::Asking {
+struct TerminalQuestion::OpenQuestion {
     int terminal;
     std::unique_ptr<QSocketNotifier> notifier;
     QByteArray typed;
     ResumeOnce<Answer> answer;
 
-    explicit Asking(const QString &path)
+    explicit OpenQuestion(const QString &path)
         // a description of its own, so that the shell's stays blocking
         : terminal(
             ::open(QFile::encodeName(path).constData(), O_RDWR | O_NOCTTY | O_CLOEXEC | O_NONBLOCK))
     {
     }
-    ~Asking()
+    ~OpenQuestion()
     {
         notifier.reset();
         if (terminal >= 0)
             ::close(terminal);
     }
-    Asking(const Asking &) = delete;
-    Asking &operator=(const Asking &) = delete;
+    OpenQuestion(const OpenQuestion &) = delete;
+    OpenQuestion &operator=(const OpenQuestion &) = delete;
 
     bool canAsk() const
     {
@@ -82,7 +82,7 @@ TerminalQuestion::TerminalQuestion(QString terminal) : m_terminal(std::move(term
 
 TerminalQuestion::~TerminalQuestion()
 {
-    const std::shared_ptr<Asking> asking = m_asking;
+    const std::shared_ptr<OpenQuestion> asking = m_asking;
     if (!asking)
         return;
     asking->answer.complete(Answer::no);
@@ -91,7 +91,7 @@ TerminalQuestion::~TerminalQuestion()
 
 QCoro::Task<Answer> TerminalQuestion::ask(Text text)
 {
-    const auto asking = std::make_shared<Asking>(m_terminal);
+    const auto asking = std::make_shared<OpenQuestion>(m_terminal);
     if (!asking->canAsk())
         co_return Answer::nobodyThere;
     // A line of progress may stand there unfinished.

@@ -25,10 +25,10 @@ public:
     void refuse();
 
 private:
-    struct Asking;
+    struct OpenQuestion;
 
     const QString m_terminal;
-    std::shared_ptr<Asking> m_asking;
+    std::shared_ptr<OpenQuestion> m_asking;
 };
 
 } // namespace veldmark

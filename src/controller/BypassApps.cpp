@@ -77,16 +77,15 @@ QCoro::Task<Result<void, Text>> TorController::launchBypassed(QString path)
         co_return Failure(Text::tr("%1 is already being opened.").arg(displayedName(path)));
     m_launching << application;
     const QPointer<TorController> self(this);
-    auto launching = launchOnce(path);
+    auto launching = launchOnce(current(&TorController::m_attempt), path);
     const auto launched = co_await launching;
     if (self)
         m_launching.removeAll(application);
     co_return launched;
 }
 
-QCoro::Task<Result<void, Text>> TorController::launchOnce(QString path)
+QCoro::Task<Result<void, Text>> TorController::launchOnce(Run session, QString path)
 {
-    const QPointer<TorController> self(this);
     RunningApplications &applications = m_services.applications;
     const auto copies = applications.copiesOf(QDir::cleanPath(path));
     for (const qint64 copy : copies)
@@ -98,8 +97,8 @@ QCoro::Task<Result<void, Text>> TorController::launchOnce(QString path)
         if (ended)
             break;
         co_await m_services.clock.sleep(quitCheckInterval);
-        if (!self || !canLaunchBypassed())
-            co_return Failure(Text()); // the session ended meanwhile
+        if (session.isOver())
+            co_return Failure(Text());
     }
 
     const QStringList arguments = {QStringLiteral("launch"), QStringLiteral("--uid"),
@@ -108,7 +107,7 @@ QCoro::Task<Result<void, Text>> TorController::launchOnce(QString path)
     const auto helper = co_await m_services.privileged.runHelper(arguments);
     if (helper)
         co_return {};
-    if (!self || helper.error().kind() == HelperError::Kind::Cancelled)
+    if (session.isOver() || helper.error().kind() == HelperError::Kind::Cancelled)
         co_return Failure(Text());
     const Text failure = Text::tr("Couldn't open %1 without Tor: %2")
                              .arg(displayedName(path), helper.error().description());

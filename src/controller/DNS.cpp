@@ -5,8 +5,6 @@
 #include "control/ControlPort.h"
 #include "system/PrivilegedRunner.h"
 
-#include <QPointer>
-
 #include <utility>
 
 namespace veldmark {
@@ -74,12 +72,11 @@ QCoro::Task<void> TorController::fixDNS()
         co_await ended;
         co_return;
     }
-    const QPointer<TorController> self(this);
-    const quint64 attempt = m_attempt;
-    m_fixedAttempt = attempt;
+    const Run fix = next(&TorController::m_fixRun);
+    m_fixedAttempt = m_attempt;
     auto repairing = repairDNS(current(&TorController::m_attempt));
     co_await repairing;
-    if (!self || m_fixedAttempt != attempt)
+    if (fix.isOver()) // by one of a newer session, which has taken over the waiting calls
         co_return;
     m_fixedAttempt = std::nullopt;
     endWaits(m_fixWaiters);

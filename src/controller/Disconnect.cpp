@@ -53,7 +53,7 @@ QCoro::Task<Result<void, Text>> TorController::disconnect()
     if (attempt.isOver())
         co_return Failure(Text());
     if (helper) {
-        // the session is over, and so is whatever the banner said of it
+        // The session is over: the banner says nothing of it any more.
         errorMessage = std::nullopt;
         endSession();
         co_return {};

@@ -1,5 +1,6 @@
 #include "controller/FieldValue.h"
 
+#include "base/OneLine.h"
 #include "bridges/PluggableTransports.h"
 #include "checks/DNSStatus.h"
 #include "checks/KillSwitch.h"
@@ -319,13 +320,6 @@ QStringList possibleValues(Climb)
     for (const Climb climb : allClimbs)
         values << rawValue(climb);
     return values;
-}
-
-QString inOneLine(const QString &text)
-{
-    constexpr qsizetype limit = 60;
-    const QString line = text.simplified();
-    return line.size() <= limit ? line : line.left(limit - 1) + u'…';
 }
 
 } // namespace veldmark

@@ -108,7 +108,4 @@ QStringList possibleValues(const QStringList &);
 QStringList possibleValues(BridgeChoice);
 QStringList possibleValues(Climb);
 
-// The user's words, for a message of one line.
-QString inOneLine(const QString &text);
-
 } // namespace veldmark

@@ -118,8 +118,7 @@ std::optional<Text> TorController::killSwitchMessage() const
         return std::nullopt;
     switch (killSwitch() ? killSwitch()->state : State::standing) {
     case State::putBack:
-        return Text::tr(
-            "Another program removed Veldmark's firewall rules; they are back in place.");
+        return KillSwitch::putBackText();
     case State::open:
         return Text::tr(
             "Another program removed Veldmark's firewall rules and they could not be put back. Traffic "

@@ -1,6 +1,7 @@
 #include "controller/NetworkRestorer.h"
 
 #include "controller/TorController.h"
+#include "platform/PlatformProfile.h"
 
 #include <QPointer>
 
@@ -21,6 +22,12 @@ void NetworkRestorer::begin()
         return;
     m_wanted = true;
     QMetaObject::invokeMethod(this, &NetworkRestorer::proceed, Qt::QueuedConnection);
+}
+
+Text NetworkRestorer::notRestoredText(const PlatformProfile &profile)
+{
+    return Text::tr("The network is still set up for Tor. Restore it with: %1")
+        .arg(profile.manualRestoreCommand);
 }
 
 void NetworkRestorer::proceed()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Text.h"
+
 #include <QObject>
 
 #include <qcorotask.h>
@@ -7,6 +9,7 @@
 namespace veldmark {
 
 class TorController;
+struct PlatformProfile;
 
 // Restores the network for a program that was told to end. Disconnects now, or as soon as the
 // current operation allows it. A session left over from an earlier run is restored, too. A session
@@ -22,6 +25,8 @@ public:
     // call.
     void begin();
     bool isUnderWay() const { return m_wanted; }
+    // For a program that ends without having restored the network.
+    static Text notRestoredText(const PlatformProfile &profile);
 
 Q_SIGNALS:
     // Restored: this program has nothing left to restore. Not restored: the controller's

@@ -1,5 +1,6 @@
 #include "controller/PublishedState.h"
 
+#include "base/OneLine.h"
 #include "controller/SettingRules.h"
 #include "controller/TorController.h"
 

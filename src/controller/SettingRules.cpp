@@ -1,6 +1,7 @@
 #include "controller/SettingRules.h"
 
 #include "base/ExitCountry.h"
+#include "base/OneLine.h"
 #include "platform/PlatformProfile.h"
 
 #include <algorithm>

@@ -56,6 +56,8 @@ QCoro::Task<void> TorController::installForSsh(Run run)
 
 QCoro::Task<void> TorController::askTerminalHint()
 {
+    // No Run: the hint follows from the present setting alone, so a call that waited for long may
+    // show it.
     const QPointer<TorController> self(this);
     if (terminalMode()) {
         auto asking = m_services.terminal.askForSocksCommand();

@@ -474,7 +474,7 @@ private:
     QCoro::Task<void> repairDNS(Run attempt);
     // BypassApps.cpp
     QString displayedName(const QString &path) const;
-    QCoro::Task<Result<void, Text>> launchOnce(QString path);
+    QCoro::Task<Result<void, Text>> launchOnce(Run session, QString path);
     // Circuits.cpp
     struct Resolution {
         std::vector<RelayInfo> relays;
@@ -531,6 +531,7 @@ private:
     quint64 m_transportSearch = 0;                  // the last search that began
     quint64 m_shownSearch = 0;                      // the search that `transports` is from
     std::vector<ResumeOnce<bool>> m_restoreWaiters; // for the end of a running disconnect
+    quint64 m_fixRun = 0;                           // the last fixDNS() that began
     std::optional<quint64> m_fixedAttempt;          // the m_attempt whose fixDNS() runs
     std::vector<ResumeOnce<bool>> m_fixWaiters;     // later calls of the same session
     quint64 m_killSwitchWatch = 0;                  // the running watch
@@ -563,7 +564,7 @@ private:
     quint64 m_circuitReading = 0;     // the last refresh that began
     quint64 m_readCircuits = 0;       // the newest refresh that was answered
     quint64 m_shownCircuits = 0;      // the refresh that `circuits` is from
-    bool m_isSettingUpHelper = false; // password-free mode is being set up or removed
+    bool m_isSettingUpHelper = false; // passwordless mode is being set up or removed
     QStringList m_launching;          // applications that are being opened to bypass Tor
     QStringList m_pendingBridgeLines; // of the connection being set up
     QStringList m_activeBridgeLines;  // of the running session

@@ -16,16 +16,16 @@ const QString firewallsName = QStringLiteral("firewalls");
 const QString groupsName = QStringLiteral("cgroups");
 
 // Firewalls, known by the names of their processes.
-struct Known {
+struct FirewallName {
     const char *process;
     const char *name;
 };
 constexpr std::array known{
-    Known{"firewalld", "firewalld"},        Known{"dockerd", "Docker"},
-    Known{"libvirtd", "libvirt"},           Known{"virtnetworkd", "libvirt"},
-    Known{"opensnitchd", "OpenSnitch"},     Known{"portmaster-core", "Portmaster"},
-    Known{"mullvad-daemon", "Mullvad VPN"}, Known{"nordvpnd", "NordVPN"},
-    Known{"fail2ban-server", "Fail2ban"},
+    FirewallName{"firewalld", "firewalld"},        FirewallName{"dockerd", "Docker"},
+    FirewallName{"libvirtd", "libvirt"},           FirewallName{"virtnetworkd", "libvirt"},
+    FirewallName{"opensnitchd", "OpenSnitch"},     FirewallName{"portmaster-core", "Portmaster"},
+    FirewallName{"mullvad-daemon", "Mullvad VPN"}, FirewallName{"nordvpnd", "NordVPN"},
+    FirewallName{"fail2ban-server", "Fail2ban"},
 };
 
 QString kernel(const Machine &machine)

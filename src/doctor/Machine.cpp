@@ -1,9 +1,9 @@
 #include "doctor/Machine.h"
 
+#include "base/FileContent.h"
 #include "base/ProgramFile.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -47,8 +47,7 @@ bool Machine::exists(const char *path) const
 
 QString Machine::readFile(const QString &path)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.read(256 * 1024)) : QString();
+    return QString::fromUtf8(contentOf(path, 256 * 1024));
 }
 
 QString Machine::program(const QString &name) const

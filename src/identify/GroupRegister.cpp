@@ -74,7 +74,7 @@ GroupRegister::Entry *GroupRegister::entryFor(const Key &key, MapChanges &change
     return &entry;
 }
 
-void GroupRegister::drop(std::map<Place, Known>::iterator known, MapChanges &changes)
+void GroupRegister::drop(std::map<Place, KnownGroup>::iterator known, MapChanges &changes)
 {
     Entry &entry = m_entries[known->second.key];
     changes.push_back(

@@ -77,7 +77,7 @@ public:
 private:
     using Place = std::tuple<Group::Kind, uid_t, std::string>;
     using Key = std::pair<uid_t, std::string>;
-    struct Known {
+    struct KnownGroup {
         std::uint64_t id = 0;
         Key key;
     };
@@ -91,9 +91,9 @@ private:
     static std::size_t share(std::size_t most, std::size_t inAll);
     std::uint32_t nextAddress();
     Entry *entryFor(const Key &key, MapChanges &changes);
-    void drop(std::map<Place, Known>::iterator known, MapChanges &changes);
+    void drop(std::map<Place, KnownGroup>::iterator known, MapChanges &changes);
 
-    std::map<Place, Known> m_groups;
+    std::map<Place, KnownGroup> m_groups;
     std::map<Key, Entry> m_entries;
     std::map<std::uint32_t, Key> m_addresses;
     std::map<uid_t, std::size_t> m_groupCounts;

@@ -90,7 +90,7 @@ std::vector<Verb> makeTable()
         {.id = Id::bridges,
          .name = QStringLiteral("bridges"),
          .options = {json},
-         .help = Text::tr("the transport programs and built-in bridges that were found, and\n"
+         .help = Text::tr("the bridge programs and built-in bridges that were found, and\n"
                           "which of your own bridge lines are not valid")},
         {.id = Id::addBridges,
          .name = QStringLiteral("add-bridges"),
@@ -101,7 +101,7 @@ std::vector<Verb> makeTable()
          .missing = Text::tr("add-bridges needs a file; \"-\" is standard input.")},
         {.id = Id::downloadTransports,
          .name = QStringLiteral("download-transports"),
-         .help = Text::tr("fetch the Tor Project's transport programs and built-in bridges"),
+         .help = Text::tr("fetch the Tor Project's bridge programs and built-in bridges"),
          .streams = true,
          .printsNoState = true,
          .handler = Handlers::downloadTransports},
@@ -127,7 +127,7 @@ std::vector<Verb> makeTable()
          .options = {json},
          .help = Text::tr(
              "the applications that have circuits of their own, and the loopback address\n"
-             "by which Tor tells each from the others")},
+             "by which Tor distinguishes them")},
         {.id = Id::renew,
          .name = QStringLiteral("renew"),
          .operands = {QStringLiteral("APP")},

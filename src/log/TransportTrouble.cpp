@@ -1,5 +1,7 @@
 #include "log/TransportTrouble.h"
 
+#include "base/OneLine.h"
+
 #include <QRegularExpression>
 
 namespace veldmark {
@@ -13,16 +15,7 @@ constexpr auto anyCharacter = QRegularExpression::DotMatchesEverythingOption;
 // Another program's words in a sentence.
 QString quoted(const QString &words)
 {
-    QString shown = words.trimmed();
-    if (shown.size() > quoteLimit)
-        shown = shown.left(quoteLimit - 1) + u'…';
-    for (QChar &c : shown) {
-        const bool breaksLine = c.category() == QChar::Separator_Line
-            || c.category() == QChar::Separator_Paragraph;
-        if (!c.isPrint() || breaksLine)
-            c = u'?';
-    }
-    return shown;
+    return inOneLine(words, quoteLimit);
 }
 
 QString withEnd(const QString &sentence)
@@ -36,7 +29,7 @@ QString programAt(const QString &path)
 }
 
 // Collects facts while it reads the lines.
-class Finding {
+class TroubleReader {
 public:
     void read(const TorLogLine &line);
     std::optional<Text> sentence() const;
@@ -55,7 +48,7 @@ private:
 };
 
 // A line about a program that ended. Tor starts it again and again.
-bool Finding::readEnd(const QString &message)
+bool TroubleReader::readEnd(const QString &message)
 {
     static const QRegularExpression ended(
         QStringLiteral(
@@ -74,7 +67,7 @@ bool Finding::readEnd(const QString &message)
 }
 
 // A line with a program's message: an error in the form that Tor understands, or free text.
-bool Finding::readWords(const TorLogLine &line)
+bool TroubleReader::readWords(const TorLogLine &line)
 {
     static const QRegularExpression logged(QStringLiteral("^Managed proxy \"(.*?)\": (.+)$"),
                                            anyCharacter);
@@ -98,7 +91,7 @@ bool Finding::readWords(const TorLogLine &line)
     return true;
 }
 
-void Finding::read(const TorLogLine &line)
+void TroubleReader::read(const TorLogLine &line)
 {
     if (line.message.startsWith(QLatin1String("Bootstrapped "))) {
         *this = {};
@@ -116,7 +109,7 @@ void Finding::read(const TorLogLine &line)
                         .arg(withEnd(quoted(line.message)));
 }
 
-Text Finding::endSentence() const
+Text TroubleReader::endSentence() const
 {
     if (m_status.isEmpty())
         return (m_ends == 1 ? Text::tr("The bridge program %1 ended unexpectedly.")
@@ -127,7 +120,7 @@ Text Finding::endSentence() const
         .arg(m_program, m_status);
 }
 
-std::optional<Text> Finding::sentence() const
+std::optional<Text> TroubleReader::sentence() const
 {
     if (m_ends == 0)
         return m_trouble.isEmpty() ? std::nullopt : std::optional(m_trouble);
@@ -139,7 +132,7 @@ std::optional<Text> Finding::sentence() const
 
 std::optional<Text> transportTrouble(const QList<TorLogLine> &lines)
 {
-    Finding finding;
+    TroubleReader finding;
     for (const TorLogLine &line : lines)
         finding.read(line);
     return finding.sentence();

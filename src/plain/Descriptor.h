@@ -16,11 +16,9 @@ public:
         std::swap(m_number, other.m_number);
         return *this;
     }
-    ~Descriptor()
-    {
-        if (m_number >= 0)
-            close(m_number);
-    }
+    ~Descriptor() { close(); }
+    // False when the kernel reports an error, as of writing; the descriptor is gone all the same.
+    bool close() { return m_number < 0 || ::close(std::exchange(m_number, -1)) == 0; }
     [[nodiscard]] int number() const { return m_number; }
     explicit operator bool() const { return m_number >= 0; }
 

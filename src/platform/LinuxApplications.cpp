@@ -1,5 +1,7 @@
 #include "platform/RunningApplications.h"
 
+#include "base/FileContent.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -23,12 +25,6 @@ using Entry = std::unique_ptr<GDesktopAppInfo, Release>;
 Entry entryAt(const QString &path)
 {
     return Entry(g_desktop_app_info_new_from_filename(QFile::encodeName(path).constData()));
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.read(readLimitBytes) : QByteArray();
 }
 
 // Whether this program runs other programs, so that a process of it does not identify an
@@ -109,13 +105,14 @@ public:
             const QString folder = m_processes + u'/' + name;
             if (!isNumber || process == getpid() || QFileInfo(folder).ownerId() != getuid())
                 continue;
-            const auto variables = contentOf(folder + QStringLiteral("/environ")).split('\0');
+            const auto variables
+                = contentOf(folder + QStringLiteral("/environ"), readLimitBytes).split('\0');
             // Children inherit the first of the two; the second identifies the application itself.
             const bool wasLaunched = variables.contains(launched)
                 && variables.contains("GIO_LAUNCHED_DESKTOP_FILE_PID=" + name.toLatin1());
             const QString executable = QFile::symLinkTarget(folder + QStringLiteral("/exe"));
             if (wasLaunched || (!program.isEmpty() && executable == program)
-                || isOwnGroup(contentOf(folder + QStringLiteral("/cgroup")), id))
+                || isOwnGroup(contentOf(folder + QStringLiteral("/cgroup"), readLimitBytes), id))
                 found.push_back(process);
         }
         return found;
@@ -126,7 +123,8 @@ public:
     bool hasEnded(qint64 process) const override
     {
         const QByteArray state = contentOf(m_processes + u'/' + QString::number(process)
-                                           + QStringLiteral("/stat"));
+                                               + QStringLiteral("/stat"),
+                                           readLimitBytes);
         // the name before it may contain any character
         const qsizetype end = state.lastIndexOf(')');
         return end < 0 || state.mid(end + 2, 1) == "Z";

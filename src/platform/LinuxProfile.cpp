@@ -1,5 +1,7 @@
 #include "platform/PlatformProfile.h"
 
+#include "base/FileContent.h"
+
 #include <QFile>
 #include <QRegularExpression>
 
@@ -23,8 +25,7 @@ QString osReleaseValue(const QString &osRelease, const QString &key)
 
 QString readText(const QString &path)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.read(65536)) : QString();
+    return QString::fromUtf8(contentOf(path, 65536));
 }
 
 const QString unknownSystem = QStringLiteral("your package manager");

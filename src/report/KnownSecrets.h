@@ -8,7 +8,7 @@ namespace veldmark {
 
 struct PlatformProfile;
 
-// What is secret by its value, wherever it appears.
+// Values that are secret wherever they appear.
 struct KnownSecrets {
     QString home;            // the user's own
     QStringList homes;       // of other accounts

@@ -94,8 +94,9 @@ Redactor::Redactor(const KnownSecrets &known)
         knowPath(path, Kind::path);
     for (const QString &name : known.names)
         knowName(plainText(name));
-    std::stable_sort(m_known.begin(), m_known.end(),
-                     [](const Known &a, const Known &b) { return a.length > b.length; });
+    std::stable_sort(
+        m_known.begin(), m_known.end(),
+        [](const KnownSecret &a, const KnownSecret &b) { return a.length > b.length; });
     addPatterns();
 }
 
@@ -117,7 +118,7 @@ QString Redactor::redactedLine(QString line) const
         line = next.value_or(QStringLiteral("(a line is left out)"));
         return next.has_value();
     };
-    for (const Known &known : m_known) {
+    for (const KnownSecret &known : m_known) {
         if (!apply(known.rule))
             return line;
     }

@@ -16,8 +16,8 @@ struct KnownSecrets;
 
 // Replaces what tells of a user or a network in a text of many lines by stand-ins, the same for the
 // same value in every text that one redactor gets: first the known values, then what looks like an
-// address, a name, a bridge, a fingerprint, a path in a home, or a password. What it doubts it
-// replaces. A line that is too long, or that a pattern fails on, is left out as a whole.
+// address, a name, a bridge, a fingerprint, a path in a home, or a password. In doubt it replaces.
+// A line that is too long, or that a pattern fails on, is left out as a whole.
 //
 // Kept: addresses of the loopback device and of no host, the networks that every firewall names,
 // numbers that begin with "0." (Tor's versions), ports, times, and files of the system.
@@ -52,12 +52,12 @@ private:
     QString tailOfHome(const QRegularExpressionMatch &match);
 
     StandIns m_standIns;
-    struct Known {
+    struct KnownSecret {
         qsizetype length;
         Rule rule;
     };
-    std::vector<Known> m_known; // the longest first
-    std::vector<Rule> m_rules;  // in the order of their use
+    std::vector<KnownSecret> m_known; // the longest first
+    std::vector<Rule> m_rules;        // in the order of their use
 };
 
 } // namespace veldmark

@@ -58,7 +58,7 @@ ReportMaker::ReportMaker(const PlatformProfile &profile, SettingsStore &settings
 {
 }
 
-QCoro::Task<SupportReport> ReportMaker::make(Given given)
+QCoro::Task<SupportReport> ReportMaker::make(PublishedFacts given)
 {
     ReportSources sources;
     sources.made = QDateTime::currentDateTimeUtc();

@@ -25,12 +25,12 @@ public:
                 uid_t user = ::geteuid());
 
     // The state as it is published, the names of its settings, and what else is wrong.
-    struct Given {
+    struct PublishedFacts {
         QJsonObject state;
         QStringList settings;
         QStringList problems = {};
     };
-    QCoro::Task<SupportReport> make(Given given);
+    QCoro::Task<SupportReport> make(PublishedFacts given);
 
 private:
     const PlatformProfile m_profile;

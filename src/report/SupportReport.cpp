@@ -52,7 +52,7 @@ QStringList settingLines(const ReportSources &from)
         const QJsonValue value = from.state[name];
         if (name == QLatin1String("customBridges"))
             lines << customBridges(value.toString());
-        else if (name == QLatin1String("bypassApps")) // which ones they are tells of the user
+        else if (name == QLatin1String("bypassApps")) // their names identify the user
             lines << QStringLiteral("bypassApps: %1 of them").arg(value.toArray().size());
         else
             addValue(lines, name, value);

@@ -9,7 +9,6 @@
 
 #include <sys/socket.h>
 #include <sys/un.h>
-#include <unistd.h>
 
 namespace veldmark {
 
@@ -23,22 +22,18 @@ IdentityProgram::IdentityProgram(const PlatformProfile &profile)
     sockaddr_un place{};
     place.sun_family = AF_UNIX;
     const QByteArray name = QFile::encodeName(profile.identitiesSocket);
-    if (m_socket < 0 || name.size() >= static_cast<qsizetype>(sizeof place.sun_path))
+    if (!m_socket || name.size() >= static_cast<qsizetype>(sizeof place.sun_path))
         return;
     std::memcpy(place.sun_path, name.constData(), static_cast<std::size_t>(name.size()));
-    m_isThere = ::connect(m_socket, reinterpret_cast<const sockaddr *>(&place), sizeof place) == 0;
-}
-
-IdentityProgram::~IdentityProgram()
-{
-    if (m_socket >= 0)
-        close(m_socket);
+    m_isThere = ::connect(m_socket.number(), reinterpret_cast<const sockaddr *>(&place),
+                          sizeof place)
+        == 0;
 }
 
 bool IdentityProgram::send(const QByteArray &wish) const
 {
     return m_isThere
-        && ::send(m_socket, wish.constData(), static_cast<std::size_t>(wish.size()), 0)
+        && ::send(m_socket.number(), wish.constData(), static_cast<std::size_t>(wish.size()), 0)
         == wish.size();
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "plain/Descriptor.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -14,9 +16,6 @@ struct PlatformProfile;
 class IdentityProgram {
 public:
     explicit IdentityProgram(const PlatformProfile &profile);
-    IdentityProgram(const IdentityProgram &) = delete;
-    IdentityProgram &operator=(const IdentityProgram &) = delete;
-    ~IdentityProgram();
 
     bool isThere() const { return m_isThere; }
     // Asks for another address; true when the program will read it.
@@ -27,7 +26,7 @@ public:
     static std::optional<bool> separates(const PlatformProfile &profile);
 
 private:
-    int m_socket;
+    Descriptor m_socket;
     bool m_isThere = false;
 };
 

@@ -1,5 +1,6 @@
 #include "system/OtherFirewalls.h"
 
+#include "base/FileContent.h"
 #include "platform/PlatformProfile.h"
 
 #include <QFile>
@@ -13,8 +14,7 @@ constexpr qint64 limit = 64 * 1024; // no such file is nearly as long
 
 QString read(const QString &path)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.read(limit)) : QString();
+    return QString::fromUtf8(contentOf(path, limit));
 }
 
 // Whether a line of `text`, a shell file, sets `name` to a value that begins with `value`.

@@ -13,7 +13,7 @@ namespace {
 
 const QString shell = QStringLiteral("/bin/bash");
 
-std::optional<QByteArray> contentOf(const QString &path)
+std::optional<QByteArray> wholeContentOf(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
@@ -260,7 +260,7 @@ bool PrivilegedRunner::RunData::privilegedHelperOutdated() const
     if (!passwordlessInstalled() || !shipped)
         return false;
     // Two unreadable files count as equal, a readable and an unreadable one as different.
-    return contentOf(*shipped) != contentOf(profile.installedHelper);
+    return wholeContentOf(*shipped) != wholeContentOf(profile.installedHelper);
 }
 
 bool PrivilegedRunner::privilegedHelperOutdated() const
@@ -366,7 +366,7 @@ QCoro::Task<Result<void, HelperError>> PrivilegedRunner::askRoot(
     if (answer == Answer::nobodyThere)
         co_return Failure(HelperError::failed(
             Text::tr(
-                "%1 is not a program of the system, so somebody has to approve it, and there is no terminal to ask on. Run \"sudo veldmarkctl run --connect\" in a terminal.")
+                "%1 is not a program of the system, so an administrator has to approve it, but this command has no terminal to ask on. Run \"sudo veldmarkctl run --connect\" in a terminal.")
                 .arg(program)));
     co_return Result<void, HelperError>{};
 }

@@ -1,5 +1,6 @@
 #include "system/SessionOwner.h"
 
+#include "base/FileContent.h"
 #include "platform/PlatformProfile.h"
 
 #include <QFile>
@@ -16,12 +17,6 @@ namespace {
 
 constexpr qint64 noteLimitBytes = 1024;
 constexpr qint64 statLimitBytes = 4096;
-
-QByteArray contentOf(const QString &path, qint64 limit)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.read(limit) : QByteArray();
-}
 
 // The value of the line "KEY VALUE". Empty without such a line.
 QByteArray valueOf(const QByteArray &note, const QByteArray &key)

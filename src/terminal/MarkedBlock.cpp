@@ -37,7 +37,7 @@ bool hasStart(const QByteArray &text)
     return findLine(text, startMarker, 0) >= 0;
 }
 
-Addition added(const QByteArray &text, const QByteArray &body, Position position)
+TextWithBlock added(const QByteArray &text, const QByteArray &body, Position position)
 {
     if (hasStart(text))
         return {text, {}};
@@ -51,7 +51,7 @@ Addition added(const QByteArray &text, const QByteArray &body, Position position
     return {text + "\n\n" + block, {true, true}};
 }
 
-QByteArray removed(const QByteArray &text, Position position, Separation separation)
+QByteArray removed(const QByteArray &text, Position position, InsertedBytes inserted)
 {
     const qsizetype firstStart = findLine(text, startMarker, 0);
     const qsizetype endLine = firstStart < 0 ? -1 : findLine(text, endMarker, firstStart);
@@ -66,19 +66,19 @@ QByteArray removed(const QByteArray &text, Position position, Separation separat
     qsizetype end = endLine + endMarker.size();
     end += lineBreakLength(text, end);
 
-    if (separation.emptyLine && position == Position::atStart)
+    if (inserted.emptyLine && position == Position::atStart)
         end += lineBreakLength(text, end);
 
     QByteArray before = text.first(start);
     const QByteArray after = text.sliced(end);
-    if (separation.emptyLine && position == Position::atEnd) {
+    if (inserted.emptyLine && position == Position::atEnd) {
         // The program's line breaks are LF, unless the whole file has been converted to CR LF
         // since.
         const bool isCrLf = before.endsWith("\n\r\n");
         const qsizetype ours = isCrLf ? 2 : 1;
         if (isCrLf || before.endsWith("\n\n")) {
             before.chop(ours);
-            if (separation.lineBreak && after.isEmpty())
+            if (inserted.lineBreak && after.isEmpty())
                 before.chop(ours);
         }
     }

@@ -17,8 +17,8 @@ namespace veldmark {
 
 namespace {
 
+using MarkedBlock::InsertedBytes;
 using MarkedBlock::Position;
-using MarkedBlock::Separation;
 
 // At most this, whatever the umask: ssh refuses a configuration that the group can write.
 constexpr mode_t plainMode = 0644;
@@ -106,7 +106,7 @@ Result<void, TerminalError> TerminalIntegration::writeSshFiles(const QString &co
         !written)
         return written;
     return writeOwnFile(own("bin/veldmark-active"), activeProgram(names), programMode,
-                        OwnMode::exact);
+                        NewFileMode::exact);
 }
 
 Result<void, TerminalError> TerminalIntegration::addShellBlocks() const
@@ -204,14 +204,15 @@ Result<void, TerminalError> TerminalIntegration::addBlock(const QByteArray &body
     const Result<UserFile, TerminalError> file = UserFile::read(path);
     if (!file)
         return Failure(file.error());
-    const MarkedBlock::Addition addition = MarkedBlock::added(file->content(), body, position);
-    if (addition.text == file->content())
+    const MarkedBlock::TextWithBlock withBlock = MarkedBlock::added(file->content(), body,
+                                                                    position);
+    if (withBlock.text == file->content())
         return {};
-    Separations kept = separations();
-    kept[path] = addition.separation;
+    InsertedByFile kept = insertedByFile();
+    kept[path] = withBlock.inserted;
     if (const auto written = keep(kept); !written)
         return written;
-    return file->replace(addition.text, newMode);
+    return file->replace(withBlock.text, newMode);
 }
 
 Result<void, TerminalError> TerminalIntegration::removeBlock(const QString &path,
@@ -221,35 +222,35 @@ Result<void, TerminalError> TerminalIntegration::removeBlock(const QString &path
     const Result<UserFile, TerminalError> file = UserFile::read(path);
     if (!file || !file->exists())
         return {};
-    const Separations kept = separations();
+    const InsertedByFile kept = insertedByFile();
     const auto ours = kept.find(path);
     return file->replace(MarkedBlock::removed(file->content(), position,
-                                              ours == kept.end() ? Separation{} : ours->second),
+                                              ours == kept.end() ? InsertedBytes{} : ours->second),
                          plainMode);
 }
 
-TerminalIntegration::Separations TerminalIntegration::separations() const
+TerminalIntegration::InsertedByFile TerminalIntegration::insertedByFile() const
 {
-    Separations result;
+    InsertedByFile result;
     QFile file(own("separators.json"));
     if (!file.open(QIODevice::ReadOnly))
         return result;
     const QJsonObject files = QJsonDocument::fromJson(file.read(65536)).object();
     for (auto entry = files.begin(); entry != files.end(); ++entry) {
-        const QJsonObject separation = entry.value().toObject();
-        result[entry.key()] = {separation.value(u"lineBreak").toBool(),
-                               separation.value(u"emptyLine").toBool()};
+        const QJsonObject inserted = entry.value().toObject();
+        result[entry.key()] = {inserted.value(u"lineBreak").toBool(),
+                               inserted.value(u"emptyLine").toBool()};
     }
     return result;
 }
 
-Result<void, TerminalError> TerminalIntegration::keep(const Separations &separations) const
+Result<void, TerminalError> TerminalIntegration::keep(const InsertedByFile &insertedByFile) const
 {
     QJsonObject files;
-    for (const auto &[path, separation] : separations)
+    for (const auto &[path, inserted] : insertedByFile)
         files.insert(path,
-                     QJsonObject{{QStringLiteral("lineBreak"), separation.lineBreak},
-                                 {QStringLiteral("emptyLine"), separation.emptyLine}});
+                     QJsonObject{{QStringLiteral("lineBreak"), inserted.lineBreak},
+                                 {QStringLiteral("emptyLine"), inserted.emptyLine}});
     return writeOwnFile(own("separators.json"), QJsonDocument(files).toJson(), plainMode);
 }
 

@@ -67,9 +67,9 @@ private:
     // The bytes that install() put between the user's text and the block, by file, so that
     // uninstall() can tell them from the user's own line breaks. Kept in ~/.veldmark and written
     // before the file.
-    using Separations = std::map<QString, MarkedBlock::Separation>;
-    Separations separations() const;
-    Result<void, TerminalError> keep(const Separations &separations) const;
+    using InsertedByFile = std::map<QString, MarkedBlock::InsertedBytes>;
+    InsertedByFile insertedByFile() const;
+    Result<void, TerminalError> keep(const InsertedByFile &insertedByFile) const;
 
     Result<void, TerminalError> addBlock(const QByteArray &body, const QString &path,
                                          MarkedBlock::Position position, mode_t newMode) const;

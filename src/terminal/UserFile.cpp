@@ -1,5 +1,7 @@
 #include "terminal/UserFile.h"
 
+#include "plain/Descriptor.h"
+
 #include <QFile>
 #include <QRandomGenerator>
 
@@ -43,19 +45,6 @@ std::optional<QString> linkTarget(const QString &path)
     return std::nullopt;
 }
 
-class Descriptor {
-public:
-    explicit Descriptor(int number) : m_number(number) { }
-    ~Descriptor() { close(); }
-    Descriptor(const Descriptor &) = delete;
-    Descriptor &operator=(const Descriptor &) = delete;
-    int number() const { return m_number; }
-    bool close() { return m_number < 0 || ::close(std::exchange(m_number, -1)) == 0; }
-
-private:
-    int m_number;
-};
-
 bool writeAll(int descriptor, QByteArrayView content)
 {
     while (!content.isEmpty()) {
@@ -96,44 +85,44 @@ int createBeside(const QByteArray &place, mode_t mode, QByteArray &fresh)
     return -1;
 }
 
-enum class Step { done, notOurs, failed };
+enum class ReplaceResult { done, notOurs, failed };
 
 // Replaces `target` by a new file. `isStillWanted` is called last; errno has the reason of a failed
 // step.
 template <typename IsStillWanted>
-Step putInPlace(const QString &target, const QByteArray &content, const Access &access,
-                IsStillWanted isStillWanted)
+ReplaceResult putInPlace(const QString &target, const QByteArray &content, const Access &access,
+                         IsStillWanted isStillWanted)
 {
     const QByteArray place = QFile::encodeName(target);
     QByteArray fresh;
     Descriptor file(createBeside(place, access.isExact ? 0600 : access.mode, fresh));
-    if (file.number() < 0)
-        return Step::failed;
-    const auto giveUp = [&fresh](Step step) {
+    if (!file)
+        return ReplaceResult::failed;
+    const auto giveUp = [&fresh](ReplaceResult result) {
         const int error = errno;
         ::unlink(fresh.constData());
         errno = error;
-        return step;
+        return result;
     };
     if (access.owner && ::fchown(file.number(), access.owner->user, access.owner->group) != 0)
-        return giveUp(errno == EPERM ? Step::notOurs : Step::failed);
+        return giveUp(errno == EPERM ? ReplaceResult::notOurs : ReplaceResult::failed);
     if (!writeAll(file.number(), content)
         || (access.isExact && ::fchmod(file.number(), access.mode) != 0)
         || (access.isDurable && ::fsync(file.number()) != 0) || !file.close())
-        return giveUp(Step::failed);
+        return giveUp(ReplaceResult::failed);
     if (!isStillWanted())
-        return giveUp(Step::notOurs);
+        return giveUp(ReplaceResult::notOurs);
     if (::rename(fresh.constData(), place.constData()) != 0)
-        return giveUp(Step::failed);
+        return giveUp(ReplaceResult::failed);
     if (!access.isDurable)
-        return Step::done;
+        return ReplaceResult::done;
     // The new name survives a power cut only after the folder is synced; the content is safe either
     // way.
     const QByteArray folder = place.first(place.lastIndexOf('/') + 1);
     const Descriptor directory(::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (directory.number() >= 0)
+    if (directory)
         ::fsync(directory.number());
-    return Step::done;
+    return ReplaceResult::done;
 }
 
 } // namespace
@@ -194,34 +183,34 @@ Result<void, TerminalError> UserFile::replace(const QByteArray &content, mode_t 
         access = {m_found->mode & 07777, true, Owner{m_found->owner, m_found->group}, true};
     }
     bool hasChanged = false;
-    const Step step = putInPlace(m_target, content, access, [this, &hasChanged] {
+    const ReplaceResult result = putInPlace(m_target, content, access, [this, &hasChanged] {
         hasChanged = look(m_target) != m_found;
         return !hasChanged;
     });
     if (hasChanged)
         return failure(Text::tr("%1 was changed by another program just now."), m_path);
-    if (step == Step::notOurs)
+    if (result == ReplaceResult::notOurs)
         return failure(Text::tr("%1 belongs to another user or group."), m_path);
-    if (step == Step::failed)
+    if (result == ReplaceResult::failed)
         return systemFailure(cannotWrite, m_path, errno);
     return {};
 }
 
 Result<void, TerminalError> writeOwnFile(const QString &path, const QByteArray &content,
-                                         mode_t mode, OwnMode kind)
+                                         mode_t mode, NewFileMode kind)
 {
     const QByteArray place = QFile::encodeName(path);
     struct stat status = {};
     if (::lstat(place.constData(), &status) == 0 && S_ISREG(status.st_mode)) {
         const mode_t found = status.st_mode & 07777;
-        const bool isModeRight = kind == OwnMode::exact ? found == mode : (found & ~mode) == 0;
+        const bool isModeRight = kind == NewFileMode::exact ? found == mode : (found & ~mode) == 0;
         QFile file(path);
         if (isModeRight && status.st_size == content.size() && file.open(QIODevice::ReadOnly)
             && file.readAll() == content)
             return {};
     }
-    const Access access{mode, kind == OwnMode::exact, std::nullopt, false};
-    if (putInPlace(path, content, access, [] { return true; }) != Step::done)
+    const Access access{mode, kind == NewFileMode::exact, std::nullopt, false};
+    if (putInPlace(path, content, access, [] { return true; }) != ReplaceResult::done)
         return systemFailure(cannotWrite, path, errno);
     return {};
 }

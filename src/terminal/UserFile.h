@@ -51,12 +51,12 @@ private:
     QByteArray m_content;
 };
 
-enum class OwnMode { exact, belowUmask };
+enum class NewFileMode { exact, belowUmask };
 
 // Writes a file of the program itself and replaces any existing one; does nothing when the content
 // is already the same. Does not wait for the disk: after a power cut the next call repairs the
 // file.
 Result<void, TerminalError> writeOwnFile(const QString &path, const QByteArray &content,
-                                         mode_t mode, OwnMode kind = OwnMode::belowUmask);
+                                         mode_t mode, NewFileMode kind = NewFileMode::belowUmask);
 
 } // namespace veldmark

@@ -93,6 +93,10 @@ QVariant LogModel::data(const QModelIndex &index, int role) const
     case MessageRole:
         return line.message;
     case LevelRole:
+        static_assert(int(Level::Error) == int(TorLogLine::Level::error)
+                      && int(Level::Warning) == int(TorLogLine::Level::warning)
+                      && int(Level::Notice) == int(TorLogLine::Level::notice)
+                      && int(Level::Info) == int(TorLogLine::Level::info));
         return static_cast<int>(line.level);
     case Qt::DisplayRole:
         return line.raw;

@@ -30,7 +30,7 @@ class LogModel : public QAbstractListModel {
 
 public:
     enum Role { TimeRole = Qt::UserRole + 1, MessageRole, LevelRole };
-    enum class Level { Error, Warning, Notice, Info };
+    enum class Level { Error, Warning, Notice, Info }; // TorLogLine::Level, for QML
     Q_ENUM(Level)
 
     // Both must outlive the model.

@@ -302,9 +302,9 @@ QString PanelModel::leakHelp() const
     else if (leak.kind() == LeakStatus::Kind::blocked)
         traffic = m_session.now().activeMode == RoutingMode::strict
             ? tr(
-                "A direct connection that skips Tor got no answer, but it isn't known whether the kill switch blocks such connections")
+                "A direct connection that bypasses Tor got no answer, but it isn't known whether the kill switch blocks such connections")
             : tr(
-                "A direct connection that skips Tor got no answer, but proxy mode doesn't block such connections");
+                "A direct connection that bypasses Tor got no answer, but proxy mode doesn't block such connections");
     else if (leak.kind() == LeakStatus::Kind::exposed)
         traffic
             = (m_session.now().activeMode == RoutingMode::strict

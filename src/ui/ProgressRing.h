@@ -14,7 +14,6 @@ class ProgressRing : public QQuickPaintedItem {
     Q_PROPERTY(double turn MEMBER m_turn NOTIFY changed)
     Q_PROPERTY(QColor color MEMBER m_color NOTIFY changed)
     Q_PROPERTY(QColor track MEMBER m_track NOTIFY changed)
-    Q_PROPERTY(double thickness MEMBER m_thickness NOTIFY changed)
 
 public:
     explicit ProgressRing(QQuickItem *parent = nullptr);
@@ -28,7 +27,6 @@ private:
     double m_turn = 0;
     QColor m_color;
     QColor m_track;
-    double m_thickness = 6;
 };
 
 } // namespace veldmark

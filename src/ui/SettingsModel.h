@@ -27,7 +27,6 @@ class SettingsModel : public QObject {
     Q_PROPERTY(bool separateApps READ separateApps WRITE setSeparateApps NOTIFY changed)
     Q_PROPERTY(bool canSeparateApps READ canSeparateApps CONSTANT)
     Q_PROPERTY(QString separationProblem READ separationProblem NOTIFY changed)
-    Q_PROPERTY(QUrl torFolder READ torFolder CONSTANT)
     Q_PROPERTY(QString onComputer READ onComputer CONSTANT)
     Q_PROPERTY(bool lyrebird READ lyrebird NOTIFY changed)
     Q_PROPERTY(bool snowflake READ snowflake NOTIFY changed)

@@ -67,7 +67,7 @@ class BundleCase(HelperTest):
     WORDS = ("connect", "--tor", TOR, "--hash", HASH, "--strict", "1", "--lan", "0", "--bridge", BRIDGE, "--pt-lyrebird", LYREBIRD)
 
     def connect(self, more=("--bundle", ARCHIVE), **options):
-        """Connects by the password-free rule, which approves nothing."""
+        """Connects by the passwordless rule, which approves nothing."""
         return self.machine.help_by_rule(*self.WORDS, *more, **options)
 
     def assertAsked(self, done):

@@ -243,7 +243,7 @@ class Machine:
         return self.run("/bin/bash", self.helper, *arguments, **options)
 
     def install_copy(self):
-        """Installs the copy of the helper that the password-free rule names."""
+        """Installs the copy of the helper that the passwordless rule names."""
         self.shell('install -D -m 0755 "$1" "$2"', self.helper, INSTALLED)
 
     def help_by_rule(self, *arguments, uid=USER_UID, **options):

@@ -53,12 +53,12 @@ class Signed(BundleCase):
         with open(f"{self.other.home}/pubring.kbx", "rb") as file:
             keybox = file.read()
         for name, signature, ring in (
-            ("somebody else's", wrong, others),
-            ("somebody else's, the signer's key", wrong, key),
-            ("somebody else's, both keys", wrong, key + others),
-            ("somebody else's, both keys the other way", wrong, others + key),
+            ("another signer's", wrong, others),
+            ("another signer's, the signer's key", wrong, key),
+            ("another signer's, both keys", wrong, key + others),
+            ("another signer's, both keys the other way", wrong, others + key),
             ("the signer's, both keys", right, key + others),
-            ("a subkey of somebody else's", wrong, key + foreign),
+            ("a subkey of another signer's", wrong, key + foreign),
             ("the same, not bound", wrong, key + theirs[at][1]),
             ("the same, with the signer's binding", wrong, key + theirs[at][1] + ours[-1][1]),
             ("another form of keyring", wrong, keybox),

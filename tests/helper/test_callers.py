@@ -1,4 +1,4 @@
-"""A caller with password-free rights tries to disturb a run of the helper by what the run inherits."""
+"""A caller with passwordless rights tries to disturb a run of the helper by what the run inherits."""
 
 import fcntl
 import os

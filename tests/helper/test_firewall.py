@@ -98,7 +98,7 @@ class Firewall(HelperTest):
             holder.communicate()
             self.machine.help("disconnect")
 
-    def test_look_ups_arrive_at_tors_port(self):
+    def test_lookups_arrive_at_tors_port(self):
         """Lookups to any server arrive there. A stand-in listens at the port, since this Tor keeps it closed."""
         self.machine.connect(strict=1)
         self.wire.mark()
@@ -140,7 +140,7 @@ class Firewall(HelperTest):
             self.assertTrue(self.control_port(int(self.machine.tor_uid)))
             self.assertFalse(self.control_port(4243))
 
-    def test_firewall_is_not_opened_while_somebody_changes_it(self):
+    def test_firewall_is_not_opened_while_another_process_changes_it(self):
         """The watcher may be putting the rules back: a disconnect waits until it has finished."""
         self.machine.connect(strict=1)
         holder = self.machine.hold("/run/veldmark.rules")
@@ -223,7 +223,7 @@ class Firewall(HelperTest):
             self.machine.connect(strict=strict)
             self.assertEqual(self.machine.run("/usr/bin/python3", "-c", talk).stdout, expected)
 
-    def test_look_up_without_a_header_does_not_reach_tor(self):
+    def test_lookup_without_a_header_does_not_reach_tor(self):
         """Such a lookup ends some versions of Tor. A complete lookup arrives."""
         ask = f"""if True:
             import os, socket

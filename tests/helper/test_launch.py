@@ -196,7 +196,7 @@ json.dump(held, open("/home/alice/descriptors", "w"))
     def test_refused(self):
         self.connect()
         cases = {
-            "somebody else's uid": dict(app="/usr/local/bin/probe", uid=1, words="only for the user who asks"),
+            "another user's uid": dict(app="/usr/local/bin/probe", uid=1, words="only for the user who asks"),
             "root": dict(app="/usr/local/bin/probe", uid=0, caller="A=1", words="not opened as root"),
             "not a number": dict(app="/usr/local/bin/probe", uid="a[$(touch /run/bad)]", words="not a number"),
             "relative": dict(app="probe", words="not absolute"),
@@ -205,10 +205,10 @@ json.dump(held, open("/home/alice/descriptors", "w"))
             "a folder": dict(app="/usr", words="no such application"),
             "no entry": dict(app="/usr/local/share/nothing.desktop", words="cannot be read"),
             "a link look-alike": dict(app="/usr/local/bin/-x", words="no such application"),
-            "password-free": dict(
+            "passwordless": dict(
                 app="/usr/local/bin/probe", caller=f"SUDO_UID={USER_UID}", helper=INSTALLED, words="password is needed"
             ),
-            "password-free for somebody else": dict(
+            "passwordless for another user": dict(
                 app="/usr/local/bin/probe", caller="SUDO_UID=1", helper=INSTALLED, words="only for the user who asks"
             ),
         }

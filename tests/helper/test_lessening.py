@@ -1,4 +1,4 @@
-"""The password-free rule allows to end a running strict session or to start the same one again, but not to weaken it."""
+"""The passwordless rule allows to end a running strict session or to start the same one again, but not to weaken it."""
 
 import os
 

@@ -27,7 +27,7 @@ class Loopback(HostileTest):
                 )
             self.machine.help("disconnect")
 
-    def test_a_socket_beside_tors_gets_no_look_ups(self):
+    def test_a_socket_beside_tors_gets_no_lookups(self):
         """The administrator may have opened the port to every account. Here every socket gets the right to it."""
         tor, tor6 = ("tor", "127.0.0.1", self.tor_uid, TOR_GROUP), ("tor", "::1", self.tor_uid, TOR_GROUP)
         evil, evil6 = ("other", "127.0.0.1", OTHER_UID, None), ("other", "::1", OTHER_UID, None)
@@ -41,7 +41,7 @@ class Loopback(HostileTest):
             self.assertLessEqual({"other 30", "other 11"}, set(self.asked(self.ASK, tor, tor6, evil, evil6)[1]))
             self.machine.help("disconnect")
 
-    def test_nobody_else_answers_a_look_up(self):
+    def test_nobody_else_answers_a_lookup(self):
         """The port is open to every account here, and every account can see the port that a lookup comes from."""
         ask = (
             "import socket\ns = socket.socket(socket.AF_INET, socket.SOCK_DGRAM); s.settimeout(2); s.connect(('127.0.0.1', 53)); s.send(b'q' * 30)\n"

@@ -129,7 +129,7 @@ HOSTILE = {
     "options from an empty input": ["connect", "-"],
     "options from two places": [*words(), "-"],
     "launch as root": ["launch", "--uid", "0", "--app", "/usr/bin/true"],
-    "launch as somebody else": ["launch", "--uid", "4242", "--app", "/usr/bin/true"],
+    "launch as another user": ["launch", "--uid", "4242", "--app", "/usr/bin/true"],
     "launch without a user": ["launch", "--app", "/usr/bin/true"],
     "launch of nothing": ["launch", "--uid", "0"],
     "arithmetic in the user of launch": ["launch", "--uid", "a[$(touch /run/pwned)]", "--app", "/usr/bin/true"],

@@ -23,7 +23,7 @@ class Owner(HelperTest):
     def setUpClass(cls):
         super().setUpClass()
         cls.machine.install_copy()
-        for name in "veldmark", "veldmarkctl", "somebody":
+        for name in "veldmark", "veldmarkctl", "another":
             cls.machine.shell('install -m 0755 /dev/stdin "/usr/local/bin/$1"', name, stdin=PROGRAM)
         cls.machine.shell(
             "grep -q '^@includedir /etc/sudoers.d' /etc/sudoers || echo '@includedir /etc/sudoers.d' >>/etc/sudoers;"
@@ -76,7 +76,7 @@ class Owner(HelperTest):
         self.assertEqual((self.note()["uid"], self.note()["pid"]), (str(USER_UID), self.pid_of("veldmarkctl")))
 
     def test_who_connects_by_hand_is_noted_without_a_program(self):
-        self.begin("somebody")
+        self.begin("another")
         self.assertEqual(self.note(), {"uid": str(USER_UID)})
         self.machine.help_by_rule("disconnect", uid=OTHER_UID)  # no program is noted, so it is not in use
 

@@ -138,7 +138,7 @@ class Note(InAFolder):
             ],
         )
 
-    def test_a_note_that_somebody_removed_comes_back_and_all_may_read_it(self):
+    def test_a_removed_note_comes_back_and_all_may_read_it(self):
         self.looks('note_rules standing; rm -f -- "$KILL_SWITCH_NOTE"; note_rules standing')
         self.assertRegex(self.text("note"), r"^standing 0 \d+\n$")
         self.assertEqual(stat.S_IMODE(os.stat(self.path("note")).st_mode), 0o644)
@@ -305,7 +305,7 @@ class Environment(InAFolder):
                 check=False,
                 timeout=60,
             )
-            self.assertEqual((done.returncode, done.stderr), (1, "ERROR: The helper was not given a verb that it knows.\n"))
+            self.assertEqual((done.returncode, done.stderr), (1, "ERROR: The helper does not know this verb.\n"))
             self.assertEqual(len(os.listdir(seen)), 1)
 
 

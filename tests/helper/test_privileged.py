@@ -93,7 +93,7 @@ class Privileged(HelperTest):
             with self.subTest(change):
                 self.install()
                 self.machine.shell(f"echo '# an older one' >>{INSTALLED}; {change}")
-                self.assertIn("password-free mode is off", self.upgrade().stderr)
+                self.assertIn("passwordless mode is off", self.upgrade().stderr)
                 self.assertEqual(self.machine.shell(f"ls {INSTALLED} {RULE} 2>/dev/null || true"), "")
 
     def test_rule_cannot_change_what_it_lets_in(self):

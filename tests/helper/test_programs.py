@@ -64,7 +64,7 @@ class Programs(HelperTest):
         done = self.machine.help(
             "approve", "--program", "/home/alice/tor", "--as", "tor", "--sha256", digest, env=PROMPT, check=False
         )
-        self.assertOneLine(done, "is not the one to approve")
+        self.assertOneLine(done, "differs from the one to approve")
         self.assertEqual(self.machine.shell("ls /var/lib/veldmark/programs"), "")
 
     def test_rule_approves_nothing(self):
@@ -127,7 +127,7 @@ class Programs(HelperTest):
         self.assertOneLine(self.connect(RULE, check=False), "password")
 
     def test_sudo_with_a_right_of_the_users_own_is_an_approval(self):
-        """sudo asks for a password where polkit cannot. The same helper by the password-free rule is no approval."""
+        """sudo asks for a password where polkit cannot. The same helper by the passwordless rule is no approval."""
         self.approve(env=SUDO)
         self.connect(SUDO)
         self.assertRegex(self.running(), r"^/var/lib/veldmark/programs/[0-9a-f]{64}/tor$")

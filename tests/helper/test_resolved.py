@@ -96,7 +96,7 @@ class Resolved(HelperTest):
         self.assertIn("192.0.2.53", self.settings())
         self.assertIn("192.0.2.97", before)
 
-    def test_look_ups_of_links_come_to_tors_port(self):
+    def test_lookups_of_links_come_to_tors_port(self):
         self.machine.connect()
         stand_in = self.machine.start(
             *namespace.AS_TOR,

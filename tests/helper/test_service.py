@@ -75,7 +75,7 @@ class Service(HelperTest):
         self.machine.help("disconnect")
         self.assertGivenBack()
 
-    def test_somebody_elses_program_is_named_and_nothing_is_changed(self):
+    def test_another_program_is_named_and_nothing_is_changed(self):
         self.machine.shell("systemctl stop tor@default.service")
         services.start_tor_service(self.machine, "tor@other.service")
         before = self.machine.snapshot()

@@ -470,7 +470,9 @@ class ResolverFile(HelperTest):
                 self.machine.shell(f"{setup}; mkdir -p /var/lib/veldmark/journal/30-resolver.new/x")
                 before = self.machine.snapshot()
                 try:
-                    self.assertOneLine(self.machine.connect(strict=0, check=False), "The journal cannot be written.")
+                    self.assertOneLine(
+                        self.machine.connect(strict=0, check=False), "The record of the former network settings cannot be written."
+                    )
                     self.assertEqual(self.machine.snapshot(), before)
                 finally:
                     self.machine.shell("rm -r /var/lib/veldmark/journal/30-resolver.new")
@@ -481,7 +483,7 @@ class ResolverFile(HelperTest):
         self.machine.help("disconnect")
         self.assertEqual(self.machine.shell("ls -d /run/nowhere || true"), "")
 
-    def test_somebody_elses_mount_below_ours_stays(self):
+    def test_a_foreign_mount_below_ours_stays(self):
         self.cycle(
             "rm -f /etc/resolv.conf; echo >/etc/resolv.conf; echo 'nameserver 192.0.2.8' >/run/theirs;"
             "mount --bind /run/theirs /etc/resolv.conf"

@@ -262,7 +262,7 @@ class Watcher(HelperTest):
         self.assertEqual(process.stdout.readline(), "up\n")
         return process
 
-    def test_nothing_is_vouched_for_while_somebody_else_listens_at_tors_ports(self):
+    def test_note_ages_while_another_process_listens_at_tors_ports(self):
         # A listener of Tor's account is no proof: it must be this session's Tor.
         tor = int(self.machine.shell("id -u _veldmark"))
         for address, port, uid in (
@@ -440,14 +440,14 @@ class Watcher(HelperTest):
         self.seconds_until_locked("nft flush ruleset")  # with the bypass again
 
     def test_a_group_that_cannot_be_removed_keeps_nobody_from_proxy_mode(self):
-        self.machine.shell(f"mkdir {GROUP}/somebodys")
+        self.machine.shell(f"mkdir {GROUP}/foreign")
         try:
             self.machine.connect(strict=0)
             self.assertEqual(self.machine.shell("cat /var/lib/veldmark/state/active"), "proxy\n")
             self.assertNotIn("policy drop", self.listing())
             self.assertTrue(self.machine.tor_pids())
         finally:
-            self.machine.shell(f"rmdir {GROUP}/somebodys")
+            self.machine.shell(f"rmdir {GROUP}/foreign")
 
     def test_proxy_mode_has_none(self):
         self.machine.connect(strict=0)

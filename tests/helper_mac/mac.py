@@ -184,7 +184,7 @@ class Mac(namespace.Machine):
             "record /Users/alice UniqueID": str(USER_UID),
             "record /Users/daemon UniqueID": "350",
             "record /Groups/staff PrimaryGroupID": "20",
-            "record /Groups/_somebody PrimaryGroupID": "351",
+            "record /Groups/_other PrimaryGroupID": "351",
         }
         for name, values in SERVICES.items():
             for key, value in values.items():

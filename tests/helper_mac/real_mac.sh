@@ -305,7 +305,7 @@ check "the helper is one that this bash reads" /bin/bash -n "$helper"
 check "chmod takes its mode behind --, and no -- behind it" chmod_as_written
 ask "<stop_token> is in this library" "whether the small one of our own may go" stop_token
 ask "pf reads back its own main rules (-n)" "whether ours can be put among them at all" read_back
-ask "pf takes them back (loaded)" "whether its main rules survive being written by somebody" load_back
+ask "pf takes them back (loaded)" "whether its main rules survive being written back" load_back
 ask "pf's tables" "compare with the same in a session" pfctl -s Tables
 ask "pf's rules for dummynet" "what loading filter rules with -R takes away; compare with the same after a session" pfctl -s dummynet
 ask "network devices that pf leaves out" "a strict session is refused where there are any" skipped

@@ -16,7 +16,7 @@ _spec.loader.exec_module(linux_options)
 
 LAUNCH = ["launch", "--uid", str(USER_UID), "--app", "/Applications/Some.app"]
 MORE = {
-    "launch for somebody else": ["launch", "--uid", "0", "--app", "/Applications/Some.app"],
+    "launch for another user": ["launch", "--uid", "0", "--app", "/Applications/Some.app"],
     "launch of no application": ["launch", "--uid", str(USER_UID), "--app", "/usr/bin/true"],
     "launch of a relative path": ["launch", "--uid", str(USER_UID), "--app", "Some.app"],
     "launch with arithmetic": ["launch", "--uid", "a[$(touch /run/pwned)]", "--app", "/Applications/Some.app"],

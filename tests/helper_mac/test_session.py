@@ -201,7 +201,7 @@ class Session(MacTest):
         self.assertOneLine(self.machine.help("fix-dns", check=False), "not connected")
         self.assertRestored()
 
-    def test_somebody_elses_rules_before_ours_are_put_behind(self):
+    def test_foreign_rules_before_ours_are_put_behind(self):
         self.machine.connect()
         self.machine.end_watcher()
         state = self.machine.state

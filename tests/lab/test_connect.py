@@ -4,6 +4,7 @@
 """
 
 import os
+import re
 import signal
 import subprocess
 import sys
@@ -280,7 +281,7 @@ class AnOrdinaryUser(LabCase):
         self.assert_restored()
 
     def test_a_hostile_program_does_not_have_an_open_network_called_protected(self):
-        """It is the user's, in password-free mode. It may not lessen the session. It may end it, and takes Tor's place at once."""
+        """It is the user's, in passwordless mode. It may not lessen the session. It may end it, and takes Tor's place at once."""
         self.as_root.run_helper("install-privileged", "--user", self.lab.host.user, check=True)
         self.addCleanup(self.as_root.run_helper, "uninstall-privileged", check=True)
         self.before = self.lab.host.snapshot()
@@ -473,9 +474,11 @@ class OneInstanceAndBadInput(LabCase):
 
     def test_status_prints_every_published_field(self):
         state = self.product.status()
+        settings = re.search(r"Settings: (.*)\.", self.product.run_verb("set", "nothing", "1").stderr).group(1).split(", ")
+        self.assertIn("strictMode", settings)
+        self.assertLessEqual(set(settings), set(state))
         for field in (
-            "strictMode allowLocalNetwork separateApps exitCountry customTorPath bridgeChoice customBridges climb ladder climbOffer bypassApps autoConnect "
-            "optimizeSpeed separated latencyMs optimizeStatus isOptimizing transports activeBridge terminalMode phase activeMode "
+            "ladder climbOffer separated latencyMs optimizeStatus isOptimizing transports activeBridge phase activeMode "
             "bootstrapProgress statusDetail exitIP torVerified leakStatus bytesRead bytesWritten isChecking canCancel "
             "errorMessage dnsStatus passwordlessInstalled startupError circuits circuitError transportDownload "
             "terminalError terminalHint settingsProblems"

@@ -20,7 +20,7 @@ LOCK = "/run/veldmark.lock"
 
 
 class DesktopCase(LabCase):
-    """alice at her desktop, with the password-free rule. Each test begins with the application running."""
+    """alice at her desktop, with the passwordless rule. Each test begins with the application running."""
 
     @classmethod
     def setUpClass(cls):

@@ -75,7 +75,7 @@ class Leaks(HostileRows, SwappedRow, LeakCase):
                     "ip route replace default via 192.168.77.1; ip addr del 192.168.77.60/24 dev eth0",
                     four,
                 ),
-                "somebody else's rule that accepts": (
+                "another program's rule that accepts": (
                     "nft -f - <<<'table inet other { chain o { type filter hook output priority -300; policy accept; accept; };"
                     " chain p { type filter hook output priority 300; policy accept; accept; }; }'",
                     "nft delete table inet other",
@@ -144,7 +144,7 @@ class Leaks(HostileRows, SwappedRow, LeakCase):
             "Tor hangs",
             "the rules were loaded twenty times",
             "fix-dns ran",
-            "somebody flushed the rules, and they are back",
+            "the rules were flushed, and they are back",
             "Tor could not start again",
             "the helper was killed while it connected again",
         ]
@@ -171,7 +171,7 @@ class Leaks(HostileRows, SwappedRow, LeakCase):
             self.sh(
                 "until pgrep -x nft; do sleep 0.01; done; nft flush ruleset; until nft list chain inet veldmark output; do :; done >/dev/null 2>&1"
             )
-            self.core("somebody flushed the rules, and they are back")
+            self.core("the rules were flushed, and they are back")
             holder = self.host.popen(
                 [
                     "/usr/bin/python3",

@@ -22,7 +22,7 @@ from veldlab.product import Product, is_probed  # noqa: E402
 
 
 class Sessions(LabCase):
-    """alice has the password-free rule. Root is the other user, and an administrator."""
+    """alice has the passwordless rule. Root is the other user, and an administrator."""
 
     @classmethod
     def setUpClass(cls):
@@ -156,12 +156,10 @@ class Sessions(LabCase):
             return self.lab.host.run(["sudo", "-n", self.root.ctl, *words], user="alice")
 
         self.assertEqual(sudo("set", "customTorPath", "/home/alice/tor").returncode, 0)
-        # Not a program of the system's: whoever types sudo's password sees what it is given for, and is asked.
+        # Not a program of the system's: the user who types sudo's password sees what it is given for, and is asked.
         without = self.lab.host.run(["setsid", "--wait", "sudo", "-n", self.root.ctl, "run", "--connect"], user="alice", timeout=60)
         self.assertEqual(without.returncode, 1)
-        self.assertIn(
-            "/home/alice/tor is not a program of the system, so somebody has to approve it, and there is no", without.stderr
-        )
+        self.assertIn("/home/alice/tor is not a program of the system, so an administrator has to approve it, but", without.stderr)
         digest = hashlib.sha256(self.lab.host.path("/home/alice/tor").read_bytes()).hexdigest()
         for typed, status, words in ((b"no\n", 1, "/home/alice/tor was not approved."), (b"\x03", 0, "")):
             with self.subTest(typed=typed), self.sudo_at_a_terminal("run", "--connect") as (running, terminal):
@@ -176,7 +174,7 @@ class Sessions(LabCase):
             self.shown_until(terminal, "> ")
             self.lab.host.run(["sh", "-c", "echo >>/home/alice/tor"], check=True)
             os.write(terminal, b"yes\n")
-            self.assertIn("The SHA-256 of the program /home/alice/tor is not the one to approve.", self.shown_until(terminal))
+            self.assertIn("The SHA-256 of the program /home/alice/tor differs from the one to approve.", self.shown_until(terminal))
             self.assertEqual(running.wait(30), 1)
         self.assertFalse(self.lab.host.path(MARKER).exists())
         self.assertEqual(self.lab.host.run(["find", "/var/lib/veldmark/programs", "-type", "f"]).stdout, "")

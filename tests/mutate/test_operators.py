@@ -168,7 +168,7 @@ class Runs(unittest.TestCase):
 
     def test_a_checkout_of_another_user_is_cloned(self):
         if os.geteuid() != 0:
-            self.skipTest("only root gives files to somebody else")
+            self.skipTest("only root gives files to another user")
         folder = Path(self.enterContext(tempfile.TemporaryDirectory()))
         project = folder / "a checkout"
         project.mkdir()

@@ -272,7 +272,7 @@ class Upgraded(Case):
                 self.assertEqual(session.interrupt(), 0, session.output)  # with the later version's helper
             self.assert_network_is_whole()
 
-    def test_the_password_free_copy_is_known_to_be_outdated(self):
+    def test_the_passwordless_copy_is_known_to_be_outdated(self):
         self.debian.run([HELPER, "install-privileged", "--user", "alice"], check=True)
         copy = "/usr/local/libexec/veldmark/veldmark-helper.sh"
         self.debian.run(["cmp", HELPER, copy], check=True)
@@ -366,7 +366,7 @@ class Removed(Case):
         self.assert_network_is_whole()
         self.assertFalse(self.debian.path("/var/lib/veldmark/leaving.sh").exists())
 
-    def test_somebody_elses_account_of_that_name_stays(self):
+    def test_a_foreign_account_of_that_name_stays(self):
         self.debian.shell("useradd --system --comment 'Not yours' _veldmark")
         self.dpkg("--purge", "veldmark", check=True, timeout=120)
         self.assertIn("Not yours", self.debian.shell("getent passwd _veldmark"))

@@ -27,7 +27,6 @@ public:
 
     quint16 port() const { return m_port; }
     QString password() const { return m_password; }
-    void setPassword(const QString &password) { m_password = password; }
     // From now on any password of that hash is right; password() is the last right one.
     void setHash(const QString &hash) { m_hash = hash; }
 

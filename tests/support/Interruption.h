@@ -20,8 +20,6 @@ public:
     void interrupt(int resumption, Moment moment, std::function<void()> act);
     // Stops counting and acting.
     void leaveAlone() { m_act = nullptr; }
-    // Since interrupt().
-    int resumptions() const { return m_resumptions; }
 
     bool notify(QObject *receiver, QEvent *event) override;
 

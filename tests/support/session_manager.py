@@ -24,7 +24,6 @@ CALLBACKS = (
     "get_properties",
 )
 SAVE_BOTH, STYLE_ANY = 2, 2
-PENDING = 0
 
 
 class Callback(ctypes.Structure):

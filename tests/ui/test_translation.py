@@ -49,7 +49,7 @@ TRANSLATED = re.compile(r'(?:\btr|\btranslate|QT_TRANSLATE_NOOP)\(\s*(?:"[^"]*",
 # A string after one of these is for programs or programmers.
 FOR_PROGRAMS = re.compile(
     r"(?:qWarning|qFatal|QML_UNCREATABLE|says|contains|startsWith|QLatin1String|QRegularExpression \w+|installing)\("
-    r"(?:QStringLiteral\(|QLatin1String\()?\s*$|[=(] ?u$|\{Package\{$|(?<!Text\()words : \{$|Known\{\"[a-z-]+\", $|reason:@$|qCritical\(\) << $"
+    r"(?:QStringLiteral\(|QLatin1String\()?\s*$|[=(] ?u$|\{Package\{$|(?<!Text\()words : \{$|FirewallName\{\"[a-z-]+\", $|reason:@$|qCritical\(\) << $"
 )
 # Commands, paths, patterns, names and formats.
 NO_WORDS = re.compile(
@@ -117,7 +117,9 @@ class Helper(unittest.TestCase):
     def said(self):
         for path in (ROOT / "resources" / "helper").glob("*.sh"):
             text = re.sub(r"(?m)^\s*#.*$", "", path.read_text())
-            for match in re.finditer(r'(?:\b(?:die|unapproved|no_program|say) |\b(?:UNDONE|reason|STAYS_CLOSED)=(?:\$\{\w+:-)?)"', text):
+            for match in re.finditer(
+                r'(?:\b(?:die|unapproved|no_program|say) |\b(?:UNDONE|reason|STAYS_CLOSED)=(?:\$\{\w+:-)?)"', text
+            ):
                 yield self.form(text, match.end()).strip()
             yield from re.findall(r":-((?:[A-Z][a-z]+|it) [^}\"$]*\.)\}", text)
             yield from (words.replace("%s", "%1") for words in re.findall(r"printf '(a program [^']*)'", text))
@@ -134,7 +136,13 @@ class Helper(unittest.TestCase):
 
     def test_each_sentence_is_known(self):
         source = (SOURCES / "system" / "HelperSentences.cpp").read_text()
-        known = {joined(strings) for strings in re.findall(r'QT_TRANSLATE_NOOP\(\s*"veldmark::Text",\s*' + STRINGS + r"\)", source)}
+        listed = [
+            joined(strings) for strings in re.findall(r'QT_TRANSLATE_NOOP\(\s*"veldmark::Text",\s*' + STRINGS + r"\)", source)
+        ]
+        known = set(listed)
+        ordered = listed[: listed.index("The network stays blocked until you disconnect.")]  # it stands behind the list
+        self.assertGreater(len(ordered), 120)
+        self.assertEqual(ordered, sorted(ordered))
         said = {form for form in self.said() if not re.fullmatch(r"(?:%\d)+", form)}
         self.assertGreater(len(said), 120)
         self.assertEqual(sorted(said - known), [])

@@ -152,7 +152,7 @@ sub dscacheutil {
         my $uid = $words[4];
         my $user = $state{"user $uid"} or return;
         my ($login, $gid, $home) = split / /, $user;
-        print "name: $login\npassword: ********\nuid: $uid\ngid: $gid\ndir: $home\nshell: /bin/zsh\ngecos: Somebody\n\n";
+        print "name: $login\npassword: ********\nuid: $uid\ngid: $gid\ndir: $home\nshell: /bin/zsh\ngecos: A User\n\n";
         return;
     }
     refuse(@_) unless "@words[0 .. 3]" eq '-q host -a name';

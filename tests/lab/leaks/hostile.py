@@ -1,7 +1,7 @@
 """Rows of the leak matrix for two more identities: a hostile program of the session's user, and one of another account.
 
-The sessions between them have every pair of settings: bridges or none, password-free mode on or off, the local network open or
-closed. With password-free mode the other account may use it as well. Each attack first works without its defence. There is one lab
+The sessions between them have every pair of settings: bridges or none, passwordless mode on or off, the local network open or
+closed. With passwordless mode the other account may use it as well. Each attack first works without its defence. There is one lab
 with four sessions.
 """
 
@@ -21,7 +21,7 @@ RULE = "/etc/sudoers.d/veldmark"
 FILTER = "/usr/libexec/veldmark/veldmark-control"
 BY_RULE = ("proxy", "lan", "interpreter", "program", "medium", "approval", "launch")
 AWAY = "pkill -KILL -u _veldmark; while pgrep -u _veldmark; do sleep 0.01; done"
-# bridges, password-free, local network: each pair of settings occurs
+# bridges, passwordless, local network: each pair of settings occurs
 SESSIONS = ((True, False, 0), (False, True, 0), (False, False, 1), (True, True, 1))
 PACKETS = {"ordinary packets": probes.CORE, "by a setuid file of Tor's account": ("HTTP",), "by a port mapping of others": ("SSH",)}
 

@@ -1,5 +1,5 @@
 """A row of the leak matrix. A program of the session's user replaces a bridge program of the Tor Project in the user's own folder,
-after root has verified the bundle. Password-free mode is on, so there is no prompt.
+after root has verified the bundle. Passwordless mode is on, so there is no prompt.
 
 The test makes the signer's key. The helper has it in the place of the Tor Browser Developers' key.
 """

@@ -91,7 +91,7 @@ private Q_SLOTS:
                  QStringLiteral("Another session has replaced this one"));
     }
 
-    void norIsTorsEndCalledAnotherSession()
+    void tellsThatTorDiedNotThatAnotherSessionBegan()
     {
         Workbench bench;
         ControllerSession session(bench.controller(), *bench.settings, bench.applications);
@@ -107,7 +107,7 @@ private Q_SLOTS:
         QCOMPARE(told.at(0).at(0).toString(), QStringLiteral("Tor stopped running"));
     }
 
-    void tellsWhenTorDiesAndSomebodyElseHasRestored()
+    void tellsWhenTorDiesAndAnotherProcessHasRestored()
     {
         StandInSession session(profile);
         Alerts alerts(session);

@@ -60,7 +60,7 @@ private Q_SLOTS:
         QVERIFY(!isRootsOwn(inner)); // itself, it is open
     }
 
-    void norIsAFileBelowAnotherUsersFolder()
+    void aFileBelowAnotherUsersFolderIsNotRootsOwn()
     {
         if (::geteuid() != 0)
             QSKIP("needs root's files");

@@ -202,7 +202,7 @@ private Q_SLOTS:
         QVERIFY(outcome.found.snowflake);
     }
 
-    void mayBeDestroyedByWhoeverWaitsForIt()
+    void theWaiterMayDestroyIt()
     {
         const System system;
         auto search = std::make_unique<TransportSearch>(system.profile);

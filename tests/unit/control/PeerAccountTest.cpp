@@ -74,7 +74,7 @@ private Q_SLOTS:
     }
 
     // Before a process accepts the connection, its account is unknown.
-    void nothingIsSaidBeforeSomebodyHasTakenTheConnection()
+    void nothingIsSaidBeforeTheConnectionIsAccepted()
     {
         ManualClock clock;
         QTcpServer server;

@@ -223,7 +223,7 @@ private Q_SLOTS:
         QCOMPARE(sent(longest + "\r\n", {}, {bridge}), longest + "\r\n");
         QCOMPARE(sent(longest + "\r\n", {5, 600, 9000}, {bridge}), longest + "\r\n");
         QCOMPARE(sent(longest + "a\r\n", {}, {bridge}), ended);
-        // Without bridges in reserve, and for every other command, lines are as short as ever.
+        // Without bridges in reserve, and for every other command, lines stay short.
         QCOMPARE(sent(longest + "\r\n", {}), ended);
         QCOMPARE(sent("GETINFO " + longest + "\r\n", {}, {bridge}), ended);
     }

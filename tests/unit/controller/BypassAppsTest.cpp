@@ -195,6 +195,43 @@ private Q_SLOTS:
         QCOMPARE(bench.helperRunCount(u"launch"_s), 0);
         QVERIFY(!c.errorMessage());
     }
+
+    void opensNothingInALaterSession()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        bench.applications.copies = {{zed, {7}}};
+        const auto launching = c.launchBypassed(zed);
+        bench.disconnect();
+        QVERIFY(bench.connect());
+        QVERIFY(!launching.isReady()); // it waited all the while
+        bench.applications.ended = {7};
+        bench.clock.advance(100ms);
+        QVERIFY(Workbench::finished(launching));
+        QCOMPARE(bench.helperRunCount(u"launch"_s), 0);
+        QVERIFY(Workbench::finished(c.launchBypassed(zed))); // which opens it
+        QCOMPARE(bench.helperRunCount(u"launch"_s), 1);
+    }
+
+    void aLaterSessionDoesNotShowWhyItFailed()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        bench.hold(u"launch"_s);
+        bench.failHelper(u"launch"_s, u"No."_s);
+        const auto launching = c.launchBypassed(zed);
+        QVERIFY(until([&] { return bench.processes.held() == 1; }));
+        bench.disconnect();
+        QVERIFY(bench.connect());
+        bench.processes.hold = nullptr;
+        bench.processes.release();
+        QVERIFY(Workbench::finished(launching));
+        QVERIFY(!c.errorMessage());
+        QVERIFY(Workbench::finished(c.launchBypassed(zed)));
+        QVERIFY(c.errorMessage()); // in its own session it is shown
+    }
 };
 
 VELDMARK_TEST(BypassAppsTest)

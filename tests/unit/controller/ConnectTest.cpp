@@ -237,7 +237,7 @@ private Q_SLOTS:
         }
     }
 
-    // The password-free rule allows only the same session again.
+    // The passwordless rule allows only the same session again.
     void aStrictSessionThatIsBegunAgainIsTheSame()
     {
         Workbench bench;
@@ -434,7 +434,7 @@ private Q_SLOTS:
         QCOMPARE(bench.helperRunCount(u"connect"_s), 1);
     }
 
-    void whoeverHearsOfTheConnectionMayEndItAtOnce()
+    void anObserverOfThePhaseMayDisconnectAtOnce()
     {
         Workbench bench;
         TorController &c = bench.controller();

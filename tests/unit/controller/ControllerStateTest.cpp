@@ -1,7 +1,10 @@
 #include "base/ExitCountry.h"
+#include "controller/PublishedState.h"
+#include "support/SettingValues.h"
 #include "support/TestProgram.h"
 #include "support/Workbench.h"
 
+#include <QJsonObject>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -31,6 +34,7 @@ private Q_SLOTS:
         QVERIFY(c.bridgeChoice() == BridgeChoice::off);
         QCOMPARE(c.autoConnect(), false);
         QCOMPARE(c.optimizeSpeed(), false);
+        QCOMPARE(c.separateApps(), true);
         QCOMPARE(c.terminalMode(), false);
         QCOMPARE(c.exitCountry(), QString());
         QCOMPARE(c.customTorPath(), QString());
@@ -96,32 +100,24 @@ private Q_SLOTS:
     void storesEverySettingAtOnce()
     {
         Workbench bench;
-        TorController &c = bench.controller();
-        c.strictMode.set(false);
-        c.allowLocalNetwork.set(false);
-        c.exitCountry.set(u"de"_s);
-        QVERIFY(content(bench.profile.settingsFile).contains("exitCountry=de"));
-        c.customTorPath.set(u"/opt/it's \"tor\""_s);
-        c.bridgeChoice.set(BridgeChoice::custom);
-        c.customBridges.set(u"obfs4 192.0.2.1:443 A\n192.0.2.2:9001"_s);
-        c.bypassApps.set({u"/a b.desktop"_s, u"/c,d"_s});
-        c.autoConnect.set(true);
-        c.optimizeSpeed.set(true);
-        QVERIFY(!c.setTerminalMode(true));
-        QVERIFY(!c.errorMessage());
+        QJsonObject stored;
+        for (const QString &name : settingNames(bench.controller())) {
+            const Field &field = *bench.controller().fieldNamed(name);
+            const QJsonValue before = field.toJson();
+            QVERIFY2(setSetting(bench.controller(), name, anotherValue(field)), qPrintable(name));
+            QVERIFY2(field.toJson() != before, qPrintable(name)); // has it a line in
+                                                                  // anotherValue()?
+            QVERIFY2(content(bench.profile.settingsFile).contains(name.toUtf8() + '='),
+                     qPrintable(name));
+            stored[name] = field.toJson();
+        }
+        QVERIFY(!bench.controller().errorMessage());
+        QVERIFY(stored.size() >= 12);
 
         bench.restart();
-        const TorController &again = bench.controller();
-        QCOMPARE(again.strictMode(), false);
-        QCOMPARE(again.allowLocalNetwork(), false);
-        QCOMPARE(again.exitCountry(), u"de"_s);
-        QCOMPARE(again.customTorPath(), u"/opt/it's \"tor\""_s);
-        QVERIFY(again.bridgeChoice() == BridgeChoice::custom);
-        QCOMPARE(again.customBridges(), u"obfs4 192.0.2.1:443 A\n192.0.2.2:9001"_s);
-        QCOMPARE(again.bypassApps(), QStringList({u"/a b.desktop"_s, u"/c,d"_s}));
-        QCOMPARE(again.autoConnect(), true);
-        QCOMPARE(again.optimizeSpeed(), true);
-        QCOMPARE(again.terminalMode(), true);
+        for (const QString &name : settingNames(bench.controller()))
+            QVERIFY2(bench.controller().fieldNamed(name)->toJson() == stored[name],
+                     qPrintable(name));
     }
 
     void tellsOfAChangeOnlyWhenThereIsOne()

@@ -345,7 +345,7 @@ private Q_SLOTS:
         QVERIFY(!c.errorMessage());
     }
 
-    void aSessionThatSomebodyElseTurnedOrEndedIsNeverCalledProtected()
+    void aSessionThatAnotherProcessTurnedOrEndedIsNeverCalledProtected()
     {
         for (const bool isEnded : {false, true}) {
             Workbench bench;
@@ -477,7 +477,7 @@ private Q_SLOTS:
         QCOMPARE(c.errorMessage().value(), openDeath);
     }
 
-    void aNetworkThatSomebodyElseRestoresIsNoLongerStale()
+    void aNetworkThatAnotherProcessRestoresIsNoLongerStale()
     {
         Workbench bench;
         TorController &c = bench.controller();

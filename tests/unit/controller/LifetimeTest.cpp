@@ -307,8 +307,8 @@ private Q_SLOTS:
         QCOMPARE(bench.clock.sleepers(), std::size_t(0));
     }
 
-    void norWhenItsServicesEndWithIt_data() { allPlaces(); }
-    void norWhenItsServicesEndWithIt()
+    void nothingHappensWhenItsServicesEndWithIt_data() { allPlaces(); }
+    void nothingHappensWhenItsServicesEndWithIt()
     {
         QFETCH(int, index);
         Workbench bench;

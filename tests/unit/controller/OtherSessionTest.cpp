@@ -81,7 +81,7 @@ private Q_SLOTS:
         }
     }
 
-    // By the password-free rule any program of the user can do that; the session then has no owner.
+    // By the passwordless rule any program of the user can do that; the session then has no owner.
     void oneBegunByHandInPlaceOfOursIsNotTakenForOurs()
     {
         Workbench bench;

@@ -240,7 +240,7 @@ private Q_SLOTS:
         QVERIFY(bench.processes.calls.empty());
     }
 
-    void aModeThatSomebodyHasChangedByHandIsShown()
+    void aModeThatWasChangedByHandIsShown()
     {
         Workbench bench;
         TorController &c = bench.controller();

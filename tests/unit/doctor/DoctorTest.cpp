@@ -119,7 +119,7 @@ const std::vector<Case> &cases()
          Level::problem,
          "The port 9050, which Tor needs, is held by tor (process 812, account debian-tor)",
          "sudo systemctl stop tor@other.service"},
-        {"somebody's program on the port", [](TestMachine &m) { addHolder(m, "nc", 4343, {}); },
+        {"another user's program on the port", [](TestMachine &m) { addHolder(m, "nc", 4343, {}); },
          "ports", Level::problem, "held by nc (process 812, account bob)", "sudo kill 812"},
         {"a holder that is called something terrible",
          [](TestMachine &m) { addHolder(m, "\x1b[2Jn\x07", 4343, {}); }, "ports", Level::problem,
@@ -332,7 +332,7 @@ const std::vector<Case> &cases()
          "There is no desktop here", "sudo veldmarkctl run --connect"},
         {"no agent", [](TestMachine &m) { m.remove("/proc/900"); }, "polkit", Level::note,
          "No known polkit agent", "sudo veldmarkctl run --connect"},
-        {"somebody else's agent", [](TestMachine &m) { m.process(900, "gnome-shell", 4343); },
+        {"another user's agent", [](TestMachine &m) { m.process(900, "gnome-shell", 4343); },
          "polkit", Level::note, "No known polkit agent", "sudo veldmarkctl run --connect"},
         {"no agent that is known and no sudo",
          [](TestMachine &m) {

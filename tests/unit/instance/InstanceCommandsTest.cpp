@@ -190,7 +190,7 @@ private Q_SLOTS:
         QCOMPARE(dismissed.error(), u"Cancelled."_s);
     }
 
-    void restoresWhatSomebodyElseHasSetUpSince()
+    void restoresWhatAnotherProcessHasSetUpSince()
     {
         Instance instance;
         instance.bench.writeMarker("strict\n"); // this instance was idle the whole time
@@ -222,7 +222,7 @@ private Q_SLOTS:
         QCOMPARE(instance.bench.helperRunCount(u"disconnect"_s), 1);
     }
 
-    void aSessionThatSomebodyElseHasEndedIsEnded()
+    void aSessionThatAnotherProcessHasEndedIsEnded()
     {
         Instance instance;
         instance.bench.writeMarker("strict\n");
@@ -260,7 +260,7 @@ private Q_SLOTS:
                  qPrintable(connecting.error()));
     }
 
-    void tellsOfASessionThatSomebodyElseHasMadeSince()
+    void tellsOfASessionThatAnotherProcessHasMadeSince()
     {
         Instance instance;
         OtherSession other(instance.bench.profile);

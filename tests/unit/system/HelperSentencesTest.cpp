@@ -43,12 +43,13 @@ private Q_SLOTS:
             sentence(u"Tor did not start: %1"_s,
                      {u"Could not bind to 127.0.0.1:9050: Address already in use."_s}));
         row("what stays behind it",
-            u"The journal cannot be written. The network stays blocked until you disconnect."_s,
+            u"The record of the former network settings cannot be written. The network stays blocked until you disconnect."_s,
             QJsonObject{
                 {u"between"_s, u" "_s},
                 {u"parts"_s,
-                 QJsonArray{sentence(u"The journal cannot be written."_s),
-                            sentence(u"The network stays blocked until you disconnect."_s)}}});
+                 QJsonArray{
+                     sentence(u"The record of the former network settings cannot be written."_s),
+                     sentence(u"The network stays blocked until you disconnect."_s)}}});
         row("the form with more words",
             u"The folder /x is not safe: only root may own or write it and those above it."_s,
             sentence(

@@ -428,7 +428,7 @@ private Q_SLOTS:
         system.installPasswordless();
         system.helper("exit 0");
         SlowRunner processes;
-        auto runner = std::make_unique<PrivilegedRunner>(system.profile, processes, somebody);
+        auto runner = std::make_unique<PrivilegedRunner>(system.profile, processes, userAccount);
         auto task = runner->runHelper(verb);
         runner.reset();
         processes.answer.complete({1, {}, QStringLiteral("a password is required")});

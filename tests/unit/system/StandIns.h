@@ -10,7 +10,7 @@
 
 namespace veldmark {
 
-constexpr uid_t somebody = 1000;
+constexpr uid_t userAccount = 1000;
 
 // A system of stand-in programs in a temporary folder. Each writes its NUL-terminated arguments to
 // "NAME.args", then prints and returns what the test has defined.
@@ -22,7 +22,7 @@ public:
     {
     }
 
-    PrivilegedRunner runner(uid_t user = somebody) { return {profile, m_processes, user}; }
+    PrivilegedRunner runner(uid_t user = userAccount) { return {profile, m_processes, user}; }
 
     void write(const QString &path, const QByteArray &content) const
     {

@@ -5,8 +5,8 @@
 #include <QTest>
 
 using namespace veldmark;
+using MarkedBlock::InsertedBytes;
 using MarkedBlock::Position;
-using MarkedBlock::Separation;
 
 namespace {
 const QByteArray block = "# >>> veldmark >>>\nbody\n# <<< veldmark <<<\n";
@@ -61,7 +61,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, text);
         for (const Position position : {Position::atEnd, Position::atStart}) {
             const auto once = MarkedBlock::added(text, "body", position);
-            QCOMPARE(MarkedBlock::removed(once.text, position, once.separation), text);
+            QCOMPARE(MarkedBlock::removed(once.text, position, once.inserted), text);
             QCOMPARE(MarkedBlock::added(once.text, "another", position).text, once.text);
         }
     }
@@ -147,7 +147,7 @@ private Q_SLOTS:
         timer.start();
         const auto added = MarkedBlock::added(text, "body", Position::atEnd);
         QCOMPARE(added.text.size(), text.size() + 1 + block.size());
-        QCOMPARE(MarkedBlock::removed(added.text, Position::atEnd, added.separation), text);
+        QCOMPARE(MarkedBlock::removed(added.text, Position::atEnd, added.inserted), text);
         qInfo("10 MB: %lld ms", timer.elapsed());
     }
 };

@@ -267,7 +267,7 @@ private Q_SLOTS:
         const QString second = home.path(QStringLiteral("second"));
         QCOMPARE(::link(QFile::encodeName(own).constData(), QFile::encodeName(second).constData()),
                  0);
-        QVERIFY(writeOwnFile(own, "mine", 0755, OwnMode::exact));
+        QVERIFY(writeOwnFile(own, "mine", 0755, NewFileMode::exact));
         QCOMPARE(home.content(QStringLiteral("own")), QByteArray("mine"));
         QCOMPARE(home.mode(QStringLiteral("own")), mode_t(0755));
         struct stat status = {};
@@ -280,7 +280,7 @@ private Q_SLOTS:
         const Home home;
         home.file(QStringLiteral("theirs"), "keep");
         QFile::link(home.path(QStringLiteral("theirs")), home.path(QStringLiteral("own")));
-        QVERIFY(writeOwnFile(home.path(QStringLiteral("own")), "mine", 0755, OwnMode::exact));
+        QVERIFY(writeOwnFile(home.path(QStringLiteral("own")), "mine", 0755, NewFileMode::exact));
         QVERIFY(!QFileInfo(home.path(QStringLiteral("own"))).isSymLink());
         QCOMPARE(home.mode(QStringLiteral("own")), mode_t(0755));
         QCOMPARE(home.content(QStringLiteral("theirs")), QByteArray("keep"));

@@ -167,7 +167,7 @@ private Q_SLOTS:
         QCOMPARE(told.count(), after.isEmpty() ? 0 : 1);
     }
 
-    void readsTheCircuitsWhileSomebodyLooks()
+    void readsTheCircuitsWhileAWindowShowsThem()
     {
         StandInSession session(profile);
         CircuitsModel model(session);

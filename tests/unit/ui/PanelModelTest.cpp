@@ -475,7 +475,7 @@ private Q_SLOTS:
         row("inconclusive", LeakStatus::inconclusive(), QStringLiteral("Inconclusive"), tries);
         row("blocked", LeakStatus::blocked(), QStringLiteral("No answer"),
             QStringLiteral(
-                "A direct connection that skips Tor got no answer, but proxy mode doesn't block such connections"));
+                "A direct connection that bypasses Tor got no answer, but proxy mode doesn't block such connections"));
         row("exposed", LeakStatus::exposed(QStringLiteral("198.51.100.1")),
             QStringLiteral("Exposed: 198.51.100.1"),
             QStringLiteral(

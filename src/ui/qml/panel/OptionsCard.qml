@@ -69,11 +69,8 @@ Card {
         Layout.leftMargin: 30
         visible: card.model.needsDownload || card.model.customChosen || card.model.downloadText !== ""
         spacing: 8
-        PushButton {
+        DownloadButton {
             visible: card.model.needsDownload
-            text: qsTr("Download")
-            symbol: "arrow.down.circle.fill"
-            help: qsTr("Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges")
             enabled: card.model.canDownload
             onClicked: card.model.download()
         }

@@ -28,11 +28,8 @@ Rectangle {
                 text: panel.model.error
                 closable: true
                 onClosed: panel.model.dismissError()
-                PushButton {
+                DownloadButton {
                     visible: panel.options.needsDownload
-                    text: qsTr("Download")
-                    symbol: "arrow.down.circle.fill"
-                    help: qsTr("Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges")
                     enabled: panel.options.canDownload
                     primary: true
                     tone: Theme.danger

@@ -25,7 +25,7 @@ Pane {
             symbol: "arrow.triangle.branch"
             title: qsTr("When Tor is blocked")
             subtitle: pane.model.torLocked ? qsTr("Disconnect to change")
-                    : qsTr("Bridges that are there can be tried one after the other, without another password")
+                    : qsTr("Tries the available bridges in turn, without another password")
             enabled: !pane.model.torLocked
             names: pane.model.climbNames
             current: pane.model.climbIndex
@@ -46,10 +46,10 @@ Pane {
             symbol: "arrow.down.circle.fill"
             title: qsTr("Tor Expert Bundle")
             subtitle: pane.model.bundleStatus
-            PushButton {
+            DownloadButton {
                 text: pane.model.bundleLoaded ? qsTr("Update") : qsTr("Download")
+                symbol: "" // the row has it
                 enabled: pane.model.canDownload
-                help: qsTr("Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges")
                 onClicked: pane.model.download()
             }
         }
