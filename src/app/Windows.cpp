@@ -37,7 +37,6 @@ Windows::Windows(Session &session, LogFeed &log, SettingsStore &settings)
       m_entryChooser(QDBusConnection::sessionBus()),
       m_reportChooser(QDBusConnection::sessionBus())
 {
-    prepareEngine(m_engine);
     QObject::connect(&m_torChooser, &FileChooser::chosen, &m_settings,
                      [this](const QStringList &files) {
                          m_settings.chooseTor(QUrl::fromLocalFile(files.first()));
@@ -62,7 +61,11 @@ Windows::~Windows()
 
 std::unique_ptr<QQuickWindow> Windows::make(const QString &file, const QVariantMap &properties)
 {
-    QQmlComponent component(&m_engine, moduleFile(file));
+    if (!m_engine) {
+        m_engine = std::make_unique<QQmlApplicationEngine>();
+        prepareEngine(*m_engine);
+    }
+    QQmlComponent component(m_engine.get(), moduleFile(file));
     QObject *made = component.isReady() ? component.createWithInitialProperties(properties)
                                         : nullptr;
     auto *window = qobject_cast<QQuickWindow *>(made);

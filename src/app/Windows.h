@@ -19,9 +19,9 @@
 namespace veldmark {
 
 // The program's windows by name: "main", "panel", "circuits", "log", "settings", "chooser",
-// "report". A window is made when it is first wanted. All but "main" and "panel" are destroyed when
-// closed, so that the program uses little memory in the tray. Their places are remembered. Main
-// thread.
+// "report". A window is made when it is first wanted, and with the first one all that QML needs.
+// All but "main" and "panel" are destroyed when closed, so that the program uses little memory in
+// the tray. Their places are remembered. Main thread.
 class Windows : public QObject {
     Q_OBJECT
 
@@ -68,7 +68,7 @@ private:
     FileChooser m_torChooser;
     FileChooser m_entryChooser;
     FileChooser m_reportChooser;
-    QQmlApplicationEngine m_engine;
+    std::unique_ptr<QQmlApplicationEngine> m_engine;            // made with the first window
     std::map<QString, std::unique_ptr<QQuickWindow>> m_windows; // destroyed before the engine
 };
 

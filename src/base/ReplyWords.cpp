@@ -1,5 +1,7 @@
 #include "base/ReplyWords.h"
 
+#include <algorithm>
+
 namespace veldmark::ReplyWords {
 
 namespace {
@@ -53,19 +55,18 @@ QString unescaped(QStringView text)
 
 QStringView next(QStringView &rest)
 {
-    while (rest.startsWith(u' '))
-        rest = rest.sliced(1);
-    qsizetype end = rest.indexOf(u' ');
-    if (end < 0)
-        end = rest.size();
-    const qsizetype equals = rest.first(end).indexOf(u'=');
-    if (equals >= 0 && equals + 1 < rest.size() && rest[equals + 1] == u'"') {
-        const qsizetype close = closingMark(rest, equals + 1);
-        const qsizetype blank = close < 0 ? -1 : rest.indexOf(u' ', close);
-        end = blank < 0 ? rest.size() : blank;
+    const auto isBlank = [](QChar c) { return c == u' '; };
+    rest = QStringView(std::find_if_not(rest.begin(), rest.end(), isBlank), rest.end());
+    const auto keyEnd = std::find_if(rest.begin(), rest.end(),
+                                     [](QChar c) { return c == u' ' || c == u'='; });
+    auto from = keyEnd; // where the blank that ends the word is looked for
+    if (rest.end() - keyEnd > 1 && keyEnd[0] == u'=' && keyEnd[1] == u'"') {
+        const qsizetype close = closingMark(rest, keyEnd + 1 - rest.begin());
+        from = close < 0 ? rest.end() : rest.begin() + close;
     }
-    const QStringView word = rest.first(end);
-    rest = rest.sliced(end);
+    const auto end = std::find_if(from, rest.end(), isBlank);
+    const QStringView word(rest.begin(), end);
+    rest = QStringView(end, rest.end());
     return word;
 }
 

@@ -9,15 +9,23 @@ namespace veldmark::CircuitParser {
 
 namespace {
 
-// Cuts the next piece off `rest`, skipping empty ones; empty at the end.
-QStringView nextPiece(QStringView &rest, char16_t separator)
+constexpr std::size_t usualHops = 3;
+
+// Tor's words. As constants, so that their lengths are not counted for each circuit.
+constexpr QStringView built = u"BUILT";
+constexpr QStringView oneHopTunnel = u"ONEHOP_TUNNEL";
+constexpr QStringView internal = u"IS_INTERNAL";
+constexpr QStringView linkedLeg = u"CONFLUX_LINKED";
+
+// Cuts the next piece between any of the separators off `rest`, skipping empty ones; empty at the
+// end. Most pieces are short: a call of QStringView::indexOf() for each would cost more.
+template <char16_t... separators> QStringView nextPiece(QStringView &rest)
 {
-    while (!rest.isEmpty() && rest.front() == separator)
-        rest = rest.sliced(1);
-    const qsizetype end = rest.indexOf(separator);
-    const QStringView piece = end < 0 ? rest : rest.first(end);
-    rest = rest.sliced(piece.size());
-    return piece;
+    const auto isSeparator = [](QChar c) { return ((c == separators) || ...); };
+    const auto begin = std::find_if_not(rest.begin(), rest.end(), isSeparator);
+    const auto end = std::find_if(begin, rest.end(), isSeparator);
+    rest = QStringView(end, rest.end());
+    return QStringView(begin, end);
 }
 
 bool isAsciiLetter(QChar c)
@@ -42,33 +50,35 @@ int digits(QStringView text, qsizetype from, qsizetype count)
     return value;
 }
 
+// The text in upper case. Tor writes fingerprints so, and a look is cheaper than a conversion,
+// which changes no character before "a".
+QString upperCase(QStringView text)
+{
+    const bool isUpperCase = std::all_of(text.begin(), text.end(),
+                                         [](QChar c) { return c < u'a'; });
+    return isUpperCase ? text.toString() : text.toString().toUpper();
+}
+
 RelayInfo hop(QStringView element)
 {
     if (element.startsWith(u'$'))
         element = element.sliced(1);
-    QStringView pieces[2];
-    qsizetype count = 0;
-    for (qsizetype from = 0; from < element.size() && count < 2;) {
-        qsizetype end = from;
-        while (end < element.size() && element[end] != u'~' && element[end] != u'=')
-            ++end;
-        if (end > from)
-            pieces[count++] = element.sliced(from, end - from);
-        from = end + 1;
-    }
+    QStringView names = element;
+    const QStringView fingerprint = nextPiece<u'~', u'='>(names);
+    const QStringView nickname = nextPiece<u'~', u'='>(names);
     RelayInfo relay;
-    relay.fingerprint = (count > 0 ? pieces[0] : element).toString().toUpper();
-    relay.nickname = count > 1 ? pieces[1].toString() : relay.fingerprint.left(8);
+    relay.fingerprint = upperCase(fingerprint.isEmpty() ? element : fingerprint);
+    relay.nickname = nickname.isEmpty() ? relay.fingerprint.left(8) : nickname.toString();
     return relay;
 }
 
 void readBuildFlags(QStringView flags, CircuitInfo &circuit)
 {
     while (!flags.isEmpty()) {
-        const QStringView flag = nextPiece(flags, u',');
-        if (flag == u"ONEHOP_TUNNEL")
+        const QStringView flag = nextPiece<u','>(flags);
+        if (flag == oneHopTunnel)
             circuit.isOneHopTunnel = true;
-        else if (flag == u"IS_INTERNAL")
+        else if (flag == internal)
             circuit.isInternal = true;
     }
 }
@@ -80,17 +90,19 @@ public:
     void read(QStringView rest)
     {
         for (QStringView word = ReplyWords::next(rest); !word.isEmpty();
-             word = ReplyWords::next(rest))
-            for (std::size_t key = 0; key < std::size(keys); ++key)
-                take(key, word);
+             word = ReplyWords::next(rest)) {
+            const auto equals = std::find(word.begin(), word.end(), u'=');
+            if (equals != word.end())
+                take(QStringView(word.begin(), equals), QStringView(equals + 1, word.end()));
+        }
     }
 
     void fill(CircuitInfo &circuit) const
     {
         if (const auto purpose = value(Purpose)) {
             // Two linked legs carry traffic to one exit; an unlinked one does not yet.
-            circuit.purpose = *purpose == u"CONFLUX_LINKED" ? QStringLiteral("CONFLUX")
-                                                            : purpose->toString();
+            circuit.purpose = *purpose == linkedLeg ? QStringLiteral("CONFLUX")
+                                                    : purpose->toString();
         }
         if (const auto time = value(Created))
             circuit.created = timeFormatter(*time);
@@ -109,14 +121,18 @@ public:
 
 private:
     enum Key { Purpose, Created, Flags, ConfluxID, RoundTrip, Service, ServiceState };
-    static constexpr QStringView keys[] = {u"PURPOSE=",    u"TIME_CREATED=", u"BUILD_FLAGS=",
-                                           u"CONFLUX_ID=", u"CONFLUX_RTT=",  u"REND_QUERY=",
-                                           u"HS_STATE="};
+    static constexpr QStringView keys[] = {u"PURPOSE",    u"TIME_CREATED", u"BUILD_FLAGS",
+                                           u"CONFLUX_ID", u"CONFLUX_RTT",  u"REND_QUERY",
+                                           u"HS_STATE"};
 
-    void take(std::size_t key, QStringView word)
+    void take(QStringView key, QStringView value)
     {
-        if (!m_values[key] && word.startsWith(keys[key]))
-            m_values[key] = word.sliced(keys[key].size());
+        const auto known = std::find(std::begin(keys), std::end(keys), key);
+        if (known == std::end(keys))
+            return;
+        std::optional<QStringView> &place = m_values[known - std::begin(keys)];
+        if (!place)
+            place = value;
     }
     std::optional<QStringView> value(Key key) const { return m_values[key]; }
 
@@ -163,17 +179,17 @@ QString addressBeforePort(QStringView word)
 
 std::optional<CircuitInfo> circuit(QStringView line)
 {
-    const QStringView id = nextPiece(line, u' ');
-    if (nextPiece(line, u' ') != u"BUILT")
+    const QStringView id = nextPiece<u' '>(line);
+    if (nextPiece<u' '>(line) != built)
         return std::nullopt;
-    QStringView path = nextPiece(line, u' ');
+    QStringView path = nextPiece<u' '>(line);
     if (!path.startsWith(u'$'))
         return std::nullopt;
 
     CircuitInfo circuit;
-    circuit.hops.reserve(static_cast<size_t>(path.count(u',')) + 1);
-    for (QStringView element = nextPiece(path, u','); !element.isEmpty();
-         element = nextPiece(path, u','))
+    circuit.hops.reserve(usualHops);
+    for (QStringView element = nextPiece<u','>(path); !element.isEmpty();
+         element = nextPiece<u','>(path))
         circuit.hops.push_back(hop(element));
     if (circuit.hops.empty())
         return std::nullopt;
@@ -188,10 +204,10 @@ std::optional<CircuitInfo> circuit(QStringView line)
 
 std::optional<StreamInfo> stream(QStringView line)
 {
-    const QStringView id = nextPiece(line, u' ');
-    nextPiece(line, u' '); // its status
-    const QStringView circuitID = nextPiece(line, u' ');
-    const QStringView target = nextPiece(line, u' ');
+    const QStringView id = nextPiece<u' '>(line);
+    nextPiece<u' '>(line); // its status
+    const QStringView circuitID = nextPiece<u' '>(line);
+    const QStringView target = nextPiece<u' '>(line);
     if (target.isEmpty() || circuitID == u"0")
         return std::nullopt;
     return StreamInfo{id.toString(), circuitID.toString(), host(target)};
@@ -216,7 +232,7 @@ std::optional<QString> ipFromNetworkStatus(const QStringList &lines)
         QStringView rest = line;
         QStringView piece;
         for (int i = 0; i < 7; ++i)
-            piece = nextPiece(rest, u' ');
+            piece = nextPiece<u' '>(rest);
         // The address goes into the next command to Tor, so no other text may pass.
         return isIPv4(piece) ? std::optional(piece.toString()) : std::nullopt;
     }
@@ -231,8 +247,8 @@ std::optional<QString> ipOfBridge(QStringView fingerprint, const QStringList &br
         QStringView rest = line;
         QString address;
         bool found = false;
-        for (QStringView word = nextPiece(rest, u' '); !word.isEmpty();
-             word = nextPiece(rest, u' ')) {
+        for (QStringView word = nextPiece<u' '>(rest); !word.isEmpty();
+             word = nextPiece<u' '>(rest)) {
             const QStringView name = word.startsWith(u'$') ? word.sliced(1) : word;
             if (name.compare(fingerprint, Qt::CaseInsensitive) == 0)
                 found = true;

@@ -58,6 +58,18 @@ Taken taken()
     return now;
 }
 
+// The threads that read QML files, one for each engine.
+qsizetype engineThreads()
+{
+    qsizetype found = 0;
+    for (const QString &thread : QDir(u"/proc/self/task"_s).entryList(QDir::Dirs)) {
+        QFile name(u"/proc/self/task/"_s + thread + u"/comm"_s);
+        if (name.open(QIODevice::ReadOnly) && name.readAll().startsWith("QQmlThread"))
+            ++found;
+    }
+    return found;
+}
+
 } // namespace
 
 // The program's windows as app/Windows makes them. tests/ui tests their content.
@@ -77,6 +89,21 @@ private Q_SLOTS:
         }
         QCOMPARE(failed.count(), 0);
         QVERIFY(!shown.windows->open(u"nothing"_s));
+    }
+
+    // A program that starts hidden needs no QML.
+    void theFirstWindowBringsTheEngine()
+    {
+#ifndef Q_OS_LINUX
+        QSKIP("/proc names the threads");
+#endif
+        QVERIFY(until([] { return engineThreads() == 0; })); // those of former tests have ended
+        Shown shown;
+        QCOMPARE(engineThreads(), 0);
+        QVERIFY(shown.windows->open(u"main"_s));
+        QCOMPARE(engineThreads(), 1);
+        QVERIFY(shown.windows->open(u"log"_s));
+        QCOMPARE(engineThreads(), 1);
     }
 
     void theSettingsOpenTheReport()

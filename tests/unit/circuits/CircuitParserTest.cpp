@@ -87,6 +87,7 @@ private Q_SLOTS:
         row("dollar sign only", "$", "", "");
         row("separators only", "$~=", "~=", "~=");
         row("short", "$ab", "AB", "AB");
+        row("letter beyond ASCII", "$AB\xe9~Nick", "AB\xc9", "Nick");
     }
     void readsHops()
     {
@@ -113,6 +114,10 @@ private Q_SLOTS:
         QVERIFY(circuit);
         QCOMPARE(circuit->purpose, QStringLiteral("GENERAL"));
         QVERIFY(!circuit->created);
+        for (const char *other : {"=PURPOSE=HS", "XPURPOSE=HS", "PURPOSEX=HS", "PURPOSE", "="})
+            QCOMPARE(CircuitParser::circuit(QStringLiteral("12 BUILT $AA~a ")
+                                            + QString::fromLatin1(other)),
+                     circuit);
     }
 
     // As Tor 0.4.9 writes them.
