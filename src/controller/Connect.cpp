@@ -62,7 +62,7 @@ QStringList newWords(const QStringList &before, QStringList words)
 }
 
 // The options that let root itself verify transport programs, which an administrator would
-// otherwise have to approve. An outdated helper, installed for password-free mode, does not know
+// otherwise have to approve. An outdated helper, installed for passwordless mode, does not know
 // them.
 QStringList bundleWords(const TorController::Services &services, const QStringList &words)
 {
@@ -202,7 +202,7 @@ QCoro::Task<TorController::Reserve> TorController::planReserve(Run attempt, Brid
     Reserve reserve;
     reserve.climb = climb();
     reserve.customBridges = request.customBridges;
-    // An outdated helper, installed for password-free mode, does not know the option.
+    // An outdated helper, installed for passwordless mode, does not know the option.
     if (reserve.climb == Climb::never || m_services.privileged.privilegedHelperOutdated())
         co_return reserve;
     auto looking = transportsForReserve(attempt);
@@ -353,7 +353,7 @@ QCoro::Task<void> TorController::connect()
             co_return;
     }
     const bool isSame = arguments == m_sessionWords && reserve.words == m_reserve.words;
-    // In password-free mode the helper itself decides whether it needs approval.
+    // In passwordless mode the helper itself decides whether it needs approval.
     if (isBlocked && !isSame && !m_services.privileged.passwordlessInstalled())
         arguments[0] = QStringLiteral("replace");
     auto running = runConnect(attempt, arguments, std::move(reserve));

@@ -35,6 +35,9 @@ private Q_SLOTS:
         QTest::newRow("a number") << QByteArray("{\"version\": 14}") << "";
         QTest::newRow("no member") << QByteArray("{}") << "";
         QTest::newRow("a list") << QByteArray("[\"14.0\"]") << "";
+        const QByteArray longest = "1." + QByteArray(38, '2');
+        QTest::newRow("longest") << indexOf(longest.constData()) << QString::fromLatin1(longest);
+        QTest::newRow("too long") << indexOf((longest + '2').constData()) << "";
         QTest::newRow("cut short") << QByteArray("{\"version\": \"14.0\"") << "";
         QTest::newRow("a page") << QByteArray("<html>14.0</html>") << "";
         QTest::newRow("nothing") << QByteArray() << "";

@@ -1,6 +1,7 @@
 #include "checks/OwnAddresses.h"
 #include "support/TestProgram.h"
 
+#include <QNetworkInterface>
 #include <QTest>
 
 using namespace veldmark;
@@ -55,6 +56,14 @@ private Q_SLOTS:
         for (const QHostAddress &address : OwnAddresses::present())
             QVERIFY2(!address.isLoopback() && !address.isLinkLocal(),
                      qPrintable(address.toString()));
+    }
+
+    void everyOtherAddressIsOne()
+    {
+        for (const QHostAddress &address : QNetworkInterface::allAddresses()) {
+            if (!address.isLoopback() && !address.isLinkLocal())
+                QVERIFY2(OwnAddresses::present().contains(address), qPrintable(address.toString()));
+        }
     }
 };
 

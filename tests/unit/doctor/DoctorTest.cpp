@@ -373,6 +373,12 @@ const std::vector<Case> &cases()
          "polkit", Level::good, "as root", nullptr},
         {"no sudo", [](TestMachine &m) { m.remove("/usr/bin/sudo"); }, "sudo", Level::note,
          "sudo isn't installed", "su -c 'apt install sudo'"},
+        {"the administrators of other systems",
+         [](TestMachine &m) { m.write("/etc/group", "wheel:x:10:bob,alice\n"); }, "sudo",
+         Level::good, "you are in the group wheel", nullptr},
+        {"the administrators of older systems",
+         [](TestMachine &m) { m.write("/etc/group", "users:admin:9:alice\nadmin:x:11:alice\n"); },
+         "sudo", Level::good, "you are in the group admin", nullptr},
         {"no administrator", [](TestMachine &m) { m.write("/etc/group", "sudo:x:27:bob\n"); },
          "sudo", Level::unknown, "Only root can tell", "sudo -v"},
         {"a clock before the program",
@@ -704,6 +710,16 @@ private Q_SLOTS:
         QCOMPARE(canConnect(Doctor::all(nothing)), std::optional(false));
     }
 
+    void eachLevelHasItsWordInJSON()
+    {
+        const std::pair<Level, const char *> words[] = {{Level::good, "good"},
+                                                        {Level::note, "note"},
+                                                        {Level::unknown, "unknown"},
+                                                        {Level::problem, "problem"}};
+        for (const auto &[level, word] : words)
+            QCOMPARE(levelName(level), QString::fromLatin1(word));
+    }
+
     void theOtherSystemIsLookedAtAsFarAsItIsKnown()
     {
         TestMachine m;
@@ -714,6 +730,7 @@ private Q_SLOTS:
             QVERIFY2(finding.name != QLatin1String("nftables")
                          && finding.name != QLatin1String("polkit"),
                      qPrintable(finding.text.english()));
+        QVERIFY(Doctor::lookupFindings(m.machine).empty()); // no file says who answers there
         const PlatformProfile &profile = m.machine.profile;
         m.write(profile.sessionMarker.mid(profile.places.root.size()).toUtf8(), "proxy\n");
         const Findings left = Doctor::sessionFindings(m.machine);
