@@ -203,7 +203,7 @@ private Q_SLOTS:
         const auto counts = [&] {
             Counts now{{u"direct"_s, bench.probe.directProbes},
                        {u"through Tor"_s, bench.probe.torProbes},
-                       {u"look-up"_s, bench.commandCount("SETEVENTS STREAM")},
+                       {u"lookup"_s, bench.commandCount("SETEVENTS STREAM")},
                        {u"NEWNYM"_s, bench.commandCount("SIGNAL NEWNYM")},
                        {u"CLOSECIRCUIT"_s, bench.commandCount("CLOSECIRCUIT 5")},
                        {u"search"_s, bench.searches},
@@ -219,10 +219,10 @@ private Q_SLOTS:
         };
         const std::vector<Intent> intents{
             {[&] { session.connectToTor(); },
-             {u"connect"_s, u"direct"_s, u"through Tor"_s, u"look-up"_s}},
-            {[&] { session.runChecks(); }, {u"direct"_s, u"through Tor"_s, u"look-up"_s}},
-            {[&] { session.checkDNS(); }, {u"look-up"_s}},
-            {[&] { session.fixDNS(); }, {u"fix-dns"_s, u"look-up"_s}},
+             {u"connect"_s, u"direct"_s, u"through Tor"_s, u"lookup"_s}},
+            {[&] { session.runChecks(); }, {u"direct"_s, u"through Tor"_s, u"lookup"_s}},
+            {[&] { session.checkDNS(); }, {u"lookup"_s}},
+            {[&] { session.fixDNS(); }, {u"fix-dns"_s, u"lookup"_s}},
             {[&] { session.newIdentity(); }, {u"NEWNYM"_s, u"through Tor"_s}},
             {[&] { session.newCircuit(u"5"_s); }, {u"CLOSECIRCUIT"_s}},
             {[&] { session.optimizeCircuits(); }, {u"through Tor"_s}},
