@@ -328,10 +328,16 @@ private Q_SLOTS:
                  qPrintable(QString::number(after.heapBytes - before.heapBytes)));
 
         // The measurement would notice one small window that is kept in each round.
-        const auto kept = shown.windows->make(u"main/QuitDialog.qml"_s,
-                                              {{u"strict"_s, true}, {u"busy"_s, false}});
-        QVERIFY(kept);
-        QVERIFY(tidied().heapBytes - after.heapBytes > limitBytes / measured);
+        const auto make = [&shown] {
+            return shown.windows->make(u"main/QuitDialog.qml"_s,
+                                       {{u"strict"_s, true}, {u"busy"_s, false}});
+        };
+        const auto first = make(); // brings the component itself, and frees what others had cached
+        const qint64 withOne = tidied().heapBytes;
+        const auto kept = make();
+        QVERIFY(first && kept);
+        const qint64 one = tidied().heapBytes - withOne;
+        QVERIFY2(one > limitBytes / measured, qPrintable(QString::number(one)));
         qInfo("%lld bytes in %d rounds", static_cast<long long>(after.heapBytes - before.heapBytes),
               measured);
     }

@@ -124,7 +124,7 @@ class SessionJoinTest : public QObject {
         }
         return condition();
     }
-    // A computer with one bridge, in a network in which Tor gets nowhere.
+    // A computer with one bridge, in a network in which Tor cannot connect.
     static void block(Workbench &bench)
     {
         bench.controller().customBridges.set(u"192.0.2.1:443"_s);

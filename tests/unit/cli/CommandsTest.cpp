@@ -261,7 +261,7 @@ private Q_SLOTS:
         }
         QVERIFY(*ended == ExitStatus::done);
         const QString offer
-            = u"\nTor gets nowhere in this network. Veldmark can try bridges: Your bridges. "
+            = u"\nTor cannot connect in this network. Veldmark can try bridges: Your bridges. "
               "Try them with: veldmarkctl climb\n"_s;
         QVERIFY2(said.count(offer) == 1, qPrintable(said));
         const qsizetype direct = said.indexOf(u"\nDirect: No answer. ("_s);
