@@ -115,7 +115,7 @@ class Bridges(LabCase):
         with self.product.session() as session:
             session.wait(is_probed)
             with self.download(at.WEB_HOSTS[0]):
-                for circuit in self.circuits_to(at.WEB_ADDRESS):
+                for circuit in self.circuits_to(*at.WEB_SITES):
                     self.assertEqual((circuit["hops"][0]["ip"], circuit["hops"][0]["country"]), (OBFS4.address, "no"))
         self.assert_restored()
 

@@ -120,8 +120,8 @@ class BothModes(LabCase):
             for _ in range(3):
                 self.product.run_verb("new-identity", check=True)
                 self.assertIn(self.through_tor()["IP"], german)
-            with self.download(at.WEB_HOSTS[0]):  # tor names a connected stream's target by its address
-                carrying = self.circuits_to(at.WEB_ADDRESS)
+            with self.download(at.WEB_HOSTS[0]):
+                carrying = self.circuits_to(*at.WEB_SITES)
             for circuit in carrying:
                 self.assertEqual(circuit["hops"][-1]["country"], "de")
         self.assert_restored()

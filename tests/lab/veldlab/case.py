@@ -96,15 +96,15 @@ class LabCase(unittest.TestCase):
             finally:
                 process.kill()
 
-    def circuits_to(self, host, timeout=20):
-        """Waits for circuits that have the host among their sites, and returns them."""
+    def circuits_to(self, *hosts, timeout=20):
+        """Waits for circuits that have one of the hosts among their sites, and returns them."""
         deadline = time.monotonic() + timeout
         while time.monotonic() < deadline:
             circuits = json.loads(self.product.run_verb("circuits", "--json", check=True).stdout)
-            if found := [circuit for circuit in circuits if host in circuit["sites"]]:
+            if found := [circuit for circuit in circuits if not set(circuit["sites"]).isdisjoint(hosts)]:
                 return found
             time.sleep(0.1)
-        self.fail(f"no circuit to {host} among {circuits}")
+        self.fail(f"no circuit to {hosts} among {circuits}")
 
     def set(self, key, value):
         self.product.run_verb("set", key, value, check=True)

@@ -51,6 +51,8 @@ DNS_ADDRESS, DNS_ADDRESS6 = "203.0.113.39", "2001:db8:cb::39"
 CHECK_HOST = "check.torproject.org"
 CHECK_URL = f"https://{CHECK_HOST}/api/ip"
 WEB_HOSTS = ("www.example.test", "example.test", "files.example.test")
+# How circuits show a site of it: by its name where the program heard of the stream, else by the address that Tor names.
+WEB_SITES = (WEB_ADDRESS, *WEB_HOSTS)
 
 OR_PORT = 5000
 DIR_PORT = 7000
