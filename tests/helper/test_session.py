@@ -383,7 +383,7 @@ class Session(HelperTest):
         )
         done = self.machine.connect(check=False)
         self.machine.shell("umount /var/lib/veldmark/journal; rmdir /mnt/j")
-        self.assertOneLine(done, "journal")
+        self.assertOneLine(done, "The record of the former network settings cannot be written.")
         self.assertEqual(self.machine.snapshot(), self.before)
 
     def test_fix_dns_puts_back_the_mount_and_flushed_rules(self):
