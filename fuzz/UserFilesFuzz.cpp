@@ -16,7 +16,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
             continue;
         }
         REQUIRE(MarkedBlock::hasStart(addition.text));
-        REQUIRE(MarkedBlock::removed(addition.text, position, addition.separation) == text);
+        REQUIRE(MarkedBlock::removed(addition.text, position, addition.inserted) == text);
     }
     return 0;
 }
