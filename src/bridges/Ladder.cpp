@@ -1,9 +1,9 @@
 #include "bridges/Ladder.h"
 
+#include "base/ProgramFile.h"
 #include "bridges/BridgeLines.h"
 #include "bridges/BridgePlan.h"
 
-#include <QFileInfo>
 #include <QSet>
 
 #include <algorithm>
@@ -22,12 +22,6 @@ const QString bridgeOption = QStringLiteral("--bridge");
 // start.
 constexpr qsizetype longestCommand = 16384 - 64;
 
-bool isExecutable(const QString &path)
-{
-    const QFileInfo file(path);
-    return file.isFile() && file.isExecutable();
-}
-
 // Whether Tor takes the line, and the program for it is there now; `found` may be old.
 bool canBeUsed(const QString &line, const PluggableTransports &found)
 {
@@ -37,7 +31,7 @@ bool canBeUsed(const QString &line, const PluggableTransports &found)
     const auto arguments = bridgeArguments({line}, found);
     return arguments
         && (arguments->size() == 2 // no program is needed
-            || isExecutable(arguments->constLast()));
+            || isProgram(arguments->constLast()));
 }
 
 QStringList rungLines(BridgeChoice rung, const QString &customBridges,
