@@ -80,6 +80,19 @@ private:
 
     static QCoro::Task<void> waitFor(ResumeOnce<bool> gate) { co_await gate; }
 
+    // Ends the session's Tor. Another one can be started after that.
+    static bool torDies(Workbench &bench)
+    {
+        bench.tor.stopListening();
+        const bool isNoticed = until([&] {
+            bench.clock.advance(2s);
+            settle();
+            return bench.controller().phase() == ConnectionPhase::stale;
+        });
+        bench.tor.listen();
+        return isNoticed;
+    }
+
     static QStringList steps(const TorController &c)
     {
         QStringList lines;
@@ -533,13 +546,7 @@ private Q_SLOTS:
         bench.setBootstrap("PROGRESS=100 TAG=done SUMMARY=\"Done\"");
         QVERIFY(bench.connect());
         const QStringList words = bench.lastHelperRun(u"connect"_s);
-        bench.tor.stopListening(); // Tor dies
-        QVERIFY(until([&] {
-            bench.clock.advance(2s);
-            settle();
-            return c.phase() == ConnectionPhase::stale;
-        }));
-        bench.tor.listen();
+        QVERIFY(torDies(bench));
         bench.transports.builtin.clear(); // and a search finds something else
         const auto searching = c.locateTransports();
         QVERIFY(Workbench::finished(searching));
@@ -564,13 +571,7 @@ private Q_SLOTS:
             bench.setBootstrap("PROGRESS=100 TAG=done SUMMARY=\"Done\"");
             QVERIFY(bench.connect());
             QVERIFY(bench.lastHelperRun(u"connect"_s).contains(own));
-            bench.tor.stopListening();
-            QVERIFY(until([&] {
-                bench.clock.advance(2s);
-                settle();
-                return c.phase() == ConnectionPhase::stale;
-            }));
-            bench.tor.listen();
+            QVERIFY(torDies(bench));
             change(c);
             QVERIFY(bench.connect());
             QCOMPARE(bench.helperRunCount(u"replace"_s), 1);
@@ -588,13 +589,7 @@ private Q_SLOTS:
         bench.setBootstrap("PROGRESS=100 TAG=done SUMMARY=\"Done\"");
         QVERIFY(bench.connect());
         const QStringList words = bench.lastHelperRun(u"connect"_s);
-        bench.tor.stopListening();
-        QVERIFY(until([&] {
-            bench.clock.advance(2s);
-            settle();
-            return c.phase() == ConnectionPhase::stale;
-        }));
-        bench.tor.listen();
+        QVERIFY(torDies(bench));
         c.climb.set(Climb::never);
         bench.cancelPrompt(u"connect"_s);
         QVERIFY(!bench.connect());
@@ -629,13 +624,7 @@ private Q_SLOTS:
         bench.clock.advance(1s);
         QVERIFY(Workbench::finished(connecting));
         QVERIFY(c.activeBridge() == BridgeChoice::custom);
-        bench.tor.stopListening();
-        QVERIFY(until([&] {
-            bench.clock.advance(2s);
-            settle();
-            return c.phase() == ConnectionPhase::stale;
-        }));
-        bench.tor.listen();
+        QVERIFY(torDies(bench));
         QVERIFY(bench.connect());
         QCOMPARE(bench.helperRunCount(u"replace"_s), 0);
         QCOMPARE(bench.lastHelperRun(u"connect"_s), words);
